@@ -1,0 +1,289 @@
+// Numbers of every resource of the module. A screen owns a block of 100 control ids; string ids are
+// grouped by meaning. Plain defines: read by windres, by the windows and by the plain units alike.
+#pragma once
+
+// Resource numbers that are fixed from outside: page bitmaps 162 to 167, and the string ids below 120.
+
+// ---- Strings: fixed numbers -----------------------------------------------------------------------
+#define IDS_ERROR_OBJECT_NOT_FOUND 26
+#define IDS_PROPERTIES_TITLE 40
+#define IDS_COLUMN_PROPERTY 41
+#define IDS_COLUMN_VALUE 42
+#define IDS_COMPLEX_VALUE 43
+#define IDS_PRODUCT_NAME 68
+#define IDS_DESCRIBE_ITEM_NOT_UNIQUE 85
+#define IDS_DESCRIBE_ITEM_NOT_FOUND 86
+#define IDS_DESCRIBE_OBJECT_NOT_UNIQUE 87
+#define IDS_DESCRIBE_OBJECT_DISABLED 88
+#define IDS_DESCRIBE_OBJECT_NOT_FOUND 89
+#define IDS_DESCRIBE_OBJECT_NOT_VISIBLE 90
+#define IDS_TIP_ADD_PROCESS 94
+#define IDS_TIP_REMOVE_PROCESS 95
+#define IDS_OBJECT_SELECTION_CAPTION 102
+#define IDS_ERROR_ANY 109
+#define IDS_DESCRIBE_ANY_ERROR 110
+
+// ---- Strings: words of a scenario -----------------------------------------------------------------
+#define IDS_COLUMN_TYPE 200
+#define IDS_COLUMN_DETAILS 201
+#define IDS_TRIGGER_OBJECT_STATE 202
+#define IDS_TRIGGER_POPUP 203
+#define IDS_TRIGGER_ERROR 204
+#define IDS_TRIGGER_CRASH 205
+#define IDS_OPERATION_KEYBOARD_OR_MOUSE 206
+#define IDS_OPERATION_FUNCTION 207
+#define IDS_OPERATION_CLOSE_PROCESS 208
+#define IDS_OPERATION_RESTART 209
+#define IDS_LIST_KEYBOARD_CLICK 210
+#define IDS_LIST_BUTTON_LABEL 211
+#define IDS_LIST_FUNCTION 212
+#define IDS_SUMMARY_TRIGGER 213
+#define IDS_SUMMARY_OPERATIONS 214
+#define IDS_SUMMARY_OPTION 215
+#define IDS_OPTION_REPEAT_STEP 216
+#define IDS_OPTION_NEXT_STEP 217
+#define IDS_OPTION_NEXT_ACTION 218
+#define IDS_OPTION_NEXT_ITERATION 219
+#define IDS_OPTION_RESTART_RUN 220
+#define IDS_OPTION_STOP_RUN 221
+#define IDS_KEY_ENTER 222
+#define IDS_KEY_SHIFT 223
+#define IDS_KEY_CONTROL 224
+#define IDS_KEY_ALT 225
+#define IDS_KEY_ESCAPE 226
+
+// ---- Strings: texts of the replay engine's error codes --------------------------------------------
+#define IDS_REPLAY_ITEM_NOT_UNIQUE 240
+#define IDS_REPLAY_ITEM_NOT_FOUND 241
+#define IDS_REPLAY_OBJECT_NOT_UNIQUE 242
+#define IDS_REPLAY_OBJECT_DISABLED 243
+#define IDS_REPLAY_OBJECT_NOT_VISIBLE 244
+
+// ---- Strings: recovery files ----------------------------------------------------------------------
+#define IDS_UNTITLED 260
+#define IDS_FILE_FILTER 261
+#define IDS_FILE_OPEN_CAPTION 262
+#define IDS_FILE_SAVE_CAPTION 263
+#define IDS_FILE_EXTENSION 264
+#define IDS_FILE_NOT_FOUND 265
+#define IDS_FILE_READ_ONLY 266
+#define IDS_FILE_SAVE_FAILED 267
+#define IDS_FILE_SAVE_CHANGES 268
+#define IDS_FILE_NOT_LEGAL 269
+#define IDS_FILE_DISK_FULL 270
+#define IDS_SCENARIO_NOT_FOUND 271
+#define IDS_SCENARIO_REPLACE 272
+#define IDS_SCENARIO_NAME_TAKEN 273
+#define IDS_LIBRARY_FILTER 274
+#define IDS_LIBRARY_OPEN_CAPTION 275
+
+// ---- Strings: wizard ------------------------------------------------------------------------------
+#define IDS_WIZARD_TITLE 300
+#define IDS_OBJECT_NOT_SUPPORTED 301
+#define IDS_OBJECT_NOT_FOUND_AT_POINT 302
+#define IDS_PROPERTY_MUST_BE_CHECKED 303
+#define IDS_KEY_REQUIRED 304
+#define IDS_NO_BUTTONS 305
+#define IDS_PROCESS_REQUIRED 306
+#define IDS_PROCESS_ILLEGAL 307
+#define IDS_PROCESS_EXISTS 308
+#define IDS_FUNCTION_NAME_INVALID 309
+#define IDS_LIBRARY_INVALID 310
+#define IDS_PROTOTYPE_LABEL 311
+#define IDS_TIP_POINTING_HAND 312
+#define IDS_TIP_MOVE_UP 313
+#define IDS_TIP_MOVE_DOWN 314
+#define IDS_TIP_DELETE 315
+
+// ---- Strings: Recovery Scenario Manager -----------------------------------------------------------
+#define IDS_MANAGER_TITLE 340
+#define IDS_MANAGER_TITLE_FILE 341
+#define IDS_TIP_NEW_FILE 342
+#define IDS_TIP_OPEN_FILE 343
+#define IDS_TIP_SAVE_FILE 344
+#define IDS_TIP_NEW_SCENARIO 345
+#define IDS_TIP_EDIT 346
+#define IDS_TIP_PROPERTIES 347
+#define IDS_TIP_COPY 348
+#define IDS_TIP_PASTE 349
+#define IDS_MENU_COPY 350
+#define IDS_MENU_PASTE 351
+#define IDS_MENU_BROWSE 352
+#define IDS_MENU_SAVE 353
+#define IDS_MENU_SAVE_AS 354
+#define IDS_MENU_OPEN 355
+#define IDS_MENU_CLOSE 356
+
+// ---- Strings: test settings -----------------------------------------------------------------------
+#define IDS_ACTIVATE_EVERY_STEP 380
+#define IDS_ACTIVATE_ON_ERROR 381
+#define IDS_ACTIVATE_NEVER 382
+#define IDS_ALREADY_ASSOCIATED 383
+#define IDS_DIFFERENT_FILE 384
+#define IDS_DEFAULT_FAILED 385
+#define IDS_TIP_ADD 386
+#define IDS_TIP_REMOVE 387
+#define IDS_TIP_BROWSE 388
+#define IDS_COLUMN_SCENARIO 389
+#define IDS_COLUMN_FILE 390
+#define IDS_RECOVERY_TAB_TITLE 391
+
+// ---- Strings: add-in ------------------------------------------------------------------------------
+#define IDS_ADDIN_COMMAND 420
+#define IDS_ADDIN_NAME 421
+
+// ---- Pictures -------------------------------------------------------------------------------------
+// PNG, three sizes each: number = base (100 %), base + 1000 (150 %), base + 2000 (200 %).
+#define IDB_PAGE_WELCOME 162
+#define IDB_PAGE_TRIGGER 163
+#define IDB_PAGE_OPERATIONS 164
+#define IDB_PAGE_POST_RECOVERY 165
+#define IDB_PAGE_NAME 166
+#define IDB_PAGE_FINISH 167
+
+#define IDI_POINTING_HAND 500
+#define IDI_MOVE_UP 501
+#define IDI_MOVE_DOWN 502
+#define IDI_DELETE 503
+#define IDI_ADD 504
+#define IDI_REMOVE 505
+#define IDI_PROPERTIES 506
+#define IDI_FILE_NEW 507
+#define IDI_FILE_OPEN 508
+#define IDI_FILE_SAVE 509
+#define IDI_SCENARIO_NEW 510
+#define IDI_SCENARIO_EDIT 511
+#define IDI_COPY 512
+#define IDI_PASTE 513
+#define IDI_TRIGGER_OBJECT_STATE 514
+#define IDI_TRIGGER_POPUP 515
+#define IDI_TRIGGER_ERROR 516
+#define IDI_TRIGGER_CRASH 517
+#define IDI_SCENARIO_UNREADABLE 518
+#define IDI_RECOVERY_FILE 519
+
+// ---- Screens: dialog template, then its controls ----------------------------------------------------
+// Every wizard page: the bitmap on the left and the bold title.
+#define IDC_PAGE_BITMAP 990
+#define IDC_PAGE_TITLE 991
+
+#define IDD_WELCOME 1000
+
+#define IDD_SELECT_TRIGGER 1100
+#define IDC_SELECT_TRIGGER_POPUP 1101
+#define IDC_SELECT_TRIGGER_OBJECT_STATE 1102
+#define IDC_SELECT_TRIGGER_ERROR 1103
+#define IDC_SELECT_TRIGGER_CRASH 1104
+
+#define IDD_POPUP 1200
+#define IDC_POPUP_HAND 1201
+#define IDC_POPUP_TITLE_CHECK 1202
+#define IDC_POPUP_TITLE 1203
+#define IDC_POPUP_TITLE_REGEX 1204
+#define IDC_POPUP_TEXT_CHECK 1205
+#define IDC_POPUP_TEXT 1206
+#define IDC_POPUP_TEXT_REGEX 1207
+
+#define IDD_SELECT_OBJECT 1300
+#define IDC_SELECT_OBJECT_HAND 1301
+#define IDC_SELECT_OBJECT_TREE 1302
+
+#define IDD_OBJECT_PROPS 1400
+#define IDC_OBJECT_PROPS_TREE 1401
+#define IDC_OBJECT_PROPS_ADD_REMOVE 1402
+#define IDC_OBJECT_PROPS_GRID 1403
+#define IDC_OBJECT_PROPS_VALUE 1404
+#define IDC_OBJECT_PROPS_REGEX 1405
+
+#define IDD_SELECT_ERROR 1500
+#define IDC_SELECT_ERROR_LIST 1501
+#define IDC_SELECT_ERROR_DESCRIPTION 1502
+
+// The process-list pair: the same control ids on both of its pages.
+#define IDD_CRASH 1600
+#define IDD_CLOSE_PROCESSES 2100
+#define IDC_PROCESSES_RUNNING 1601
+#define IDC_PROCESSES_ADD_SELECTED 1602
+#define IDC_PROCESSES_NEW 1603
+#define IDC_PROCESSES_REMOVE 1604
+#define IDC_PROCESSES_CHOSEN 1605
+
+#define IDD_OPERATION_LIST 1700
+#define IDC_OPERATION_LIST_ROWS 1701
+#define IDC_OPERATION_LIST_UP 1702
+#define IDC_OPERATION_LIST_DOWN 1703
+#define IDC_OPERATION_LIST_DELETE 1704
+#define IDC_OPERATION_LIST_ANOTHER 1705
+#define IDC_OPERATION_LIST_NOTE 1706
+
+#define IDD_SELECT_OPERATION 1800
+#define IDC_SELECT_OPERATION_CLICK 1801
+#define IDC_SELECT_OPERATION_PROCESS 1802
+#define IDC_SELECT_OPERATION_FUNCTION 1803
+#define IDC_SELECT_OPERATION_RESTART 1804
+#define IDC_SELECT_OPERATION_NOTE 1805
+
+#define IDD_OPERATION_CLICK 1900
+#define IDC_CLICK_ENTER 1901
+#define IDC_CLICK_ESCAPE 1902
+#define IDC_CLICK_LABEL 1903
+#define IDC_CLICK_LABEL_LIST 1904
+#define IDC_CLICK_HAND 1905
+#define IDC_CLICK_KEYS 1906
+#define IDC_CLICK_HOTKEY 1907
+#define IDC_CLICK_HINT 1908
+
+#define IDD_OPERATION_FUNC 2000
+#define IDC_FUNC_LIBRARY 2001
+#define IDC_FUNC_BROWSE 2002
+#define IDC_FUNC_SELECT 2003
+#define IDC_FUNC_LIST 2004
+#define IDC_FUNC_DEFINE 2005
+#define IDC_FUNC_NAME 2006
+#define IDC_FUNC_PROTOTYPE 2007
+#define IDC_FUNC_TEXT 2008
+
+#define IDD_TEST_FLOW 2200
+#define IDC_TEST_FLOW_FIRST 2201  // six radio buttons in selection order
+#define IDC_TEST_FLOW_LAST 2206
+
+#define IDD_SCEN_DESCRIPTION 2300
+#define IDC_SCEN_FILE 2301
+#define IDC_SCEN_NAME 2302
+#define IDC_SCEN_DESCRIPTION 2303
+
+#define IDD_SUMMARY 2400
+#define IDC_SUMMARY_TEXT 2401
+#define IDC_SUMMARY_ADD_CURRENT 2402
+#define IDC_SUMMARY_ADD_DEFAULT 2403
+
+#define IDD_EDIT_PROPERTIES 2500
+#define IDC_EDIT_PROPERTIES_GRID 2501
+
+#define IDD_MANAGER 3000
+#define IDC_MANAGER_FILE 3001
+#define IDC_MANAGER_NEW 3002
+#define IDC_MANAGER_OPEN 3003
+#define IDC_MANAGER_SAVE 3004
+#define IDC_MANAGER_NEW_SCENARIO 3005
+#define IDC_MANAGER_EDIT 3006
+#define IDC_MANAGER_PROPERTIES 3007
+#define IDC_MANAGER_COPY 3008
+#define IDC_MANAGER_PASTE 3009
+#define IDC_MANAGER_DELETE 3010
+#define IDC_MANAGER_LIST 3011
+#define IDC_MANAGER_DESCRIPTION 3012
+
+#define IDD_PROPERTIES_GENERAL 3100
+#define IDC_GENERAL_FILE 3101
+#define IDC_GENERAL_NAME 3102
+#define IDC_GENERAL_DESCRIPTION 3103
+#define IDD_PROPERTIES_POPUP 3200
+#define IDD_PROPERTIES_OBJECT_STATE 3300
+#define IDD_PROPERTIES_ERROR 3400
+#define IDD_PROPERTIES_CRASH 3500
+#define IDD_PROPERTIES_ACTIONS 3600
+#define IDD_PROPERTIES_POST_RECOVERY 3700
+
+#define IDD_RECOVERY_TAB 4000
+#define IDD_ADD_SCENARIO 4100
