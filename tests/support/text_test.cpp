@@ -1,0 +1,79 @@
+#include "support/Text.h"
+
+#include <gtest/gtest.h>
+
+#include "support/LibraryAppend.h"
+
+namespace recoveryui::support {
+namespace {
+
+TEST(TextTest, TrimsBlanksAndWhiteSpace) {
+    struct {
+        std::wstring text, blanks, white, leading;
+    } const rows[] = {
+        {L"", L"", L"", L""},
+        {L"   ", L"", L"", L""},
+        {L"  a b ", L"a b", L"a b", L"a b "},
+        {L"\t a\r\n", L"\t a\r\n", L"a", L"a\r\n"},
+        {L"\v\fx\u00A0 ", L"\v\fx\u00A0", L"x\u00A0", L"x\u00A0 "},
+    };
+    for (const auto& row : rows) {
+        EXPECT_EQ(TrimBlanks(row.text), row.blanks);
+        EXPECT_EQ(TrimWhiteSpace(row.text), row.white);
+        EXPECT_EQ(TrimLeadingWhiteSpace(row.text), row.leading);
+    }
+}
+
+TEST(TextTest, LineEndsSurviveTheRoundTripThroughAnEditBox) {
+    EXPECT_EQ(ToEditLineEnds(L"a\nb\n"), L"a\r\nb\r\n");
+    EXPECT_EQ(ToStoredLineEnds(L"a\r\nb\r\n"), L"a\nb\n");
+    for (const std::wstring stored : {L"", L"\n", L"a\n\nb", L"a\r\nb", L"\r", L"\n\r\n\r"}) {
+        EXPECT_EQ(ToStoredLineEnds(ToEditLineEnds(stored)), stored);
+    }
+}
+
+TEST(TextTest, FillsInValuesWithoutReadingThemAsPatterns) {
+    EXPECT_EQ(Fill(L"%s::%s", {L"%s.vbs", L"Fix"}), L"%s.vbs::Fix");
+    EXPECT_EQ(Fill(L"100% of %s", {L"it"}), L"100% of it");
+    EXPECT_EQ(Fill(L"none", {L"x"}), L"none");
+    EXPECT_EQ(Fill(L"%s and %s", {L"one"}), L"one and %s");
+}
+
+TEST(TextTest, NamesCompareIgnoringCaseInEveryScript) {
+    struct {
+        std::wstring left, right;
+        bool equal;
+    } const rows[] = {
+        {L"NOTEPAD.exe", L"notepad.EXE", true},
+        {L"", L"", true},
+        {L"a", L"ab", false},
+        {L"[", L"{", false},                   // beside the letters, 0x20 apart as letters are
+        {L"\u00C4RGER", L"\u00E4rger", true},  // umlaut
+        {L"\u00D7", L"\u00F7", false},         // the signs in the middle of the Latin letters
+        {L"\u0178", L"\u00FF", true},
+        {L"\u0141\u00D3D\u0179", L"\u0142\u00F3d\u017A", true},
+        {L"\u0391\u038F", L"\u03B1\u03CE", true},  // Greek
+        {L"\u0416\u0401", L"\u0436\u0451", true},  // Cyrillic
+        {L"\u0130", L"i", false},
+        {L"\u5B57", L"\u5B57", true},
+    };
+    for (const auto& row : rows) {
+        EXPECT_EQ(EqualIgnoringCase(row.left, row.right), row.equal) << row.left.size();
+        EXPECT_EQ(Lower(row.left) == Lower(row.right), row.equal);
+    }
+}
+
+TEST(LibraryAppendTest, AFunctionGoesBehindALineBreakWithSingleLineEnds) {
+    struct {
+        std::wstring text, written;
+    } const rows[] = {
+        {L"Function F()\r\n\r\nEnd Function\r\n", L"\r\nFunction F()\r\n\r\nEnd Function"},
+        {L"\t\r\n Function F()\nEnd Function \v\f", L"\r\nFunction F()\r\nEnd Function"},
+        {L"a\r\r\nb\rc", L"\r\na\r\nbc"},
+        {L" \r\n ", L"\r\n"},
+    };
+    for (const auto& row : rows) EXPECT_EQ(AppendedText(row.text), row.written);
+}
+
+}  // namespace
+}  // namespace recoveryui::support
