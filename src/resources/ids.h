@@ -128,6 +128,9 @@
 #define IDS_COLUMN_FILE 390
 #define IDS_RECOVERY_TAB_TITLE 391
 
+// ---- Strings: help ----------------------------------------------------------------------------------
+#define IDS_HELP_MISSING 440
+
 // ---- Strings: add-in ------------------------------------------------------------------------------
 #define IDS_ADDIN_COMMAND 420
 #define IDS_ADDIN_NAME 421

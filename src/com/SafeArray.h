@@ -1,0 +1,149 @@
+// A typed wrapper over a safe array.
+#pragma once
+
+#include <windows.h>
+
+#include <oleauto.h>
+
+#include <stdexcept>
+#include <utility>
+
+#include "com/Bstr.h"
+#include "com/Ptr.h"
+#include "com/Variant.h"
+
+namespace recoveryui::com {
+
+// How an element type is stored, and what owns a copy of it. SafeArrayPutElement wants the pointer
+// itself for strings and objects, the address of the value for all else.
+template <class Element>
+struct ElementTraits;
+
+template <>
+struct ElementTraits<VARIANT> {
+    static constexpr VARTYPE kType = VT_VARIANT;
+    using Owner = Variant;
+    static void* Address(const Variant& owner) { return const_cast<VARIANT*>(&owner.Get()); }
+    static void* Receive(Variant& owner) { return owner.Put(); }
+};
+template <>
+struct ElementTraits<BSTR> {
+    static constexpr VARTYPE kType = VT_BSTR;
+    using Owner = Bstr;
+    static void* Address(const Bstr& owner) { return owner.Get(); }
+    static void* Receive(Bstr& owner) { return owner.Put(); }
+};
+template <>
+struct ElementTraits<IUnknown*> {
+    static constexpr VARTYPE kType = VT_UNKNOWN;
+    using Owner = Ptr<IUnknown>;
+    static void* Address(const Ptr<IUnknown>& owner) { return owner.Get(); }
+    static void* Receive(Ptr<IUnknown>& owner) { return owner.ReleaseAndGetAddressOf(); }
+};
+template <>
+struct ElementTraits<unsigned long> {
+    static constexpr VARTYPE kType = VT_UI4;
+    using Owner = unsigned long;
+    static void* Address(const unsigned long& owner) { return const_cast<unsigned long*>(&owner); }
+    static void* Receive(unsigned long& owner) { return &owner; }
+};
+
+// Owns a SAFEARRAY of one dimension (a second one on request), lower bounds 0 when created here. An
+// index outside the bounds throws std::runtime_error("CVtlSafeArray"); every other failure is returned.
+template <class Element>
+class CVtlSafeArray {
+public:
+    using Traits = ElementTraits<Element>;
+    using Owner = typename Traits::Owner;
+
+    CVtlSafeArray() noexcept = default;
+    explicit CVtlSafeArray(SAFEARRAY* array) noexcept : array_(array) {}
+    CVtlSafeArray(CVtlSafeArray&& other) noexcept : array_(other.Detach()) {}
+    CVtlSafeArray& operator=(CVtlSafeArray&& other) noexcept {
+        std::swap(array_, other.array_);
+        return *this;
+    }
+    CVtlSafeArray(const CVtlSafeArray&) = delete;
+    CVtlSafeArray& operator=(const CVtlSafeArray&) = delete;
+    ~CVtlSafeArray() { Release(); }
+
+    [[nodiscard]] HRESULT Create(ULONG count, ULONG secondCount = 0) {
+        Release();
+        SAFEARRAYBOUND bounds[2] = {{count, 0}, {secondCount, 0}};
+        array_ = SafeArrayCreate(Traits::kType, secondCount ? 2 : 1, bounds);
+        return array_ ? S_OK : E_OUTOFMEMORY;
+    }
+    void Release() noexcept {
+        if (array_) SafeArrayDestroy(std::exchange(array_, nullptr));
+    }
+
+    SAFEARRAY* Get() const noexcept { return array_; }
+    // For an out-argument; releases what was held. Verify before use.
+    SAFEARRAY** Put() noexcept {
+        Release();
+        return &array_;
+    }
+    SAFEARRAY* Detach() noexcept { return std::exchange(array_, nullptr); }
+    bool IsNull() const noexcept { return array_ == nullptr; }
+
+    // S_OK for a present array of one dimension and this element type; what a stranger handed over may
+    // be anything.
+    [[nodiscard]] HRESULT Verify() const noexcept {
+        if (!array_) return E_POINTER;
+        VARTYPE type = VT_EMPTY;
+        if (SafeArrayGetDim(array_) != 1) return DISP_E_BADINDEX;
+        const HRESULT hr = SafeArrayGetVartype(array_, &type);
+        if (FAILED(hr)) return hr;
+        if (type == Traits::kType) return S_OK;
+        return type == VT_DISPATCH && Traits::kType == VT_UNKNOWN ? S_OK : DISP_E_TYPEMISMATCH;
+    }
+
+    LONG LowerBound() const noexcept {
+        LONG bound = 0;
+        return array_ && SUCCEEDED(SafeArrayGetLBound(array_, 1, &bound)) ? bound : 0;
+    }
+    LONG UpperBound() const noexcept {
+        LONG bound = -1;
+        return array_ && SUCCEEDED(SafeArrayGetUBound(array_, 1, &bound)) ? bound : -1;
+    }
+    // Elements of the first dimension; 0 for no array.
+    ULONG Count() const noexcept { return array_ ? static_cast<ULONG>(UpperBound() - LowerBound() + 1) : 0; }
+
+    // A copy of the element at an index counted from the lower bound.
+    [[nodiscard]] HRESULT GetElement(LONG index, Owner* element) const {
+        CheckIndex(index);
+        return SafeArrayGetElement(array_, &index, Traits::Receive(*element));
+    }
+    // Stores a copy of the element.
+    [[nodiscard]] HRESULT PutElement(LONG index, const Owner& element) {
+        CheckIndex(index);
+        return SafeArrayPutElement(array_, &index, Traits::Address(element));
+    }
+
+    // Keeps the first elements.
+    [[nodiscard]] HRESULT Resize(ULONG count) {
+        if (!array_) return Create(count);
+        SAFEARRAYBOUND bound = {count, LowerBound()};
+        return SafeArrayRedim(array_, &bound);
+    }
+    [[nodiscard]] HRESULT Reverse() {
+        for (LONG low = LowerBound(), high = UpperBound(); low < high; ++low, --high) {
+            Owner first{}, last{};
+            HRESULT hr = GetElement(low, &first);
+            if (SUCCEEDED(hr)) hr = GetElement(high, &last);
+            if (SUCCEEDED(hr)) hr = PutElement(low, last);
+            if (SUCCEEDED(hr)) hr = PutElement(high, first);
+            if (FAILED(hr)) return hr;
+        }
+        return S_OK;
+    }
+
+private:
+    void CheckIndex(LONG index) const {
+        if (!array_ || index < LowerBound() || index > UpperBound()) throw std::runtime_error("CVtlSafeArray");
+    }
+
+    SAFEARRAY* array_ = nullptr;
+};
+
+}  // namespace recoveryui::com

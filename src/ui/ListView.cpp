@@ -1,0 +1,112 @@
+#include "ui/ListView.h"
+
+namespace recoveryui::ui {
+namespace {
+
+LVITEMW StateItem(UINT state) {
+    LVITEMW item{};
+    item.stateMask = LVIS_SELECTED | LVIS_FOCUSED;
+    item.state = state;
+    return item;
+}
+
+}  // namespace
+
+void ListView::SetExtendedStyle(DWORD style) const {
+    SendMessageW(window_, LVM_SETEXTENDEDLISTVIEWSTYLE, style, static_cast<LPARAM>(style));
+}
+
+void ListView::AddColumn(const std::wstring& title) const {
+    const HWND header = ListView_GetHeader(window_);
+    LVCOLUMNW column{};
+    column.mask = LVCF_TEXT | LVCF_SUBITEM;
+    column.pszText = const_cast<LPWSTR>(title.c_str());
+    column.iSubItem = Header_GetItemCount(header);
+    SendMessageW(window_, LVM_INSERTCOLUMNW, static_cast<WPARAM>(column.iSubItem),
+                 reinterpret_cast<LPARAM>(&column));
+}
+
+int ListView::InsertRow(int index, const std::wstring& text, int image, LPARAM data) const {
+    LVITEMW item{};
+    item.mask = LVIF_TEXT | LVIF_PARAM | (image >= 0 ? LVIF_IMAGE : 0);
+    item.iItem = index;
+    item.pszText = const_cast<LPWSTR>(text.c_str());
+    item.iImage = image;
+    item.lParam = data;
+    return static_cast<int>(SendMessageW(window_, LVM_INSERTITEMW, 0, reinterpret_cast<LPARAM>(&item)));
+}
+
+void ListView::SetText(int row, int column, const std::wstring& text) const {
+    LVITEMW item{};
+    item.iSubItem = column;
+    item.pszText = const_cast<LPWSTR>(text.c_str());
+    SendMessageW(window_, LVM_SETITEMTEXTW, static_cast<WPARAM>(row), reinterpret_cast<LPARAM>(&item));
+}
+
+std::wstring ListView::Text(int row, int column) const {
+    std::wstring text(256, L'\0');
+    for (;;) {
+        LVITEMW item{};
+        item.iSubItem = column;
+        item.pszText = text.data();
+        item.cchTextMax = static_cast<int>(text.size());
+        const auto length = static_cast<size_t>(
+            SendMessageW(window_, LVM_GETITEMTEXTW, static_cast<WPARAM>(row), reinterpret_cast<LPARAM>(&item)));
+        if (length + 1 < text.size()) {
+            text.resize(length);
+            return text;
+        }
+        text.resize(text.size() * 2);
+    }
+}
+
+void ListView::DeleteRow(int row) const { ListView_DeleteItem(window_, row); }
+void ListView::Clear() const { ListView_DeleteAllItems(window_); }
+int ListView::Count() const { return ListView_GetItemCount(window_); }
+int ListView::Selected() const { return ListView_GetNextItem(window_, -1, LVNI_SELECTED); }
+
+std::vector<int> ListView::AllSelected() const {
+    std::vector<int> rows;
+    for (int row = Selected(); row >= 0; row = ListView_GetNextItem(window_, row, LVNI_SELECTED))
+        rows.push_back(row);
+    return rows;
+}
+
+void ListView::Select(int row) const {
+    ClearSelection();
+    if (row < 0) return;
+    LVITEMW item = StateItem(LVIS_SELECTED | LVIS_FOCUSED);
+    SendMessageW(window_, LVM_SETITEMSTATE, static_cast<WPARAM>(row), reinterpret_cast<LPARAM>(&item));
+    ListView_EnsureVisible(window_, row, FALSE);
+}
+
+void ListView::ClearSelection() const {
+    LVITEMW item = StateItem(0);
+    SendMessageW(window_, LVM_SETITEMSTATE, static_cast<WPARAM>(-1), reinterpret_cast<LPARAM>(&item));
+}
+
+int ListView::Find(const std::wstring& text, int after) const {
+    LVFINDINFOW find{};
+    find.flags = LVFI_STRING;
+    find.psz = text.c_str();
+    return static_cast<int>(
+        SendMessageW(window_, LVM_FINDITEMW, static_cast<WPARAM>(after), reinterpret_cast<LPARAM>(&find)));
+}
+
+void ListView::FitColumnToContents(int column) const { ListView_SetColumnWidth(window_, column, LVSCW_AUTOSIZE); }
+
+void ListView::FitColumnToHeader(int column) const {
+    ListView_SetColumnWidth(window_, column, LVSCW_AUTOSIZE_USEHEADER);
+}
+
+// Inserting into a visible list without this costs a repaint a row.
+ListView::Filling::Filling(const ListView& list) : window_(list.Window()) {
+    SendMessageW(window_, WM_SETREDRAW, FALSE, 0);
+}
+
+ListView::Filling::~Filling() {
+    SendMessageW(window_, WM_SETREDRAW, TRUE, 0);
+    InvalidateRect(window_, nullptr, TRUE);
+}
+
+}  // namespace recoveryui::ui

@@ -1,0 +1,99 @@
+#include "ui/Picture.h"
+
+#include <objbase.h>
+#include <wincodec.h>
+
+#include "com/Module.h"
+#include "com/Ptr.h"
+
+namespace recoveryui::ui {
+namespace {
+
+com::Ptr<IWICBitmapSource> Decode(IWICImagingFactory& factory, int id) {
+    com::Ptr<IWICBitmapSource> nothing;
+    const HINSTANCE module = com::Module::Instance();
+    const HRSRC found = FindResourceW(module, MAKEINTRESOURCEW(id), L"PNG");
+    const HGLOBAL loaded = found ? LoadResource(module, found) : nullptr;
+    if (!loaded) return nothing;
+
+    com::Ptr<IWICStream> stream;
+    com::Ptr<IWICBitmapDecoder> decoder;
+    com::Ptr<IWICBitmapFrameDecode> frame;
+    com::Ptr<IWICFormatConverter> converter;
+    if (FAILED(factory.CreateStream(stream.GetAddressOf())) ||
+        FAILED(stream->InitializeFromMemory(static_cast<BYTE*>(LockResource(loaded)),
+                                            SizeofResource(module, found))) ||
+        FAILED(factory.CreateDecoderFromStream(stream.Get(), nullptr, WICDecodeMetadataCacheOnLoad,
+                                               decoder.GetAddressOf())) ||
+        FAILED(decoder->GetFrame(0, frame.GetAddressOf())) ||
+        FAILED(factory.CreateFormatConverter(converter.GetAddressOf())) ||
+        FAILED(converter->Initialize(frame.Get(), GUID_WICPixelFormat32bppBGR, WICBitmapDitherTypeNone, nullptr, 0,
+                                     WICBitmapPaletteTypeCustom)))
+        return nothing;
+    return com::Ptr<IWICBitmapSource>(converter.Get());
+}
+
+Bitmap CopyToBitmap(IWICBitmapSource& source, UINT width, UINT height) {
+    BITMAPINFO info{};
+    info.bmiHeader.biSize = sizeof info.bmiHeader;
+    info.bmiHeader.biWidth = static_cast<LONG>(width);
+    info.bmiHeader.biHeight = -static_cast<LONG>(height);
+    info.bmiHeader.biPlanes = 1;
+    info.bmiHeader.biBitCount = 32;
+    void* pixels = nullptr;
+    Bitmap bitmap(CreateDIBSection(nullptr, &info, DIB_RGB_COLORS, &pixels, nullptr, 0));
+    if (!bitmap || FAILED(source.CopyPixels(nullptr, width * 4, width * height * 4, static_cast<BYTE*>(pixels))))
+        return {};
+    return bitmap;
+}
+
+Bitmap Stretch(HBITMAP source, SIZE from, SIZE to) {
+    const HDC screen = GetDC(nullptr);
+    const HDC sourceDc = CreateCompatibleDC(screen), targetDc = CreateCompatibleDC(screen);
+    Bitmap target(CreateCompatibleBitmap(screen, to.cx, to.cy));
+    const HGDIOBJ oldSource = SelectObject(sourceDc, source), oldTarget = SelectObject(targetDc, target.Get());
+    SetStretchBltMode(targetDc, HALFTONE);
+    SetBrushOrgEx(targetDc, 0, 0, nullptr);
+    StretchBlt(targetDc, 0, 0, to.cx, to.cy, sourceDc, 0, 0, from.cx, from.cy, SRCCOPY);
+    SelectObject(sourceDc, oldSource);
+    SelectObject(targetDc, oldTarget);
+    DeleteDC(sourceDc);
+    DeleteDC(targetDc);
+    ReleaseDC(nullptr, screen);
+    return target;
+}
+
+}  // namespace
+
+Bitmap LoadPicture(int id, SIZE size) {
+    com::Ptr<IWICImagingFactory> factory;
+    if (FAILED(CoCreateInstance(CLSID_WICImagingFactory, nullptr, CLSCTX_INPROC_SERVER, IID_IWICImagingFactory,
+                                reinterpret_cast<void**>(factory.GetAddressOf()))))
+        return {};
+    for (const int variant : {id, id + 1000, id + 2000}) {
+        const com::Ptr<IWICBitmapSource> source = Decode(*factory.Get(), variant);
+        UINT width = 0, height = 0;
+        if (!source || FAILED(source->GetSize(&width, &height))) return {};
+        const bool last = variant == id + 2000;
+        if (static_cast<LONG>(height) < size.cy && !last) continue;
+        Bitmap bitmap = CopyToBitmap(*source.Get(), width, height);
+        const SIZE own{static_cast<LONG>(width), static_cast<LONG>(height)};
+        if (!bitmap || (own.cx == size.cx && own.cy == size.cy)) return bitmap;
+        return Stretch(bitmap.Get(), own, size);
+    }
+    return {};
+}
+
+Icon LoadIconOfSize(int id, int pixels) {
+    return Icon(static_cast<HICON>(LoadImageW(com::Module::Instance(), MAKEINTRESOURCEW(id), IMAGE_ICON, pixels,
+                                              pixels, LR_DEFAULTCOLOR)));
+}
+
+int ScaleForWindow(HWND window, int pixels) {
+    const HDC device = GetDC(window);
+    const int dpi = GetDeviceCaps(device, LOGPIXELSY);
+    ReleaseDC(window, device);
+    return MulDiv(pixels, dpi, 96);
+}
+
+}  // namespace recoveryui::ui

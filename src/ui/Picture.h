@@ -1,0 +1,20 @@
+// Pictures and icons of the module, in the size that the window's DPI asks for.
+#pragma once
+
+#include <windows.h>
+
+#include "ui/Handles.h"
+
+namespace recoveryui::ui {
+
+// A PNG resource as a bitmap of exactly the given size, made from the best of its three resolutions
+// (id, id + 1000, id + 2000). Empty on failure.
+Bitmap LoadPicture(int id, SIZE size);
+
+// An icon resource in the given pixel size (square).
+Icon LoadIconOfSize(int id, int pixels);
+
+// Pixels for a length given at 96 DPI, on the window's device.
+int ScaleForWindow(HWND window, int pixels);
+
+}  // namespace recoveryui::ui

@@ -1,0 +1,51 @@
+#include "ui/PropertyPage.h"
+
+namespace recoveryui::ui {
+
+HPROPSHEETPAGE PropertyPage::CreateHandle() {
+    PROPSHEETPAGEW page{};
+    page.dwSize = sizeof page;
+    page.dwFlags = PSP_HASHELP | (title_.empty() ? 0 : PSP_USETITLE);
+    page.hInstance = com::Module::Instance();
+    page.pszTemplate = MAKEINTRESOURCEW(TemplateId());
+    page.pszTitle = title_.c_str();
+    page.pfnDlgProc = &PropertyPage::Procedure;
+    page.lParam = reinterpret_cast<LPARAM>(this);
+    return CreatePropertySheetPageW(&page);
+}
+
+bool PropertyPage::OnNotify(NMHDR& header, LRESULT& answer) {
+    switch (header.code) {
+        case PSN_SETACTIVE:
+            answer = OnSetActive();
+            return true;
+        case PSN_WIZNEXT:
+        case PSN_WIZBACK:
+        case PSN_WIZFINISH:
+            try {
+                answer = header.code == PSN_WIZNEXT   ? OnWizardNext()
+                         : header.code == PSN_WIZBACK ? OnWizardBack()
+                                                      : OnWizardFinish();
+            } catch (...) {
+                answer = kStay;
+            }
+            return true;
+        case PSN_HELP:
+            OnHelp();
+            return true;
+        default:
+            return false;
+    }
+}
+
+INT_PTR CALLBACK PropertyPage::Procedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam) noexcept {
+    if (message == WM_INITDIALOG) {
+        const LPARAM object = reinterpret_cast<const PROPSHEETPAGEW*>(lParam)->lParam;
+        SetWindowLongPtrW(window, DWLP_USER, object);
+        reinterpret_cast<PropertyPage*>(object)->Attach(window);
+    }
+    auto* page = reinterpret_cast<PropertyPage*>(GetWindowLongPtrW(window, DWLP_USER));
+    return page ? page->Dispatch(message, wParam, lParam) : FALSE;
+}
+
+}  // namespace recoveryui::ui

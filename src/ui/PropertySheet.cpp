@@ -1,0 +1,35 @@
+#include "ui/PropertySheet.h"
+
+#include "com/Guard.h"
+
+namespace recoveryui::ui {
+
+bool PropertySheet::ShowModal(HWND owner) {
+    std::vector<HPROPSHEETPAGE> handles;
+    handles.reserve(pages_.size());
+    for (const auto& page : pages_) {
+        const HPROPSHEETPAGE handle = page->CreateHandle();
+        if (!handle) {
+            for (HPROPSHEETPAGE made : handles) DestroyPropertySheetPage(made);
+            throw com::HResultError(E_OUTOFMEMORY);
+        }
+        handles.push_back(handle);
+    }
+
+    PROPSHEETHEADERW header{};
+    header.dwSize = sizeof header;
+    header.dwFlags = PSH_HASHELP | PSH_NOCONTEXTHELP;
+    // With HASFINISH the three buttons stay visible and each can be disabled on its own.
+    header.dwFlags |= kind_ == Kind::Wizard ? PSH_WIZARD | PSH_WIZARDHASFINISH : PSH_NOAPPLYNOW;
+    header.hwndParent = owner;
+    header.hInstance = com::Module::Instance();
+    header.pszCaption = title_.c_str();
+    header.nPages = static_cast<UINT>(handles.size());
+    header.phpage = handles.data();
+
+    const INT_PTR result = PropertySheetW(&header);
+    if (result < 0) throw com::HResultError(E_FAIL);
+    return result > 0;
+}
+
+}  // namespace recoveryui::ui

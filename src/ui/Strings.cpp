@@ -1,0 +1,30 @@
+#include "ui/Strings.h"
+
+#include <windows.h>
+
+#include "com/Module.h"
+
+namespace recoveryui::ui {
+
+std::wstring LoadText(int id) {
+    const wchar_t* text = nullptr;
+    // Length 0 gives the resource itself, which is not terminated.
+    const int length =
+        LoadStringW(com::Module::Instance(), static_cast<UINT>(id), reinterpret_cast<LPWSTR>(&text), 0);
+    return length > 0 ? std::wstring(text, static_cast<size_t>(length)) : std::wstring();
+}
+
+std::wstring FormatText(int id, std::initializer_list<std::wstring_view> arguments) {
+    const std::wstring format = LoadText(id);
+    std::wstring result;
+    size_t done = 0;
+    for (std::wstring_view argument : arguments) {
+        const size_t place = format.find(L"%s", done);
+        if (place == std::wstring::npos) break;
+        result.append(format, done, place - done).append(argument);
+        done = place + 2;
+    }
+    return result.append(format, done);
+}
+
+}  // namespace recoveryui::ui
