@@ -9,8 +9,8 @@ namespace recoveryui::com {
 HRESULT CreateByProgId(const wchar_t* progId, REFIID iid, void** object) noexcept;
 
 template <class Interface>
-[[nodiscard]] HRESULT Create(const wchar_t* progId, Ptr<Interface>* object) noexcept {
-    return CreateByProgId(progId, __uuidof(Interface), reinterpret_cast<void**>(object->ReleaseAndGetAddressOf()));
+[[nodiscard]] HRESULT Create(const wchar_t* progId, Ptr<Interface>& object) noexcept {
+    return CreateByProgId(progId, __uuidof(Interface), reinterpret_cast<void**>(object.ReleaseAndGetAddressOf()));
 }
 
 }  // namespace recoveryui::com

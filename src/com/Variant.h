@@ -45,9 +45,9 @@ public:
         std::swap(value_, other.value_);
         return *this;
     }
-    Variant(const Variant& other) : Variant() { Check(VariantCopy(&value_, &other.value_)); }
+    Variant(const Variant& other) : Variant() { Check(VariantCopy(&value_, const_cast<VARIANT*>(&other.value_))); }
     Variant& operator=(const Variant& other) {
-        Check(VariantCopy(&value_, &other.value_));
+        Check(VariantCopy(&value_, const_cast<VARIANT*>(&other.value_)));
         return *this;
     }
     ~Variant() { VariantClear(&value_); }
@@ -55,7 +55,7 @@ public:
     // Throws when the copy cannot be made.
     static Variant CopyOf(const VARIANT& source) {
         Variant copy;
-        Check(VariantCopyInd(&copy.value_, &source));
+        Check(VariantCopyInd(&copy.value_, const_cast<VARIANT*>(&source)));
         return copy;
     }
 

@@ -11,15 +11,15 @@ namespace recoveryui::shell {
 
 // The object of a name, as the interface asked for. E_FAIL without a rack or an object.
 template <class Interface>
-[[nodiscard]] HRESULT Fetch(IObjectRack* rack, const wchar_t* name, com::Ptr<Interface>* object) {
-    object->Reset();
+[[nodiscard]] HRESULT Fetch(IObjectRack* rack, const wchar_t* name, com::Ptr<Interface>& object) {
+    object.Reset();
     if (!rack) return E_FAIL;
     com::Ptr<IUnknown> found;
     const HRESULT hr = rack->GetObject(com::Bstr(name).Get(), __uuidof(Interface), found.GetAddressOf());
     if (FAILED(hr)) return hr;
     if (!found) return E_FAIL;
     // The rack answered with this very interface; the query only makes the pointer's type honest.
-    return found.As(object);
+    return found.As(&object);
 }
 
 // Gives an object the rack; E_NOINTERFACE when it is no rack client.

@@ -7,7 +7,7 @@
 
 namespace recoveryui::ui {
 
-template <class Handle, auto Close>
+template <class Handle, class Closer>
 class Owned {
 public:
     Owned() noexcept = default;
@@ -20,7 +20,7 @@ public:
     Owned(const Owned&) = delete;
     Owned& operator=(const Owned&) = delete;
     ~Owned() {
-        if (handle_) Close(handle_);
+        if (handle_) Closer()(handle_);
     }
     Handle Get() const noexcept { return handle_; }
     explicit operator bool() const noexcept { return handle_ != Handle{}; }
@@ -30,9 +30,19 @@ private:
     Handle handle_{};
 };
 
-using Font = Owned<HFONT, [](HFONT font) { DeleteObject(font); }>;
-using Bitmap = Owned<HBITMAP, [](HBITMAP bitmap) { DeleteObject(bitmap); }>;
-using Icon = Owned<HICON, [](HICON icon) { DestroyIcon(icon); }>;
-using Menu = Owned<HMENU, [](HMENU menu) { DestroyMenu(menu); }>;
+struct GdiCloser {
+    void operator()(HGDIOBJ object) const noexcept { DeleteObject(object); }
+};
+struct IconCloser {
+    void operator()(HICON icon) const noexcept { DestroyIcon(icon); }
+};
+struct MenuCloser {
+    void operator()(HMENU menu) const noexcept { DestroyMenu(menu); }
+};
+
+using Font = Owned<HFONT, GdiCloser>;
+using Bitmap = Owned<HBITMAP, GdiCloser>;
+using Icon = Owned<HICON, IconCloser>;
+using Menu = Owned<HMENU, MenuCloser>;
 
 }  // namespace recoveryui::ui

@@ -17,7 +17,7 @@ namespace {
 
 bool ShowInHost(HWND window, const wchar_t* topic, IObjectRack* rack) {
     com::Ptr<IHelpViewer> viewer;
-    if (FAILED(shell::Fetch(rack, L"HelpViewer", &viewer))) return false;
+    if (FAILED(shell::Fetch(rack, L"HelpViewer", viewer))) return false;
     const auto handle = static_cast<long>(reinterpret_cast<LONG_PTR>(window));
     return SUCCEEDED(viewer->ShowTopic(handle, com::Bstr(topic).Get()));
 }

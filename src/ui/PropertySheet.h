@@ -7,6 +7,9 @@
 
 #include "ui/PropertyPage.h"
 
+// commctrl names its function by a macro of the class's name.
+#undef PropertySheet
+
 namespace recoveryui::ui {
 
 class PropertySheet {
