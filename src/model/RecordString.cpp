@@ -1,0 +1,130 @@
+#include "model/RecordString.h"
+
+#include <limits>
+
+namespace recoveryui::model {
+namespace {
+
+constexpr wchar_t kBetweenFields = L';';
+constexpr wchar_t kAfterRecord = L'*';
+constexpr std::size_t kLongestRest = 13;  // ";" three times, enabled, eight digits, "*"
+
+// strtok's rule with a separator of its own for each token: only a leading run of the current
+// separator is skipped, so a stray "*" after a record becomes part of the next file.
+class Tokens {
+public:
+    explicit Tokens(std::wstring_view text) : rest_(text) {}
+
+    std::optional<std::wstring_view> Next(wchar_t separator) {
+        const std::size_t start = rest_.find_first_not_of(separator);
+        if (start == std::wstring_view::npos) {
+            rest_ = {};
+            return std::nullopt;
+        }
+        rest_.remove_prefix(start);
+        const std::wstring_view token = rest_.substr(0, rest_.find(separator));
+        rest_.remove_prefix(token.size() < rest_.size() ? token.size() + 1 : token.size());
+        return token;
+    }
+
+private:
+    std::wstring_view rest_;
+};
+
+unsigned DigitValue(wchar_t c) {
+    if (c >= L'0' && c <= L'9') return static_cast<unsigned>(c - L'0');
+    if (c >= L'a' && c <= L'f') return static_cast<unsigned>(c - L'a') + 10;
+    if (c >= L'A' && c <= L'F') return static_cast<unsigned>(c - L'A') + 10;
+    return std::numeric_limits<unsigned>::max();
+}
+
+// The number that the text begins with, as the C library reads it (blanks, sign, "0x"); 0 without a
+// digit. Too large a number stays at the limit.
+std::uint32_t NumericPrefix(std::wstring_view text, unsigned base) {
+    const std::size_t start = text.find_first_not_of(L" \t\n\v\f\r");
+    if (start == std::wstring_view::npos) return 0;
+    text.remove_prefix(start);
+    const bool negative = text.front() == L'-';
+    if (negative || text.front() == L'+') text.remove_prefix(1);
+    if (base == 16 && text.size() > 2 && text[0] == L'0' && (text[1] | 0x20) == L'x' &&
+        DigitValue(text[2]) < base)
+        text.remove_prefix(2);
+    std::uint64_t value = 0;
+    for (const wchar_t c : text) {
+        const unsigned digit = DigitValue(c);
+        if (digit >= base) break;
+        value = value * base + digit;
+        if (value > std::numeric_limits<std::uint32_t>::max())
+            return std::numeric_limits<std::uint32_t>::max();
+    }
+    const auto number = static_cast<std::uint32_t>(value);
+    return negative ? 0u - number : number;
+}
+
+void AppendHex(std::wstring& text, std::uint32_t value) {
+    int shift = 28;
+    while (shift > 0 && (value >> shift) == 0) shift -= 4;
+    for (; shift >= 0; shift -= 4) text += L"0123456789abcdef"[(value >> shift) & 0xF];
+}
+
+// Remembers the last path: the records of a test come in runs of one file.
+class Converter {
+public:
+    explicit Converter(const PathConversion& conversion) : conversion_(conversion) {}
+
+    const std::wstring& operator()(std::wstring_view path) {
+        if (!known_ || path != from_) {
+            from_ = path;
+            to_ = conversion_ ? conversion_(from_) : std::wstring();
+            if (to_.empty()) to_ = from_;
+            known_ = true;
+        }
+        return to_;
+    }
+
+private:
+    const PathConversion& conversion_;
+    bool known_ = false;
+    std::wstring from_;
+    std::wstring to_;
+};
+
+}  // namespace
+
+std::vector<ScenarioAssociation> ReadRecords(std::wstring_view text, const PathConversion& toFull) {
+    std::vector<ScenarioAssociation> records;
+    Tokens tokens(text);
+    Converter fullPath(toFull);
+    while (const auto file = tokens.Next(kBetweenFields)) {
+        const auto name = tokens.Next(kBetweenFields);
+        const auto enabled = tokens.Next(kBetweenFields);
+        const auto mode = tokens.Next(kAfterRecord);
+        if (!name || !enabled || !mode) break;
+        records.push_back({fullPath(*file), std::wstring(*name), NumericPrefix(*enabled, 10) == 1,
+                           static_cast<std::int32_t>(NumericPrefix(*mode, 16))});
+    }
+    return records;
+}
+
+std::wstring WriteRecords(std::span<const ScenarioAssociation> records, std::optional<std::int32_t> mode,
+                          const PathConversion& toStored) {
+    std::size_t length = 0;
+    for (const ScenarioAssociation& record : records)
+        length += record.file.size() + record.name.size() + kLongestRest;
+    std::wstring text;
+    text.reserve(length);
+    Converter storedPath(toStored);
+    for (const ScenarioAssociation& record : records) {
+        text += storedPath(record.file);
+        text += kBetweenFields;
+        text += record.name;
+        text += kBetweenFields;
+        text += record.enabled ? L'1' : L'0';
+        text += kBetweenFields;
+        AppendHex(text, static_cast<std::uint32_t>(mode.value_or(record.ActivationMode)));
+        text += kAfterRecord;
+    }
+    return text;
+}
+
+}  // namespace recoveryui::model

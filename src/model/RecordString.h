@@ -1,0 +1,26 @@
+#pragma once
+
+#include <functional>
+#include <optional>
+#include <span>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "model/ScenarioAssociation.h"
+
+namespace recoveryui::model {
+
+// Turns the stored form of a path into the full one, or back; empty means "keep the path as it is".
+using PathConversion = std::function<std::wstring(const std::wstring&)>;
+
+// The complete records of a stored string, in order; what follows the first incomplete one is dropped.
+// Neighbours of the same file share one call of `toFull`.
+std::vector<ScenarioAssociation> ReadRecords(std::wstring_view text, const PathConversion& toFull = {});
+
+// The string to store. `mode` overrides the records' own modes.
+std::wstring WriteRecords(std::span<const ScenarioAssociation> records,
+                          std::optional<std::int32_t> mode = std::nullopt,
+                          const PathConversion& toStored = {});
+
+}  // namespace recoveryui::model

@@ -1,0 +1,87 @@
+#include <gtest/gtest.h>
+
+#include "model/MruList.h"
+#include "model/RecentFiles.h"
+
+namespace recoveryui::model {
+namespace {
+
+TEST(RecentFiles, KeepsFourDifferentFilesTheLatestFirst) {
+    const struct {
+        std::wstring stored;
+        std::vector<std::wstring> opened;
+        std::wstring joined;
+    } cases[] = {
+        {L"", {}, L""},
+        {L"a;;b", {}, L"a;b"},
+        {L";a;b;a;a;c;d;e", {}, L"a;b;c;d"},
+        {L"a;A", {}, L"a;A"},
+        {L"a;b;c;d", {L"e"}, L"e;a;b;c"},
+        {L"a;b;c;d", {L"c"}, L"c;a;b;d"},
+        {L"a;b;c;d", {L"a"}, L"a;b;c;d"},
+        {L"a;b;c;d", {L"D", L""}, L"D;a;b;c"},
+    };
+    for (const auto& c : cases) {
+        RecentFiles files(c.stored);
+        for (const auto& path : c.opened) files.Add(path);
+        EXPECT_EQ(files.Joined(), c.joined) << testing::PrintToString(c.stored);
+    }
+}
+
+TEST(RecentFiles, OpeningAnEntryOfItsOwnListMovesIt) {
+    RecentFiles files(L"a;b;c;d");
+    files.Add(files.Entries()[3]);
+    EXPECT_EQ(files.Joined(), L"d;a;b;c");
+}
+
+TEST(MruList, AddStringMovesToTheFrontAndDropsTheOldest) {
+    const struct {
+        const char* why;
+        MruState list;
+        const wchar_t* text;
+        MruPlan plan;
+    } cases[] = {
+        {"first of all", {0, 4, -1}, L"a", {.result = 0, .insertAt = 0}},
+        {"a new one in a full list", {4, 4, -1}, L"a", {.result = 0, .deleteLast = 3, .insertAt = 0}},
+        {"already first", {4, 4, 0}, L"a", {.result = 0}},
+        {"the third to the front", {4, 4, 2}, L"a", {.result = 0, .deleteMatch = 2, .insertAt = 0}},
+        {"a match leaves an overfull list full",
+         {5, 4, 2},
+         L"a",
+         {.result = 0, .deleteMatch = 2, .deleteLast = 3, .insertAt = 0}},
+        {"no text", {4, 4, -1}, L"", {}},
+        {"room for none", {0, 0, -1}, L"a", {}},
+    };
+    for (const auto& c : cases) EXPECT_EQ(PlanAddString(c.list, c.text), c.plan) << c.why;
+}
+
+TEST(MruList, InsertStringRefusesWhatTheListCannotReach) {
+    const struct {
+        const char* why;
+        MruState list;
+        int index;
+        MruPlan plan;
+    } cases[] = {
+        {"before the first", {2, 4, -1}, -1, {}},
+        {"at the maximum", {4, 4, -1}, 4, {}},
+        {"at the end", {2, 4, -1}, 2, {.result = 2, .insertAt = 2}},
+        {"beyond the end", {2, 4, -1}, 3, {}},
+        {"beyond the end once the match is gone", {2, 4, 0}, 2, {}},
+        {"the match elsewhere moves", {3, 4, 0}, 2, {.result = 2, .deleteMatch = 0, .insertAt = 2}},
+        {"the match is there already", {3, 4, 1}, 1, {.result = 1}},
+        {"last of a full list", {4, 4, -1}, 3, {.result = 3, .deleteLast = 3, .insertAt = 3}},
+    };
+    for (const auto& c : cases) EXPECT_EQ(PlanInsertString(c.list, c.index, L"a"), c.plan) << c.why;
+}
+
+TEST(MruList, TheStoredValueHasNoEmptyEntries) {
+    using List = std::vector<std::wstring>;
+    EXPECT_EQ(SplitEntries(L";a;;b;c;d;e;", 4), (List{L"a", L"b", L"c", L"d"}));
+    EXPECT_EQ(SplitEntries(L"a;a", 4), (List{L"a", L"a"}));
+    EXPECT_EQ(SplitEntries(L";;;", 4), List{});
+    EXPECT_EQ(JoinEntries(List{L"", L"a", L"", L"b", L""}), L"a;b");
+    EXPECT_EQ(JoinEntries(List{}), L"");
+}
+
+}  // namespace
+}  // namespace recoveryui::model

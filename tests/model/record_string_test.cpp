@@ -1,0 +1,75 @@
+#include "model/RecordString.h"
+
+#include <gtest/gtest.h>
+
+namespace recoveryui::model {
+namespace {
+
+using Records = std::vector<ScenarioAssociation>;
+
+TEST(RecordString, ReadsCompleteRecordsAndStopsAtTheFirstBrokenOne) {
+    const struct {
+        const wchar_t* why;
+        std::wstring text;
+        Records records;
+    } cases[] = {
+        {L"nothing stored", L"", {}},
+        {L"two records",
+         L"C:\\c.trs;Popup;1;ffffffff*C:\\c.trs;Crash;0;1*",
+         {{L"C:\\c.trs", L"Popup", true, -1}, {L"C:\\c.trs", L"Crash", false, 1}}},
+        {L"a last record needs no terminator", L"f;P;1;1", {{L"f", L"P", true, 1}}},
+        {L"three tokens are not a record", L"f;P;1;1*g;Q;1", {{L"f", L"P", true, 1}}},
+        {L"an empty mode is not a record", L"f;P;1;1*g;Q;1;*", {{L"f", L"P", true, 1}}},
+        {L"separators only", L";;;***", {}},
+        {L"empty fields are skipped", L";;f;;P;;;1;1*", {{L"f", L"P", true, 1}}},
+        {L"a star is an ordinary letter before the mode", L"f;P*Q;1;1*", {{L"f", L"P*Q", true, 1}}},
+        {L"a stray star goes to the next file",
+         L"a;b;1;1**c;d;0;1*",
+         {{L"a", L"b", true, 1}, {L"*c", L"d", false, 1}}},
+        {L"only the number 1 enables", L"f;P;2;1*", {{L"f", L"P", false, 1}}},
+        {L"numbers are prefixes", L"f;P;1x;1;zz*", {{L"f", L"P", true, 1}}},
+        {L"no digits are 0", L"f;P;x;g*", {{L"f", L"P", false, 0}}},
+        {L"blanks, sign and 0x as the C library has them", L"f;P; +1;0XFFffFFff*", {{L"f", L"P", true, -1}}},
+        {L"a bare 0x is 0", L"f;P;01;0x*", {{L"f", L"P", true, 0}}},
+        {L"32 bits, then the limit", L"f;P;4294967297;1ffffffff*", {{L"f", L"P", false, -1}}},
+        {L"a negative mode", L"f;P;-1;-1*", {{L"f", L"P", false, -1}}},
+    };
+    for (const auto& c : cases)
+        EXPECT_TRUE(ReadRecords(c.text) == c.records) << testing::PrintToString(c.why);
+}
+
+TEST(RecordString, WritesLowerCaseHexadecimalAndOneModeForAll) {
+    const Records two{{L"f", L"P", true, -1}, {L"g", L"Q", false, 0xA0B}};
+    EXPECT_EQ(WriteRecords({}), L"");
+    EXPECT_EQ(WriteRecords(two), L"f;P;1;ffffffff*g;Q;0;a0b*");
+    EXPECT_EQ(WriteRecords(two, 1), L"f;P;1;1*g;Q;0;1*");
+    EXPECT_EQ(WriteRecords(two, 0), L"f;P;1;0*g;Q;0;0*");
+    EXPECT_EQ(ReadRecords(WriteRecords(two)), two);
+}
+
+TEST(RecordString, ConvertsPathsBothWaysAndKeepsThemWhereThatFails) {
+    const PathConversion toFull = [](const std::wstring& path) {
+        return path.starts_with(L"lost") ? std::wstring() : L"C:\\" + path;
+    };
+    const PathConversion toStored = [](const std::wstring& path) {
+        return path.starts_with(L"C:\\") ? path.substr(3) : std::wstring();
+    };
+    const std::wstring text = L"a;1;1;1*lost;2;1;1*a;3;1;1*";
+    const Records read = ReadRecords(text, toFull);
+    ASSERT_EQ(read.size(), 3u);
+    EXPECT_EQ(read[0].file, L"C:\\a");
+    EXPECT_EQ(read[1].file, L"lost");
+    EXPECT_EQ(read[2].file, L"C:\\a");
+    EXPECT_EQ(WriteRecords(read, std::nullopt, toStored), text);
+}
+
+TEST(RecordString, APathIsConvertedOncePerRunOfRecords) {
+    const Records many(100'000, {L"C:\\Tests\\common.trs", L"Popup", true, -1});
+    int asked = 0;
+    const auto count = [&asked](const std::wstring& path) { return ++asked, path; };
+    EXPECT_EQ(ReadRecords(WriteRecords(many, -1, count), count).size(), many.size());
+    EXPECT_EQ(asked, 2);
+}
+
+}  // namespace
+}  // namespace recoveryui::model
