@@ -1,6 +1,7 @@
 #include "support/Text.h"
 
 #include <algorithm>
+#include <type_traits>
 
 namespace recoveryui::support {
 namespace {
@@ -105,7 +106,7 @@ std::wstring Fill(std::wstring_view pattern, std::initializer_list<std::wstring_
 
 // Not towlower: in the "C" locale, which is what a DLL finds, it knows the letters A to Z only.
 wchar_t Lower(wchar_t character) {
-    const auto code = static_cast<unsigned>(character);
+    const unsigned code{static_cast<std::make_unsigned_t<wchar_t>>(character)};
     for (const Capitals& row : kCapitals) {
         if (code < row.first) break;
         if (code <= row.last && (code - row.first) % row.step == 0) {
