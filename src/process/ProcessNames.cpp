@@ -51,9 +51,4 @@ std::vector<std::wstring> NamesToAppend(const std::vector<std::wstring>& rows,
     return added;
 }
 
-std::optional<std::size_t> RowAfterRemoval(std::size_t firstRemoved, std::size_t left) {
-    if (left == 0) return std::nullopt;
-    return std::min(firstRemoved, left - 1);
-}
-
 }  // namespace recoveryui::process

@@ -33,7 +33,4 @@ EditEnd EndEdit(const std::vector<std::wstring>& rows, std::size_t row,
 std::vector<std::wstring> NamesToAppend(const std::vector<std::wstring>& rows,
                                         const std::vector<std::wstring>& selected);
 
-// The row to select after a removal, when `left` rows remain; nothing when the list is empty.
-std::optional<std::size_t> RowAfterRemoval(std::size_t firstRemoved, std::size_t left);
-
 }  // namespace recoveryui::process
