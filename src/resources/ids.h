@@ -2,6 +2,10 @@
 // grouped by meaning. Plain defines: read by windres, by the windows and by the plain units alike.
 #pragma once
 
+#ifndef IDC_STATIC
+#define IDC_STATIC (-1)
+#endif
+
 // Resource numbers that are fixed from outside: page bitmaps 162 to 167, and the string ids below 120.
 
 // ---- Strings: fixed numbers -----------------------------------------------------------------------

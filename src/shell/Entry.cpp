@@ -1,0 +1,15 @@
+// The module's four entry points.
+#include <windows.h>
+
+#include "com/Module.h"
+#include "shell/Classes.h"
+
+STDAPI DllGetClassObject(REFCLSID clsid, REFIID iid, LPVOID* factory) {
+    return recoveryui::com::GetClassObject(recoveryui::shell::Classes(), clsid, iid, factory);
+}
+
+STDAPI DllCanUnloadNow() { return recoveryui::com::Module::CanUnload() ? S_OK : S_FALSE; }
+
+STDAPI DllRegisterServer() { return E_NOTIMPL; }
+
+STDAPI DllUnregisterServer() { return E_NOTIMPL; }

@@ -1,0 +1,71 @@
+#include "wizard/WizardPPBase.h"
+
+#include "resources/ids.h"
+#include "ui/Help.h"
+#include "ui/Picture.h"
+#include "ui/Strings.h"
+#include "ui/Window.h"
+#include "wizard/WizardButtons.h"
+
+namespace recoveryui::wizard {
+namespace {
+
+constexpr int kTitlePoints = 10;
+constexpr int kPointsPerInch = 72;
+
+ui::Font TitleFont(HWND page) {
+    LOGFONTW font{};
+    const auto own = reinterpret_cast<HFONT>(SendMessageW(page, WM_GETFONT, 0, 0));
+    if (!GetObjectW(own, sizeof font, &font)) return {};
+    const HDC device = GetDC(page);
+    font.lfHeight = -MulDiv(kTitlePoints, GetDeviceCaps(device, LOGPIXELSY), kPointsPerInch);
+    ReleaseDC(page, device);
+    font.lfWeight = FW_BOLD;
+    return ui::Font(CreateFontIndirectW(&font));
+}
+
+}  // namespace
+
+WizardPPBase::WizardPPBase(WizardPS& sheet, int templateId, bool canAdvance) noexcept
+    : PropertyPage(templateId, ui::LoadText(IDS_WIZARD_TITLE)),
+      sheet_(sheet),
+      page_(PageOf(templateId)),
+      canAdvance_(canAdvance) {}
+
+void WizardPPBase::SetCanAdvance(bool canAdvance) {
+    canAdvance_ = canAdvance;
+    UpdateWizardButtons();
+}
+
+// Posted, so that it takes effect after the message that is being handled.
+void WizardPPBase::UpdateWizardButtons() const {
+    if (const auto flags = WizardButtons(page_.position, canAdvance_))
+        PostMessageW(Sheet(), PSM_SETWIZBUTTONS, 0, static_cast<LPARAM>(*flags));
+}
+
+void WizardPPBase::OnInit() {
+    titleFont_ = TitleFont(Window());
+    SendMessageW(Item(IDC_PAGE_TITLE), WM_SETFONT, reinterpret_cast<WPARAM>(titleFont_.Get()), FALSE);
+
+    const HWND frame = Item(IDC_PAGE_BITMAP);
+    RECT area{};
+    GetClientRect(frame, &area);
+    picture_ = ui::LoadPicture(page_.bitmapId, {area.right, area.bottom});
+    SendMessageW(frame, STM_SETIMAGE, IMAGE_BITMAP, reinterpret_cast<LPARAM>(picture_.Get()));
+}
+
+LRESULT WizardPPBase::OnSetActive() {
+    OnActivate();
+    UpdateWizardButtons();
+    return 0;
+}
+
+void WizardPPBase::OnHelp() { ui::ShowHelpTopic(Window(), page_.helpTopic, State().rack.Get()); }
+
+void WizardPPBase::SetButtonIcon(int control, int iconId, int size) {
+    ui::Icon icon = ui::LoadIconOfSize(iconId, ui::ScaleForWindow(Window(), size));
+    SendDlgItemMessageW(Window(), control, BM_SETIMAGE, IMAGE_ICON, reinterpret_cast<LPARAM>(icon.Get()));
+    icons_.push_back(std::move(icon));
+}
+
+}  // namespace recoveryui::wizard
