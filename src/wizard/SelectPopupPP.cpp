@@ -41,6 +41,70 @@ void SelectPopupPP::OnInit() {
     WizardPPBase::OnInit();
     SetButtonIcon(IDC_POPUP_HAND, IDI_POINTING_HAND, kHandIconSize);
     tips_.Add(Window(), Item(IDC_POPUP_HAND), IDS_TIP_POINTING_HAND);
+
+    long kind = 0;
+    if (State().trigger) com::Check(State().trigger->GetTriggerKind(&kind));
+    const bool isPopup = State().trigger && model::TriggerKindFrom(kind) == model::TriggerKind::PopUp;
+    const auto popup = isPopup ? com::Query<IPopUpRecoveryTrigger>(State().trigger.Get()) : nullptr;
+    Show(popup ? ReadTrigger(*popup.Get()) : FreshConditions());
+}
+
+// A title that cannot be read ends the initialisation; a text that cannot be read only leaves its condition out.
+PopupConditions SelectPopupPP::ReadTrigger(IPopUpRecoveryTrigger& trigger) const {
+    PopupConditions conditions;
+    com::Bstr title, text;
+    long isRegex = 0;
+    com::Check(trigger.GetWindowTitle(title.Put(), &isRegex));
+    conditions.title = TitleOfTrigger(title.Text(), isRegex != 0);
+    isRegex = 0;
+    if (SUCCEEDED(trigger.GetWindowText(text.Put(), &isRegex)))
+        conditions.text = TextOfTrigger(text.Text(), isRegex != 0);
+    return conditions;
+}
+
+PopupConditions SelectPopupPP::Read() const {
+    return {ReadCondition(Window(), kTitle), ReadCondition(Window(), kText)};
+}
+
+void SelectPopupPP::Show(const PopupConditions& conditions) {
+    Muted muted(*this);
+    ShowCondition(Window(), kTitle, conditions.title);
+    ShowCondition(Window(), kText, conditions.text);
+    Refresh();
+}
+
+void SelectPopupPP::Refresh() {
+    const PopupConditions conditions = Read();
+    EnableCondition(Window(), kTitle, conditions.title.checked);
+    EnableCondition(Window(), kText, conditions.text.checked);
+    SetCanAdvance(conditions.Complete());
+}
+
+bool SelectPopupPP::OnCommand(const ui::Command& command) {
+    switch (command.id) {
+        case IDC_POPUP_TITLE_CHECK:
+        case IDC_POPUP_TEXT_CHECK:
+            if (command.code == BN_CLICKED) Refresh();
+            return true;
+        case IDC_POPUP_TITLE:
+        case IDC_POPUP_TEXT:
+            if (command.code == EN_CHANGE) Refresh();
+            return true;
+        default:
+            return WizardPPBase::OnCommand(command);
+    }
+}
+
+Leave SelectPopupPP::OnNext() {
+    const PopupConditions conditions = Read();
+    com::Ptr<IPopUpRecoveryTrigger> trigger;
+    com::Check(com::Create(L"Vantrel.PopUpRecoveryTrigger", trigger));
+    if (conditions.title.checked)
+        com::Check(trigger->SetWindowTitle(com::Bstr(conditions.title.value).Get(), conditions.title.isRegex));
+    if (conditions.text.checked)
+        com::Check(trigger->SetWindowText(com::Bstr(conditions.StoredText()).Get(), conditions.text.isRegex));
+    com::Check(trigger->SetPopUpOption(0));
+    return TakeTrigger(trigger.Get());
 }
 
 }  // namespace recoveryui::wizard

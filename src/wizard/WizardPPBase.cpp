@@ -1,5 +1,6 @@
 #include "wizard/WizardPPBase.h"
 
+#include "com/Guard.h"
 #include "resources/ids.h"
 #include "ui/Help.h"
 #include "ui/Picture.h"
@@ -61,6 +62,20 @@ LRESULT WizardPPBase::OnSetActive() {
 }
 
 void WizardPPBase::OnHelp() { ui::ShowHelpTopic(Window(), page_.helpTopic, State().rack.Get()); }
+
+Leave WizardPPBase::TakeTrigger(IUnknown* trigger) {
+    com::Ptr<IRecoveryTrigger> general;
+    com::Check(trigger->QueryInterface(IID_PPV_ARGS(general.GetAddressOf())));
+    State().trigger = std::move(general);
+    return GoOn();
+}
+
+Leave WizardPPBase::AddOperation(IUnknown* operation) {
+    com::Ptr<IRecoveryAction> general;
+    com::Check(operation->QueryInterface(IID_PPV_ARGS(general.GetAddressOf())));
+    State().operations.push_back(std::move(general));
+    return GoOn();
+}
 
 void WizardPPBase::SetButtonIcon(int control, int iconId, int size) {
     ui::Icon icon = ui::LoadIconOfSize(iconId, ui::ScaleForWindow(Window(), size));

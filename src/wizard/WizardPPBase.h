@@ -41,6 +41,10 @@ protected:
 
     // The page's own way on, for pages that decide first.
     Leave GoOn() const noexcept { return Leave::To(page_.next); }
+    // Makes a new trigger the sheet's and goes on. Throws when it lacks the general interface.
+    Leave TakeTrigger(IUnknown* trigger);
+    // Appends a finished operation to the sheet's and goes on. Throws likewise.
+    Leave AddOperation(IUnknown* operation);
     // Puts an icon of the module on a button, in a size given at 96 DPI.
     void SetButtonIcon(int control, int iconId, int size);
 

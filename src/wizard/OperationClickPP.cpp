@@ -1,0 +1,115 @@
+#include "wizard/OperationClickPP.h"
+
+#include <commctrl.h>
+
+#include "com/Create.h"
+#include "model/KeySequence.h"
+#include "resources/ids.h"
+#include "ui/Messages.h"
+#include "ui/Radio.h"
+#include "ui/Window.h"
+
+namespace recoveryui::wizard {
+namespace {
+
+constexpr int kHandIconSize = 32;
+
+// The choices in their own order; the buttons of a group have consecutive ids only by accident.
+constexpr int kRadioIds[] = {IDC_CLICK_ENTER, IDC_CLICK_ESCAPE, IDC_CLICK_LABEL, IDC_CLICK_KEYS};
+
+com::CVtlSafeArray<VARIANT> ClickArguments(const std::wstring& label) {
+    com::CVtlSafeArray<VARIANT> arguments;
+    com::Check(arguments.Create(2));
+    com::Check(arguments.PutElement(0, com::Variant(label)));
+    com::Check(arguments.PutElement(1, com::Variant(kButtonAction)));
+    return arguments;
+}
+
+}  // namespace
+
+OperationClickPP::OperationClickPP(WizardPS& sheet) : WizardPPBase(sheet, IDD_OPERATION_CLICK) {}
+
+void OperationClickPP::OnInit() {
+    WizardPPBase::OnInit();
+    SetButtonIcon(IDC_CLICK_HAND, IDI_POINTING_HAND, kHandIconSize);
+    tips_.Add(Window(), Item(IDC_CLICK_HAND), IDS_TIP_POINTING_HAND);
+    CheckDlgButton(Window(), IDC_CLICK_ENTER, BST_CHECKED);
+    Refresh();
+}
+
+ClickChoice OperationClickPP::Choice() const {
+    for (size_t place = 0; place < std::size(kRadioIds); ++place) {
+        if (IsDlgButtonChecked(Window(), kRadioIds[place])) return static_cast<ClickChoice>(place);
+    }
+    return ClickChoice::Enter;
+}
+
+void OperationClickPP::Refresh() {
+    const bool hasLabels = SendMessageW(Item(IDC_CLICK_LABEL_LIST), CB_GETCOUNT, 0, 0) > 0;
+    const ClickControls controls = ControlsFor(Choice(), hasLabels);
+    ui::Enable(Item(IDC_CLICK_LABEL_LIST), controls.labelList);
+    ui::Enable(Item(IDC_CLICK_HAND), controls.pointingHand);
+    ui::Enable(Item(IDC_CLICK_HOTKEY), controls.hotKey);
+    ui::Enable(Item(IDC_CLICK_HINT), controls.hotKey);
+    SetCanAdvance(controls.canAdvance);
+}
+
+bool OperationClickPP::OnCommand(const ui::Command& command) {
+    switch (command.id) {
+        case IDC_CLICK_ENTER:
+        case IDC_CLICK_ESCAPE:
+        case IDC_CLICK_LABEL:
+        case IDC_CLICK_KEYS:
+            if (command.code == BN_CLICKED) Refresh();
+            return true;
+        default:
+            return WizardPPBase::OnCommand(command);
+    }
+}
+
+Leave OperationClickPP::OnNext() {
+    switch (Choice()) {
+        case ClickChoice::Enter:
+            return AddKeys(model::Press(model::kKeyEnter));
+        case ClickChoice::Escape:
+            return AddKeys(model::Press(model::kKeyEscape));
+        case ClickChoice::ButtonLabel:
+            return AddButtonClick();
+        case ClickChoice::Keys:
+            return AddKeyCombination();
+    }
+    return Leave::Stay;
+}
+
+Leave OperationClickPP::AddKeyCombination() {
+    const auto hotKey = LOWORD(SendMessageW(Item(IDC_CLICK_HOTKEY), HKM_GETHOTKEY, 0, 0));
+    if (LOBYTE(hotKey) == 0) {
+        ui::ShowMessage(Window(), IDS_KEY_REQUIRED);
+        SetFocus(Item(IDC_CLICK_HOTKEY));
+        return Leave::Stay;
+    }
+    return AddKeys(model::PressCombination(LOBYTE(hotKey), HIBYTE(hotKey)));
+}
+
+Leave OperationClickPP::AddKeys(const std::vector<std::uint32_t>& sequence) {
+    com::Ptr<IKeyBoardSimulatorRecoveryAction> operation;
+    com::Check(com::Create(L"Vantrel.KeyBoardSimulatorRecoveryAction", operation));
+    com::CVtlSafeArray<unsigned long> entries;
+    com::Check(entries.Create(static_cast<ULONG>(sequence.size())));
+    for (size_t i = 0; i < sequence.size(); ++i) com::Check(entries.PutElement(static_cast<LONG>(i), sequence[i]));
+    com::Check(operation->SetKeySequence(entries.Get()));
+    return AddOperation(operation.Get());
+}
+
+Leave OperationClickPP::AddButtonClick() {
+    const std::wstring label = ui::TextOf(Item(IDC_CLICK_LABEL_LIST));
+    if (label.empty()) return Leave::Stay;
+    com::Ptr<IObjectAccessorRecoveryAction> operation;
+    com::Check(com::Create(L"Vantrel.ObjectAccessorRecoveryAction", operation));
+    com::Check(operation->SetTargetKind(kButtonTargetKind));
+    com::Check(operation->SetMethodName(com::Bstr(kButtonMethod).Get()));
+    com::Check(operation->SetMethodArguments(ClickArguments(label).Get()));
+    return AddOperation(operation.Get());
+}
+
+}  // namespace recoveryui::wizard

@@ -1,0 +1,123 @@
+#include "wizard/OperationListPP.h"
+
+#include <utility>
+
+#include "model/FileLocator.h"
+#include "model/OperationsList.h"
+#include "ui/Window.h"
+
+namespace recoveryui::wizard {
+namespace {
+constexpr int kButtonIconSize = 16;
+}
+
+OperationListPP::OperationListPP(WizardPS& sheet) : WizardPPBase(sheet, IDD_OPERATION_LIST, true) {}
+
+void OperationListPP::OnInit() {
+    WizardPPBase::OnInit();
+    SetButtonIcon(IDC_OPERATION_LIST_UP, IDI_MOVE_UP, kButtonIconSize);
+    SetButtonIcon(IDC_OPERATION_LIST_DOWN, IDI_MOVE_DOWN, kButtonIconSize);
+    SetButtonIcon(IDC_OPERATION_LIST_DELETE, IDI_DELETE, kButtonIconSize);
+    tips_.Add(Window(), Item(IDC_OPERATION_LIST_UP), IDS_TIP_MOVE_UP);
+    tips_.Add(Window(), Item(IDC_OPERATION_LIST_DOWN), IDS_TIP_MOVE_DOWN);
+    tips_.Add(Window(), Item(IDC_OPERATION_LIST_DELETE), IDS_TIP_DELETE);
+    model::SetUpOperationsList(Rows());
+}
+
+void OperationListPP::OnActivate() {
+    Fill(Rows().Selected());
+    ShowNoteOrCheckBox();
+}
+
+model::OperationList OperationListPP::Order() const { return {State().operations.size(), State().restartWindows}; }
+
+void OperationListPP::Fill(int selected) {
+    model::FillOperationsList(Rows(), State().operations, State().restartWindows, State().rack.Get());
+    Rows().Select(std::min(selected, Rows().Count() - 1));
+}
+
+// The note stands in the place of the check box while there is nothing to add another one to.
+void OperationListPP::ShowNoteOrCheckBox() {
+    const bool empty = Order().Rows() == 0;
+    if (empty) ui::SetChecked(Item(IDC_OPERATION_LIST_ANOTHER), true);
+    ui::Show(Item(IDC_OPERATION_LIST_ANOTHER), !empty);
+    ui::Show(Item(IDC_OPERATION_LIST_NOTE), empty);
+}
+
+bool OperationListPP::OnCommand(const ui::Command& command) {
+    if (command.code != BN_CLICKED) return WizardPPBase::OnCommand(command);
+    switch (command.id) {
+        case IDC_OPERATION_LIST_UP:
+        case IDC_OPERATION_LIST_DOWN:
+            Move(command.id == IDC_OPERATION_LIST_UP);
+            return true;
+        case IDC_OPERATION_LIST_DELETE:
+            Delete();
+            return true;
+        default:
+            return WizardPPBase::OnCommand(command);
+    }
+}
+
+bool OperationListPP::OnNotify(NMHDR& header, LRESULT& answer) {
+    if (header.code == LVN_KEYDOWN) {
+        const WORD key = reinterpret_cast<NMLVKEYDOWN&>(header).wVKey;
+        const bool alt = GetKeyState(VK_MENU) < 0;
+        if (key == VK_DELETE) Delete();
+        if (alt && (key == VK_UP || key == VK_DOWN)) Move(key == VK_UP);
+        return true;
+    }
+    return WizardPPBase::OnNotify(header, answer);
+}
+
+void OperationListPP::Move(bool up) {
+    const int selected = Rows().Selected();
+    if (selected < 0) return;
+    const auto row = static_cast<size_t>(selected);
+    if (const auto other = up ? model::SwapUp(Order(), row) : model::SwapDown(Order(), row)) {
+        std::swap(State().operations[row], State().operations[*other]);
+        Fill(static_cast<int>(*other));
+    }
+    SetFocus(Rows().Window());
+}
+
+void OperationListPP::Delete() {
+    const int selected = Rows().Selected();
+    if (selected < 0) return;
+    const auto row = static_cast<size_t>(selected);
+    switch (model::DeletionOf(Order(), row)) {
+        case model::Deletion::Restart:
+            State().restartWindows = false;
+            break;
+        case model::Deletion::Operation:
+            ForgetNewFunction(State().operations[row].Get());
+            State().operations.erase(State().operations.begin() + selected);
+            break;
+        case model::Deletion::None:
+            return;
+    }
+    Fill(selected);
+    ShowNoteOrCheckBox();
+}
+
+// A function that was written for this call alone must not reach its library at Finish.
+void OperationListPP::ForgetNewFunction(IRecoveryAction* operation) {
+    const auto call = com::Query<IFunctionCallRecoveryAction>(operation);
+    com::Bstr library, name;
+    if (!call || FAILED(call->GetLibraryPath(library.Put())) || FAILED(call->GetFunctionName(name.Put()))) return;
+    State().newFunctions.Drop(model::FullPath(State().rack.Get(), library.Text()), name.Text());
+}
+
+Leave OperationListPP::OnNext() {
+    const bool addAnother = ui::IsChecked(Item(IDC_OPERATION_LIST_ANOTHER));
+    return Leave::To(PageAfterOperationList(Order().Rows() == 0, addAnother));
+}
+
+Leave OperationListPP::OnBack() {
+    long kind = 0;
+    const bool known = State().trigger && SUCCEEDED(State().trigger->GetTriggerKind(&kind));
+    const auto trigger = known ? model::TriggerKindFrom(kind) : std::nullopt;
+    return Leave::To(trigger ? LastTriggerPage(*trigger) : IDD_SELECT_TRIGGER);
+}
+
+}  // namespace recoveryui::wizard

@@ -1,0 +1,22 @@
+#pragma once
+
+#include "wizard/WizardPPBase.h"
+
+namespace recoveryui::wizard {
+
+// Asks for the scenario's name, unique in its recovery file, and its description.
+class ScenDescriptionPP final : public WizardPPBase {
+public:
+    explicit ScenDescriptionPP(WizardPS& sheet);
+
+private:
+    void OnInit() override;
+    bool OnCommand(const ui::Command& command) override;
+    Leave OnNext() override;
+
+    bool IsTaken(const std::wstring& name) const;
+
+    std::wstring initialName_;
+};
+
+}  // namespace recoveryui::wizard

@@ -1,0 +1,62 @@
+#include "wizard/SummaryPP.h"
+
+#include "com/Guard.h"
+#include "resources/ids.h"
+#include "shell/Rack.h"
+#include "ui/Strings.h"
+#include "ui/Window.h"
+#include "wizard/AppendFunctions.h"
+#include "wizard/Commit.h"
+#include "wizard/Summary.h"
+
+namespace recoveryui::wizard {
+namespace {
+constexpr UINT kTabStop = 16;  // in dialog units: what the summary indents
+}
+
+SummaryPP::SummaryPP(WizardPS& sheet) : WizardPPBase(sheet, IDD_SUMMARY, true) {}
+
+void SummaryPP::OnInit() {
+    WizardPPBase::OnInit();
+    const bool editing = State().scenario != nullptr;
+    ui::Show(Item(IDC_SUMMARY_ADD_CURRENT), !editing);
+    ui::Show(Item(IDC_SUMMARY_ADD_DEFAULT), !editing && !HostAnswersYes());
+
+    const HWND box = Item(IDC_SUMMARY_TEXT);
+    SendMessageW(box, EM_SETTABSTOPS, 1, reinterpret_cast<LPARAM>(&kTabStop));
+    ui::SetText(box, Summary());
+}
+
+bool SummaryPP::HostAnswersYes() const {
+    com::Ptr<IHostApplication> application;
+    VARIANT_BOOL yes = VARIANT_FALSE;
+    return SUCCEEDED(shell::Fetch(State().rack.Get(), L"HostApplication", application)) &&
+           SUCCEEDED(application->HostModeQuery(&yes)) && yes != VARIANT_FALSE;
+}
+
+std::wstring SummaryPP::Summary() const {
+    SummaryContent content;
+    long kind = 0;
+    if (State().trigger) {
+        com::Check(State().trigger->GetTriggerKind(&kind));
+        content.trigger = kind;
+    }
+    for (const auto& operation : State().operations) {
+        com::Check(operation->GetOperationKind(&kind));
+        content.operations.push_back(kind);
+    }
+    content.restart = State().restartWindows;
+    content.option = State().postRecoveryOption;
+    return BuildSummary(content, ui::LoadText).value_or(std::wstring());
+}
+
+bool SummaryPP::OnFinish() {
+    const ui::WaitCursor wait;
+    State().scenario = MakeScenario(State());
+    State().addToCurrent = ui::IsChecked(Item(IDC_SUMMARY_ADD_CURRENT));
+    State().addToDefault = ui::IsChecked(Item(IDC_SUMMARY_ADD_DEFAULT));
+    AppendNewFunctions(State().newFunctions, State().rack.Get());
+    return true;
+}
+
+}  // namespace recoveryui::wizard

@@ -1,0 +1,20 @@
+#pragma once
+
+#include "wizard/WizardPPBase.h"
+
+namespace recoveryui::wizard {
+
+// Shows the scenario in words; Finish makes it.
+class SummaryPP final : public WizardPPBase {
+public:
+    explicit SummaryPP(WizardPS& sheet);
+
+private:
+    void OnInit() override;
+    bool OnFinish() override;
+
+    bool HostAnswersYes() const;
+    std::wstring Summary() const;
+};
+
+}  // namespace recoveryui::wizard

@@ -1,0 +1,59 @@
+#include "wizard/WizardPS.h"
+
+#include "resources/ids.h"
+#include "ui/Strings.h"
+#include "wizard/OperationClickPP.h"
+#include "wizard/OperationListPP.h"
+#include "wizard/ScenDescriptionPP.h"
+#include "wizard/SelectOperationPP.h"
+#include "wizard/SelectPopupPP.h"
+#include "wizard/SelectScenPP.h"
+#include "wizard/SummaryPP.h"
+#include "wizard/TestFlowPP.h"
+#include "wizard/WelcomePP.h"
+
+namespace recoveryui::wizard {
+namespace {
+
+// The walk ends at the first element that is no operation; what came before counts.
+void ReadOperations(IRecoveryScenario& scenario, std::vector<com::Ptr<IRecoveryAction>>& operations) {
+    com::CVtlSafeArray<IUnknown*> array;
+    if (FAILED(scenario.GetOperations(array.Put())) || FAILED(array.Verify())) return;
+    for (LONG index = array.LowerBound(); index <= array.UpperBound(); ++index) {
+        com::Ptr<IUnknown> element;
+        if (FAILED(array.GetElement(index, &element))) return;
+        auto operation = com::Query<IRecoveryAction>(element.Get());
+        if (!operation) return;
+        operations.push_back(std::move(operation));
+    }
+}
+
+}  // namespace
+
+WizardPS::WizardPS() : PropertySheet(Kind::Wizard, ui::LoadText(IDS_WIZARD_TITLE)) {
+    AddPage(std::make_unique<WelcomePP>(*this));
+    AddPage(std::make_unique<SelectScenPP>(*this));
+    AddPage(std::make_unique<SelectPopupPP>(*this));
+    AddPage(std::make_unique<OperationListPP>(*this));
+    AddPage(std::make_unique<SelectOperationPP>(*this));
+    AddPage(std::make_unique<OperationClickPP>(*this));
+    AddPage(std::make_unique<TestFlowPP>(*this));
+    AddPage(std::make_unique<ScenDescriptionPP>(*this));
+    AddPage(std::make_unique<SummaryPP>(*this));
+}
+
+HRESULT WizardPS::Load(IRecoveryScenario* scenario, std::wstring name) {
+    state_.scenario = scenario;
+    com::Ptr<IUnknown> trigger;
+    if (FAILED(scenario->GetTrigger(trigger.GetAddressOf()))) return E_FAIL;
+    state_.trigger = com::Query<IRecoveryTrigger>(trigger.Get());
+    if (!state_.trigger) return E_FAIL;
+    ReadOperations(*scenario, state_.operations);
+    if (FAILED(scenario->GetPostRecoveryOption(&state_.postRecoveryOption))) return E_FAIL;
+    state_.name = std::move(name);
+    com::Bstr description;
+    if (SUCCEEDED(scenario->GetDescription(description.Put()))) state_.description = description.Text();
+    return S_OK;
+}
+
+}  // namespace recoveryui::wizard
