@@ -11,6 +11,8 @@ target_include_directories(house INTERFACE ${CMAKE_SOURCE_DIR}/src)
 if(WIN32)
   target_compile_definitions(house INTERFACE UNICODE _UNICODE NOMINMAX WIN32_LEAN_AND_MEAN _WIN32_WINNT=0x0601)
   # Nothing but Windows' own DLLs may be imported.
+  set(CMAKE_CXX_FLAGS_RELEASE "-O2 -DNDEBUG")
+  set(CMAKE_C_FLAGS_RELEASE "-O2 -DNDEBUG")
   add_link_options(-static)
   add_compile_options($<$<COMPILE_LANGUAGE:C,CXX>:-ffunction-sections> $<$<COMPILE_LANGUAGE:C,CXX>:-fdata-sections>)
   if(CMAKE_BUILD_TYPE STREQUAL "Release")
