@@ -15,7 +15,7 @@ com::Ptr<IFileLocator> FindLocator(IObjectRack* rack) {
     com::Ptr<IFileLocator> locator;
     if (SUCCEEDED(shell::Fetch(rack, L"RACK_FILE_LOCATOR", locator))) return locator;
     com::Ptr<IPluginMgr> manager;
-    if (SUCCEEDED(shell::Fetch(rack, L"TovPluginMgrObject", manager)))
+    if (SUCCEEDED(shell::FetchAnywhere(rack, L"TovPluginMgrObject", manager)))
         manager->GetFileLocator(locator.ReleaseAndGetAddressOf());
     return locator;
 }

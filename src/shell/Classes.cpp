@@ -1,6 +1,8 @@
 #include "shell/Classes.h"
 
 #include "RecoveryUI.h"
+#include "shell/RecoveryPPSpecifier.h"
+#include "shell/RecoveryUIAddin.h"
 #include "wizard/RecoveryWizard.h"
 
 namespace recoveryui::shell {
@@ -8,6 +10,9 @@ namespace recoveryui::shell {
 std::span<const com::ClassEntry> Classes() noexcept {
     static constexpr com::ClassEntry kClasses[] = {
         {&CLSID_RecoveryWizard, L"Vantrel.RecoveryWizard", L"RecoveryWizard Class", &wizard::CreateRecoveryWizard},
+        {&CLSID_RecoveryUIAddin, L"Vantrel.RecoveryUIAddin", L"RecoveryUIAddin Class", &CreateRecoveryUIAddin},
+        {&CLSID_RecoveryPPSpecifier, L"Vantrel.RecoveryPPSpecifier", L"RecoveryPPSpecifier Class",
+         &CreateRecoveryPPSpecifier},
     };
     return kClasses;
 }

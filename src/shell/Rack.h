@@ -22,6 +22,16 @@ template <class Interface>
     return found.As(&object);
 }
 
+// The rack of the add-in while it is connected: the host's global one. Not owned.
+inline IObjectRack* connectedRack = nullptr;
+
+// From the rack at hand, else from the host's global one.
+template <class Interface>
+[[nodiscard]] HRESULT FetchAnywhere(IObjectRack* rack, const wchar_t* name, com::Ptr<Interface>& object) {
+    const HRESULT hr = Fetch(rack, name, object);
+    return SUCCEEDED(hr) || !connectedRack ? hr : Fetch(connectedRack, name, object);
+}
+
 // Gives an object the rack; E_NOINTERFACE when it is no rack client.
 [[nodiscard]] inline HRESULT HandRack(IUnknown* object, IObjectRack* rack) {
     const com::Ptr<IObjectRackClient> client = com::Query<IObjectRackClient>(object);

@@ -40,7 +40,7 @@ void Announce(const std::wstring& path, IFileLocator* locator, IObjectRack* rack
         return;
     }
     com::Ptr<IPluginMgr> manager;
-    if (SUCCEEDED(shell::Fetch(rack, L"TovPluginMgrObject", manager))) manager->LibraryChanged(located.Get());
+    if (SUCCEEDED(shell::FetchAnywhere(rack, L"TovPluginMgrObject", manager))) manager->LibraryChanged(located.Get());
 }
 
 }  // namespace

@@ -1,0 +1,66 @@
+#include "shell/HostConnection.h"
+
+#include <utility>
+
+#include "com/Create.h"
+#include "resources/ids.h"
+#include "shell/Rack.h"
+#include "ui/Strings.h"
+
+namespace recoveryui::shell {
+
+HostConnection::HostConnection(HostConnection&& other) noexcept { *this = std::move(other); }
+
+HostConnection& HostConnection::operator=(HostConnection&& other) noexcept {
+    if (this == &other) return *this;
+    Close();
+    commands_ = std::move(other.commands_);
+    group_ = other.group_;
+    command_ = other.command_;
+    collector_ = std::move(other.collector_);
+    specifier_ = std::move(other.specifier_);
+    return *this;
+}
+
+HostConnection::~HostConnection() { Close(); }
+
+HRESULT HostConnection::Open(IUnknown* manager, IObjectRack* rack, IUnknown* target) {
+    auto commands = com::Query<IMenuCommands>(manager);
+    if (!commands) return E_NOINTERFACE;
+    const HRESULT hr =
+        commands->RegisterCommand(com::Bstr(ui::LoadText(IDS_ADDIN_COMMAND)).Get(), target, &group_, &command_);
+    if (FAILED(hr)) return hr;
+    commands_ = std::move(commands);
+    const HRESULT added = AddSettingsPages(rack);
+    if (FAILED(added)) Close();
+    return SUCCEEDED(added) ? S_OK : E_FAIL;
+}
+
+HRESULT HostConnection::AddSettingsPages(IObjectRack* rack) {
+    com::Ptr<IObjectRack> frame;
+    com::Ptr<ISettingsPageCollector> collector;
+    com::Ptr<IObjectRackClient> specifier;
+    HRESULT hr = Fetch(rack, L"FrameRack", frame);
+    if (SUCCEEDED(hr)) hr = Fetch(frame.Get(), L"FRAME_PropProviderSettings", collector);
+    if (SUCCEEDED(hr)) hr = com::Create(L"Vantrel.RecoveryPPSpecifier", specifier);
+    if (SUCCEEDED(hr)) hr = specifier->SetRack(rack);
+    if (SUCCEEDED(hr)) hr = collector->AddProvider(specifier.Get());
+    if (FAILED(hr)) return hr;
+    collector_ = std::move(collector);
+    specifier_ = specifier.Get();
+    return S_OK;
+}
+
+void HostConnection::Close() noexcept {
+    if (collector_) collector_->RemoveProvider(specifier_.Get());
+    if (commands_) commands_->UnregisterCommand(command_);
+    collector_.Reset();
+    specifier_.Reset();
+    commands_.Reset();
+}
+
+bool HostConnection::IsGroup(const GUID* group) const noexcept {
+    return commands_ && group && IsEqualGUID(*group, group_);
+}
+
+}  // namespace recoveryui::shell
