@@ -139,6 +139,9 @@
 #define IDS_ADDIN_COMMAND 420
 #define IDS_ADDIN_NAME 421
 
+// ---- Scripts
+#define IDR_REGISTRATION 100
+
 // ---- Pictures -------------------------------------------------------------------------------------
 // PNG, three sizes each: number = base (100 %), base + 1000 (150 %), base + 2000 (200 %).
 #define IDB_PAGE_WELCOME 162

@@ -3,6 +3,7 @@
 
 #include "com/Module.h"
 #include "shell/Classes.h"
+#include "shell/Registration.h"
 
 STDAPI DllGetClassObject(REFCLSID clsid, REFIID iid, LPVOID* factory) {
     return recoveryui::com::GetClassObject(recoveryui::shell::Classes(), clsid, iid, factory);
@@ -10,6 +11,6 @@ STDAPI DllGetClassObject(REFCLSID clsid, REFIID iid, LPVOID* factory) {
 
 STDAPI DllCanUnloadNow() { return recoveryui::com::Module::CanUnload() ? S_OK : S_FALSE; }
 
-STDAPI DllRegisterServer() { return E_NOTIMPL; }
+STDAPI DllRegisterServer() { return recoveryui::shell::RegisterServer(recoveryui::shell::Classes()); }
 
-STDAPI DllUnregisterServer() { return E_NOTIMPL; }
+STDAPI DllUnregisterServer() { return recoveryui::shell::UnregisterServer(recoveryui::shell::Classes()); }

@@ -1,0 +1,92 @@
+#include "shell/ClassRegistration.h"
+
+#include <objbase.h>
+
+#include <string>
+
+#include "RecoveryUI.h"
+#include "com/Guard.h"
+#include "com/Module.h"
+#include "resources/ids.h"
+#include "shell/RegistryKey.h"
+#include "shell/RegistryScript.h"
+
+namespace recoveryui::shell {
+namespace {
+
+std::wstring ScriptText() {
+    const HINSTANCE module = com::Module::Instance();
+    const HRSRC found = FindResourceW(module, MAKEINTRESOURCEW(IDR_REGISTRATION), L"REGISTRY");
+    const HGLOBAL loaded = found ? LoadResource(module, found) : nullptr;
+    if (!loaded) throw com::HResultError(HRESULT_FROM_WIN32(GetLastError()));
+    const auto* text = static_cast<const char*>(LockResource(loaded));
+    return {text, text + SizeofResource(module, found)};  // plain ASCII
+}
+
+std::vector<RegistryEntry> EntriesOf(const com::ClassEntry& entry) {
+    const Replacement replacements[] = {
+        {L"CLSID", GuidText(*entry.clsid)}, {L"PROGID", entry.progId},
+        {L"DESCRIPTION", entry.description}, {L"TYPELIB", GuidText(LIBID_RecoveryUILib)},
+        {L"RELATIVE_PATH", BareFileName()},
+    };
+    auto entries = ParseRegistryScript(ScriptText(), replacements);
+    if (!entries) throw com::HResultError(E_UNEXPECTED);
+    return std::move(*entries);
+}
+
+// Values are set in place: what stands beside them, the count above all, is not touched.
+HRESULT RunScript(const std::vector<RegistryEntry>& entries) {
+    for (const RegistryEntry& entry : entries) {
+        const RegistryKey key = CreateKey(HKEY_CLASSES_ROOT, entry.key);
+        if (!key) return HRESULT_FROM_WIN32(ERROR_ACCESS_DENIED);
+        const LSTATUS status = entry.text ? WriteText(key.Get(), entry.valueName, *entry.text) : ERROR_SUCCESS;
+        if (status != ERROR_SUCCESS) return HRESULT_FROM_WIN32(status);
+    }
+    return S_OK;
+}
+
+void RemoveAll(const std::vector<RegistryEntry>& entries) {
+    for (const std::wstring& key : OwnedKeys(entries)) DeleteTree(HKEY_CLASSES_ROOT, key);
+}
+
+RegistryKey OpenServerKey(const com::ClassEntry& entry) {
+    return OpenKey(HKEY_CLASSES_ROOT, L"CLSID\\" + GuidText(*entry.clsid) + L"\\InprocServer32");
+}
+
+}  // namespace
+
+std::wstring BareFileName() {
+    const std::wstring path = com::Module::FileName();
+    return path.substr(path.rfind(L'\\') + 1);
+}
+
+std::wstring GuidText(REFGUID guid) {
+    wchar_t text[40];
+    return {text, static_cast<size_t>(StringFromGUID2(guid, text, static_cast<int>(std::size(text)))) - 1};
+}
+
+HRESULT RegisterClassEntry(const com::ClassEntry& entry) {
+    const auto entries = EntriesOf(entry);
+    const RegistryKey before = OpenServerKey(entry);
+    const bool wasRegistered = before && ReadCount(before.Get()) > 0;
+    HRESULT hr = RunScript(entries);
+    if (SUCCEEDED(hr)) {
+        const RegistryKey key = OpenServerKey(entry);
+        hr = key && WriteCount(key.Get(), ReadCount(key.Get()) + 1) == ERROR_SUCCESS ? S_OK : E_FAIL;
+    }
+    if (FAILED(hr) && !wasRegistered) RemoveAll(entries);
+    return hr;
+}
+
+HRESULT UnregisterClassEntry(const com::ClassEntry& entry) {
+    DWORD left = 0;
+    {
+        const RegistryKey key = OpenServerKey(entry);
+        if (!key) return E_FAIL;
+        left = TakeOne(key.Get());
+    }
+    if (left == 0) RemoveAll(EntriesOf(entry));
+    return S_OK;
+}
+
+}  // namespace recoveryui::shell

@@ -1,0 +1,34 @@
+// The owner of one open registry key.
+#pragma once
+
+#include <windows.h>
+
+#include <string>
+
+#include "ui/Handles.h"
+
+namespace recoveryui::shell {
+
+struct KeyCloser {
+    void operator()(HKEY key) const noexcept { RegCloseKey(key); }
+};
+using RegistryKey = ui::Owned<HKEY, KeyCloser>;
+
+// Opens a key for full access; empty when it cannot be opened.
+RegistryKey OpenKey(HKEY parent, const std::wstring& path);
+// Opens a key for full access, made if needed; empty when that fails.
+RegistryKey CreateKey(HKEY parent, const std::wstring& path);
+
+// ERROR_SUCCESS or the platform's code. An empty name is the key's default value.
+LSTATUS WriteText(HKEY key, const std::wstring& name, const std::wstring& text);
+
+// The number of registrations outstanding; 0 when there is none, or a value of another type.
+DWORD ReadCount(HKEY key);
+LSTATUS WriteCount(HKEY key, DWORD count);
+// What one unregistration makes of a count: the last one deletes the value. Gives what is left.
+DWORD TakeOne(HKEY key);
+
+// Deletes a key with all below it. A key that does not exist is not an error.
+LSTATUS DeleteTree(HKEY parent, const std::wstring& path);
+
+}  // namespace recoveryui::shell

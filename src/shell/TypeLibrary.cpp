@@ -1,0 +1,63 @@
+#include "shell/TypeLibrary.h"
+
+#include <string>
+
+#include "com/Guard.h"
+#include "com/Module.h"
+#include "shell/ClassRegistration.h"
+
+namespace recoveryui::shell {
+namespace {
+constexpr DWORD kRetryDelayMs = 172;
+}
+
+TypeLibrary::TypeLibrary() {
+    com::Check(LoadTypeLib(com::Module::FileName().c_str(), library_.GetAddressOf()));
+    TLIBATTR* attributes = nullptr;
+    com::Check(library_->GetLibAttr(&attributes));
+    attributes_ = *attributes;
+    library_->ReleaseTLibAttr(attributes);
+}
+
+HRESULT TypeLibrary::Register() const {
+    std::wstring name = BareFileName();
+    std::wstring noHelp;
+    HRESULT hr = RegisterTypeLib(library_.Get(), name.data(), noHelp.data());
+    if (SUCCEEDED(hr)) return hr;
+    Sleep(kRetryDelayMs);
+    return RegisterTypeLib(library_.Get(), name.data(), noHelp.data());
+}
+
+HRESULT TypeLibrary::Unregister() const {
+    const HRESULT hr = UnRegisterTypeLib(attributes_.guid, attributes_.wMajorVerNum, attributes_.wMinorVerNum,
+                                         attributes_.lcid, attributes_.syskind);
+    if (SUCCEEDED(hr)) return hr;
+    // The platform loads the registered path first, and a bare name is not always on the search path.
+    RemoveInterfaces();
+    if (DeleteTree(HKEY_CLASSES_ROOT, VersionKey()) != ERROR_SUCCESS) return hr;
+    RegDeleteKeyW(HKEY_CLASSES_ROOT, (L"TypeLib\\" + GuidText(attributes_.guid)).c_str());
+    return S_OK;
+}
+
+void TypeLibrary::RemoveInterfaces() const {
+    for (UINT index = 0; index < library_->GetTypeInfoCount(); ++index) {
+        com::Ptr<ITypeInfo> info;
+        TYPEATTR* attributes = nullptr;
+        if (FAILED(library_->GetTypeInfo(index, info.GetAddressOf())) || FAILED(info->GetTypeAttr(&attributes)))
+            continue;
+        const bool isInterface = attributes->typekind == TKIND_INTERFACE || attributes->typekind == TKIND_DISPATCH;
+        if (isInterface) DeleteTree(HKEY_CLASSES_ROOT, L"Interface\\" + GuidText(attributes->guid));
+        info->ReleaseTypeAttr(attributes);
+    }
+}
+
+std::wstring TypeLibrary::VersionKey() const {
+    return L"TypeLib\\" + GuidText(attributes_.guid) + L"\\" + std::to_wstring(attributes_.wMajorVerNum) + L"." +
+           std::to_wstring(attributes_.wMinorVerNum);
+}
+
+RegistryKey TypeLibrary::OpenPlatformKey() const {
+    return OpenKey(HKEY_CLASSES_ROOT, VersionKey() + L"\\" + std::to_wstring(attributes_.lcid) + L"\\Win32");
+}
+
+}  // namespace recoveryui::shell
