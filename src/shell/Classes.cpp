@@ -1,6 +1,7 @@
 #include "shell/Classes.h"
 
 #include "RecoveryUI.h"
+#include "manager/RecoveryDlg.h"
 #include "shell/RecoveryPPSpecifier.h"
 #include "shell/RecoveryUIAddin.h"
 #include "wizard/RecoveryWizard.h"
@@ -10,6 +11,7 @@ namespace recoveryui::shell {
 std::span<const com::ClassEntry> Classes() noexcept {
     static constexpr com::ClassEntry kClasses[] = {
         {&CLSID_RecoveryWizard, L"Vantrel.RecoveryWizard", L"RecoveryWizard Class", &wizard::CreateRecoveryWizard},
+        {&CLSID_RecoveryDlg, L"Vantrel.RecoveryDlg", L"RecoveryDlg Class", &manager::RecoveryDlg::Create},
         {&CLSID_RecoveryUIAddin, L"Vantrel.RecoveryUIAddin", L"RecoveryUIAddin Class", &CreateRecoveryUIAddin},
         {&CLSID_RecoveryPPSpecifier, L"Vantrel.RecoveryPPSpecifier", L"RecoveryPPSpecifier Class",
          &CreateRecoveryPPSpecifier},
