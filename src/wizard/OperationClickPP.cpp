@@ -2,12 +2,14 @@
 
 #include <commctrl.h>
 
+#include "com/Automation.h"
 #include "com/Create.h"
 #include "model/KeySequence.h"
 #include "resources/ids.h"
 #include "ui/Messages.h"
 #include "ui/Radio.h"
 #include "ui/Window.h"
+#include "wizard/WindowButtons.h"
 
 namespace recoveryui::wizard {
 namespace {
@@ -16,6 +18,19 @@ constexpr int kHandIconSize = 32;
 
 // The choices in their own order; the buttons of a group have consecutive ids only by accident.
 constexpr int kRadioIds[] = {IDC_CLICK_ENTER, IDC_CLICK_ESCAPE, IDC_CLICK_LABEL, IDC_CLICK_KEYS};
+
+// The top-level window of the innermost object that is a window; null for none.
+HWND ClickedWindow(const std::vector<com::Ptr<IDispatch>>& objects) {
+    for (const auto& object : objects) {
+        com::Variant id, handle;
+        if (FAILED(com::GetProperty(object.Get(), L"objectid", &id)) ||
+            FAILED(VariantChangeType(handle.Put(), const_cast<VARIANT*>(&id.Get()), 0, VT_I8)))
+            continue;
+        const auto window = reinterpret_cast<HWND>(static_cast<INT_PTR>(handle.Get().llVal));
+        if (IsWindow(window)) return GetAncestor(window, GA_ROOT);
+    }
+    return nullptr;
+}
 
 com::CVtlSafeArray<VARIANT> ClickArguments(const std::wstring& label) {
     com::CVtlSafeArray<VARIANT> arguments;
@@ -62,9 +77,27 @@ bool OperationClickPP::OnCommand(const ui::Command& command) {
         case IDC_CLICK_KEYS:
             if (command.code == BN_CLICKED) Refresh();
             return true;
+        case IDC_CLICK_HAND:
+            if (command.code == BN_CLICKED) OnPointingHand();
+            return true;
         default:
             return WizardPPBase::OnCommand(command);
     }
+}
+
+void OperationClickPP::OnPointingHand() {
+    const auto target = hand_.Point(Window(), State().rack.Get());
+    if (!target) return;
+    const HWND clicked = ClickedWindow(target->Objects());
+    const auto labels = ButtonLabels(clicked ? ButtonCaptions(clicked) : std::vector<std::wstring>());
+
+    const HWND list = Item(IDC_CLICK_LABEL_LIST);
+    SendMessageW(list, CB_RESETCONTENT, 0, 0);
+    for (const std::wstring& label : labels)
+        SendMessageW(list, CB_ADDSTRING, 0, reinterpret_cast<LPARAM>(label.c_str()));
+    SendMessageW(list, CB_SETCURSEL, 0, 0);
+    Refresh();
+    if (labels.empty()) ui::ShowMessage(Window(), IDS_NO_BUTTONS);
 }
 
 Leave OperationClickPP::OnNext() {

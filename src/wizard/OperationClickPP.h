@@ -2,6 +2,7 @@
 
 #include "ui/ToolTips.h"
 #include "wizard/ClickChoice.h"
+#include "wizard/PointingHand.h"
 #include "wizard/WizardPPBase.h"
 
 namespace recoveryui::wizard {
@@ -18,10 +19,12 @@ private:
 
     ClickChoice Choice() const;
     void Refresh();  // enabling and Next follow the choice
+    void OnPointingHand();
     Leave AddKeys(const std::vector<std::uint32_t>& sequence);
     Leave AddKeyCombination();
     Leave AddButtonClick();
 
+    PointingHand hand_;
     ui::ToolTips tips_;
 };
 

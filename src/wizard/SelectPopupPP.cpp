@@ -2,6 +2,7 @@
 
 #include "com/Create.h"
 #include "resources/ids.h"
+#include "ui/Messages.h"
 #include "ui/Window.h"
 
 namespace recoveryui::wizard {
@@ -26,6 +27,13 @@ void ShowCondition(HWND page, const Controls& controls, const PopupCondition& co
     ui::SetChecked(GetDlgItem(page, controls.check), condition.checked);
     ui::SetText(GetDlgItem(page, controls.value), condition.value);
     ui::SetChecked(GetDlgItem(page, controls.regex), condition.isRegex);
+}
+
+com::Ptr<IWindowTextSource> TextSourceAmong(const std::vector<com::Ptr<IDispatch>>& objects) {
+    for (const auto& object : objects) {
+        if (auto source = com::Query<IWindowTextSource>(object.Get())) return source;
+    }
+    return nullptr;
 }
 
 void EnableCondition(HWND page, const Controls& controls, bool enabled) {
@@ -82,6 +90,9 @@ void SelectPopupPP::Refresh() {
 
 bool SelectPopupPP::OnCommand(const ui::Command& command) {
     switch (command.id) {
+        case IDC_POPUP_HAND:
+            if (command.code == BN_CLICKED) OnPointingHand();
+            return true;
         case IDC_POPUP_TITLE_CHECK:
         case IDC_POPUP_TEXT_CHECK:
             if (command.code == BN_CLICKED) Refresh();
@@ -93,6 +104,20 @@ bool SelectPopupPP::OnCommand(const ui::Command& command) {
         default:
             return WizardPPBase::OnCommand(command);
     }
+}
+
+void SelectPopupPP::OnPointingHand() {
+    const auto target = hand_.Point(Window(), State().rack.Get());
+    if (!target) return;
+    const auto source = TextSourceAmong(target->Objects());
+    if (!source) {
+        ui::ShowMessage(Window(), IDS_OBJECT_NOT_SUPPORTED);
+        return;
+    }
+    com::Bstr text;
+    com::Check(source->GetText(text.Put()));
+    // An empty text still has a title to go with; no text at all is a failure.
+    if (!text.IsNull()) Show(CapturedConditions(target->Title(), text.Text()));
 }
 
 Leave SelectPopupPP::OnNext() {

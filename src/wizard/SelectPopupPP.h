@@ -1,6 +1,7 @@
 #pragma once
 
 #include "ui/ToolTips.h"
+#include "wizard/PointingHand.h"
 #include "wizard/PopupConditions.h"
 #include "wizard/WizardPPBase.h"
 
@@ -20,7 +21,9 @@ private:
     PopupConditions Read() const;
     void Show(const PopupConditions& conditions);
     void Refresh();  // enabling and Next, after every change
+    void OnPointingHand();
 
+    PointingHand hand_;
     ui::ToolTips tips_;
 };
 

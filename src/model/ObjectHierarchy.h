@@ -9,7 +9,7 @@
 #include <utility>
 #include <vector>
 
-namespace recoveryui::wizard {
+namespace recoveryui::model {
 
 // No application nests deeper; a chain that does goes round in circles.
 inline constexpr std::size_t kDeepestHierarchy = 1024;
@@ -35,4 +35,4 @@ inline std::optional<std::size_t> FirstUnidentified(std::span<const std::size_t>
     return static_cast<std::size_t>(std::distance(checkedProperties.begin(), found));
 }
 
-}  // namespace recoveryui::wizard
+}  // namespace recoveryui::model
