@@ -4,6 +4,9 @@
 #include "objects/ClassIds.h"
 #include "objects/Journal.h"
 #include "objects/ObjectRack.h"
+#include "objects/screen/RecordMgr.h"
+#include "objects/services/HostApplication.h"
+#include "objects/services/TovCommonFileDialog.h"
 
 namespace tovarin {
 namespace {
@@ -23,6 +26,9 @@ constexpr com::ClassEntry Row(const CLSID& clsid, const wchar_t* description) {
 constexpr com::ClassEntry kClasses[] = {
     {&kClsidCallJournal, CallJournal::kProgId, L"Call journal", &CallJournal::Create},
     Row<ObjectRack>(kClsidObjectRack, L"Object rack"),
+    Row<TovCommonFileDialog>(kClsidTovCommonFileDialog, L"Common file dialog"),
+    Row<RecordMgr>(kClsidRecordMgr, L"Record manager"),
+    Row<HostApplication>(kClsidHostApplication, L"Host application"),
 };
 
 }  // namespace
