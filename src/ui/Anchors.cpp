@@ -45,7 +45,7 @@ void Anchors::Follow() const {
         if (!moves) return;
         moves =
             DeferWindowPos(moves, control.window, nullptr, place.left, place.top, place.right - place.left,
-                           place.bottom - place.top, SWP_NOZORDER | SWP_NOACTIVATE);
+                           place.bottom - place.top, SWP_NOZORDER | SWP_NOACTIVATE | SWP_NOCOPYBITS);
     }
     if (moves) EndDeferWindowPos(moves);
 }
