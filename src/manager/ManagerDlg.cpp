@@ -99,8 +99,9 @@ bool ManagerDlg::OnNotify(NMHDR& header, LRESULT& answer) {
     if (header.idFrom != IDC_MANAGER_LIST) return false;
     switch (header.code) {
         case LVN_ITEMCHANGED: {
+            // A virtual list reports the end of a selection for row -1, without saying what it was.
             const auto& change = reinterpret_cast<const NMLISTVIEW&>(header);
-            if ((change.uNewState ^ change.uOldState) & LVIS_SELECTED) UpdateSelection();
+            if (change.iItem < 0 || (change.uNewState ^ change.uOldState) & LVIS_SELECTED) UpdateSelection();
             return true;
         }
         case LVN_ODSTATECHANGED: UpdateSelection(); return true;

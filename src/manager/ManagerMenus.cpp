@@ -47,6 +47,14 @@ void AppendSeparator(const ui::Menu& menu) {
     AppendMenuW(menu.Get(), MF_SEPARATOR, 0, nullptr);
 }
 
+// A path as a menu can show it: not wider than the screen, and without mnemonics.
+std::wstring EntryOf(std::wstring path) {
+    constexpr size_t kLongest = 100, kBeginning = 30;
+    if (path.size() > kLongest)
+        path = path.substr(0, kBeginning) + L"..." + path.substr(path.size() - (kLongest - kBeginning));
+    return support::ReplaceAll(path, L"&", L"&&");
+}
+
 // The chosen entry, or 0.
 UINT Track(const ui::Menu& menu, HWND owner, POINT point, const RECT* keepClear = nullptr) {
     TPMPARAMS exclude{sizeof exclude, {}};
@@ -122,7 +130,7 @@ void ManagerDlg::ShowOpenMenu() {
     const std::vector<std::wstring> files = recent_.Entries();
     if (!files.empty()) AppendSeparator(menu);
     for (size_t i = 0; i < files.size(); ++i)
-        Append(menu, kFirstRecentEntry + static_cast<UINT>(i), support::ReplaceAll(files[i], L"&", L"&&"));
+        Append(menu, kFirstRecentEntry + static_cast<UINT>(i), EntryOf(files[i]));
     const UINT chosen = DropFrom(menu, Window(), Item(IDC_MANAGER_OPEN));
     if (chosen == IDC_MANAGER_OPEN) Post(IDC_MANAGER_OPEN);
     if (chosen >= kFirstRecentEntry && chosen - kFirstRecentEntry < files.size())
