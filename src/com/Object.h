@@ -33,7 +33,8 @@ public:
     template <class... Arguments>
     static Ptr<Derived> Make(Arguments&&... arguments) {
         Ptr<Derived> object;
-        object.Attach(new Derived(std::forward<Arguments>(arguments)...));
+        // Attach adds a reference in MinGW's header; the address takes the first one over everywhere.
+        *object.GetAddressOf() = new Derived(std::forward<Arguments>(arguments)...);
         return object;
     }
     // The creator that class tables hold.
