@@ -1,0 +1,98 @@
+#include "harness/ComTest.h"
+
+#include "com/Create.h"
+#include "harness/ProcessWindows.h"
+
+namespace recoveryui::test {
+namespace {
+
+HMODULE Load(const wchar_t* dll) {
+    const HMODULE module = LoadLibraryW(dll);
+    EXPECT_NE(module, nullptr) << Utf8(dll);
+    return module;
+}
+
+HRESULT CanUnload(HMODULE module) {
+    const auto answer = reinterpret_cast<HRESULT(STDAPICALLTYPE*)()>(
+        reinterpret_cast<void*>(GetProcAddress(module, "DllCanUnloadNow")));
+    return answer ? answer() : E_FAIL;
+}
+
+void RunPendingMessages() {
+    MSG message;
+    while (PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE)) DispatchMessageW(&message);
+}
+
+}  // namespace
+
+ComTest::ComTest() {
+    EXPECT_EQ(CoInitializeEx(nullptr, COINIT_APARTMENTTHREADED), S_OK);
+    component_ = Load(L"RecoveryUI.dll");
+    standIns_ = Load(L"TovarinObjects.dll");
+    journal_ = New<ICallJournal>(L"Tovarin.CallJournal");
+}
+
+ComTest::~ComTest() {
+    if (journal_) {
+        journal_->ClearFaults();
+        journal_->Clear();
+    }
+    journal_.Reset();
+    RunPendingMessages();
+    EXPECT_EQ(CanUnload(component_), S_OK) << "objects of the component are alive";
+    EXPECT_EQ(CanUnload(standIns_), S_OK) << "stand-ins are alive";
+    for (const HWND window : TopLevelWindows()) {
+        const std::wstring name = ClassOf(window);
+        if (name == L"IME" || name == L"MSCTFIME UI") continue;  // the system's own
+        ADD_FAILURE() << "a window is left: " << Utf8(name) << " \"" << Utf8(TextOf(window)) << "\"";
+    }
+    CoUninitialize();
+    FreeLibrary(standIns_);
+    FreeLibrary(component_);
+}
+
+void ComTest::Create(const wchar_t* progId, REFIID iid, void** object) {
+    EXPECT_EQ(com::CreateByProgId(progId, iid, object), S_OK) << Utf8(progId);
+}
+
+void ComTest::FailCall(const wchar_t* object, const wchar_t* operation, HRESULT code, long nth, long times) {
+    EXPECT_EQ(journal_->FailCall(com::Bstr(object).Get(), com::Bstr(operation).Get(), nth, code, times),
+              S_OK);
+}
+
+void ComTest::ClearFaults() {
+    EXPECT_EQ(journal_->ClearFaults(), S_OK);
+}
+
+std::wstring ComTest::Calls() {
+    com::Bstr text;
+    EXPECT_EQ(journal_->GetText(text.Put()), S_OK);
+    return text.Text();
+}
+
+void ComTest::ForgetCalls() {
+    EXPECT_EQ(journal_->Clear(), S_OK);
+}
+
+Rack::Rack() {
+    EXPECT_EQ(com::Create(L"Tovarin.ObjectRack", rack_), S_OK);
+}
+
+Rack& Rack::Put(const wchar_t* name, IUnknown* object) {
+    EXPECT_EQ(rack_->SetObject(com::Bstr(name).Get(), object), S_OK) << Utf8(name);
+    return *this;
+}
+
+Rack& Rack::Put(const wchar_t* name, const wchar_t* progId) {
+    com::Ptr<IUnknown> object;
+    EXPECT_EQ(com::Create(progId, object), S_OK) << Utf8(progId);
+    return Put(name, object.Get());
+}
+
+void Rack::GiveTo(IUnknown* client) const {
+    const auto rackClient = com::Query<IObjectRackClient>(client);
+    ASSERT_TRUE(rackClient) << "takes no rack";
+    EXPECT_EQ(rackClient->SetRack(rack_.Get()), S_OK);
+}
+
+}  // namespace recoveryui::test

@@ -1,0 +1,167 @@
+#include "harness/ProcessWindows.h"
+
+#include <atomic>
+#include <cstdio>
+#include <thread>
+
+namespace recoveryui::test {
+namespace {
+
+std::atomic<ULONGLONG> testStarted{0};
+
+BOOL CALLBACK Collect(HWND window, LPARAM list) {
+    DWORD process = 0;
+    GetWindowThreadProcessId(window, &process);
+    if (process == GetCurrentProcessId()) reinterpret_cast<std::vector<HWND>*>(list)->push_back(window);
+    return TRUE;
+}
+
+std::string Describe(HWND window, const char* indent) {
+    std::string line = indent + Utf8(ClassOf(window)) + " " + std::to_string(GetDlgCtrlID(window) & 0xFFFF) +
+                       " \"" + Utf8(TextOf(window)) + "\"";
+    if (!IsWindowEnabled(window)) line += " disabled";
+    return line + "\n";
+}
+
+LONG WINAPI OnCrash(EXCEPTION_POINTERS* crash) {
+    void* const address = crash->ExceptionRecord->ExceptionAddress;
+    MEMORY_BASIC_INFORMATION region{};
+    VirtualQuery(address, &region, sizeof region);
+    wchar_t module[512] = L"";
+    GetModuleFileNameW(static_cast<HMODULE>(region.AllocationBase), module, 512);
+    std::printf("CRASH: exception 0x%08lX at %p, %s + 0x%llX\n", crash->ExceptionRecord->ExceptionCode,
+                address, Utf8(module).c_str(),
+                static_cast<unsigned long long>(static_cast<char*>(address) -
+                                                static_cast<char*>(region.AllocationBase)));
+    TerminateProcess(GetCurrentProcess(), 99);
+    return EXCEPTION_EXECUTE_HANDLER;
+}
+
+}  // namespace
+
+std::string Utf8(std::wstring_view text) {
+    const int length = static_cast<int>(text.size());
+    std::string result(WideCharToMultiByte(CP_UTF8, 0, text.data(), length, nullptr, 0, nullptr, nullptr),
+                       '\0');
+    WideCharToMultiByte(CP_UTF8, 0, text.data(), length, result.data(), static_cast<int>(result.size()),
+                        nullptr, nullptr);
+    return result;
+}
+
+std::vector<HWND> TopLevelWindows() {
+    std::vector<HWND> windows;
+    EnumWindows(Collect, reinterpret_cast<LPARAM>(&windows));
+    return windows;
+}
+
+std::vector<HWND> Descendants(HWND window) {
+    std::vector<HWND> windows;
+    EnumChildWindows(window, Collect, reinterpret_cast<LPARAM>(&windows));
+    return windows;
+}
+
+std::wstring ClassOf(HWND window) {
+    wchar_t name[256] = L"";
+    GetClassNameW(window, name, 256);
+    return name;
+}
+
+std::wstring TextOf(HWND window) {
+    DWORD_PTR length = 0;
+    if (!SendMessageTimeoutW(window, WM_GETTEXTLENGTH, 0, 0, SMTO_ABORTIFHUNG, 1000, &length)) return {};
+    std::wstring text(length, L'\0');
+    DWORD_PTR copied = 0;
+    SendMessageTimeoutW(window, WM_GETTEXT, length + 1, reinterpret_cast<LPARAM>(text.data()),
+                        SMTO_ABORTIFHUNG, 1000, &copied);
+    text.resize(copied);
+    return text;
+}
+
+std::string DescribeWindows() {
+    std::string report = "Windows on the screen:\n";
+    for (const HWND window : TopLevelWindows()) {
+        if (!IsWindowVisible(window)) continue;
+        report += Describe(window, "  ");
+        DWORD_PTR answer = 0;
+        if (!SendMessageTimeoutW(window, WM_NULL, 0, 0, SMTO_ABORTIFHUNG, 500, &answer)) {
+            report += "    (does not answer)\n";
+            continue;
+        }
+        for (const HWND child : Descendants(window)) {
+            if (IsWindowVisible(child)) report += Describe(child, "    ");
+        }
+    }
+    return report;
+}
+
+void CloseWindows() {
+    for (const HWND window : TopLevelWindows()) {
+        if (!IsWindowVisible(window) || !IsWindowEnabled(window)) continue;
+        WORD answer = 0;
+        for (const WORD id : {IDOK, IDABORT, IDCANCEL, IDNO}) {
+            const HWND button = GetDlgItem(window, id);
+            if (button && IsWindowVisible(button) && IsWindowEnabled(button)) answer = id;
+        }
+        if (ClassOf(window) == L"#32768") {
+            PostMessageW(window, WM_CANCELMODE, 0, 0);
+        } else if (answer) {
+            PostMessageW(window, WM_COMMAND, answer, 0);
+        } else {
+            PostMessageW(window, WM_CLOSE, 0, 0);
+        }
+    }
+}
+
+bool SaveBmp(HWND window, const std::wstring& path) {
+    RECT place{};
+    GetWindowRect(window, &place);
+    const LONG width = place.right - place.left;
+    const LONG height = place.bottom - place.top;
+    BITMAPINFO info{};
+    info.bmiHeader = {sizeof info.bmiHeader, width, height, 1, 32, BI_RGB, 0, 0, 0, 0, 0};
+    void* pixels = nullptr;
+    const HDC source = GetWindowDC(window);
+    const HDC memory = CreateCompatibleDC(source);
+    const HBITMAP bitmap = CreateDIBSection(memory, &info, DIB_RGB_COLORS, &pixels, nullptr, 0);
+    bool saved = false;
+    if (bitmap) {
+        const HGDIOBJ before = SelectObject(memory, bitmap);
+        BitBlt(memory, 0, 0, width, height, source, 0, 0, SRCCOPY);
+        GdiFlush();
+        const DWORD size = static_cast<DWORD>(width * height * 4);
+        BITMAPFILEHEADER header{};
+        header.bfType = 0x4D42;
+        header.bfOffBits = sizeof header + sizeof info.bmiHeader;
+        header.bfSize = header.bfOffBits + size;
+        if (std::FILE* const file = _wfopen(path.c_str(), L"wb")) {
+            saved = std::fwrite(&header, sizeof header, 1, file) == 1 &&
+                    std::fwrite(&info.bmiHeader, sizeof info.bmiHeader, 1, file) == 1 &&
+                    std::fwrite(pixels, size, 1, file) == 1;
+            saved = std::fclose(file) == 0 && saved;
+        }
+        SelectObject(memory, before);
+        DeleteObject(bitmap);
+    }
+    DeleteDC(memory);
+    ReleaseDC(window, source);
+    return saved;
+}
+
+void StartWatchdog(unsigned seconds) {
+    RestartWatchdog();
+    std::thread([seconds] {
+        while (GetTickCount64() < testStarted + seconds * 1000ULL) Sleep(100);
+        std::printf("WATCHDOG: nothing ended within %u seconds\n%s", seconds, DescribeWindows().c_str());
+        TerminateProcess(GetCurrentProcess(), 98);
+    }).detach();
+}
+
+void RestartWatchdog() {
+    testStarted = GetTickCount64();
+}
+
+void ReportCrashes() {
+    SetUnhandledExceptionFilter(OnCrash);
+}
+
+}  // namespace recoveryui::test

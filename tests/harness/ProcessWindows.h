@@ -1,0 +1,36 @@
+// The top-level windows of this process, from any thread: found, described and closed without ever
+// waiting for a window that does not answer.
+#pragma once
+
+#include <windows.h>
+
+#include <functional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace recoveryui::test {
+
+std::string Utf8(std::wstring_view text);
+
+std::vector<HWND> TopLevelWindows();
+std::vector<HWND> Descendants(HWND window);
+std::wstring ClassOf(HWND window);
+// Empty when the window does not answer in time.
+std::wstring TextOf(HWND window);
+
+// Every visible window with its controls, for the report of a failed test.
+std::string DescribeWindows();
+// Answers every dialog that can be answered with the most harmless button, and closes the rest.
+void CloseWindows();
+
+// A picture of one window, also when others cover it and without a display.
+bool SaveBmp(HWND window, const std::wstring& path);
+
+// Ends the process with a report when one test takes longer than this.
+void StartWatchdog(unsigned seconds);
+void RestartWatchdog();
+// A crash is reported with its place and ends the process at once.
+void ReportCrashes();
+
+}  // namespace recoveryui::test

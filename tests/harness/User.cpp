@@ -1,0 +1,115 @@
+#include "harness/User.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <exception>
+
+#include "harness/ProcessWindows.h"
+#include "harness/UserScreen.h"
+
+namespace recoveryui::test {
+namespace {
+
+constexpr UINT kDo = WM_APP;
+constexpr UINT kAreYouIdle = WM_APP + 1;
+
+// Shared with the answer, which may arrive when the question has been given up.
+struct Question {
+    HANDLE answered = CreateEventW(nullptr, TRUE, FALSE, nullptr);
+    bool idle = false;
+    ~Question() { CloseHandle(answered); }
+};
+using SharedQuestion = std::shared_ptr<Question>;
+using Action = std::function<void()>;
+
+}  // namespace
+
+UiThread::UiThread() {
+    static const ATOM kind = [] {
+        WNDCLASSW definition{};
+        definition.lpfnWndProc = Procedure;
+        definition.hInstance = GetModuleHandleW(nullptr);
+        definition.lpszClassName = L"RecoveryUITestThread";
+        return RegisterClassW(&definition);
+    }();
+    window_ = CreateWindowW(MAKEINTATOM(kind), L"", 0, 0, 0, 0, 0, HWND_MESSAGE, nullptr, nullptr, nullptr);
+}
+
+UiThread::~UiThread() {
+    DestroyWindow(window_);
+}
+
+LRESULT CALLBACK UiThread::Procedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
+    if (message == kDo) {
+        const std::unique_ptr<Action> action(reinterpret_cast<Action*>(lParam));
+        (*action)();
+        return 0;
+    }
+    if (message == kAreYouIdle) {
+        const std::unique_ptr<SharedQuestion> question(reinterpret_cast<SharedQuestion*>(lParam));
+        (*question)->idle = HIWORD(GetQueueStatus(QS_POSTMESSAGE | QS_INPUT)) == 0;
+        SetEvent((*question)->answered);
+        return 0;
+    }
+    return DefWindowProcW(window, message, wParam, lParam);
+}
+
+bool UiThread::Do(Action action, DWORD milliseconds) const {
+    const ULONGLONG deadline = GetTickCount64() + milliseconds;
+    PostMessageW(window_, kDo, 0, reinterpret_cast<LPARAM>(new Action(std::move(action))));
+    return WaitForIdle(deadline);
+}
+
+bool UiThread::WaitForIdle(ULONGLONG deadline) const {
+    for (;;) {
+        const auto question = std::make_shared<Question>();
+        PostMessageW(window_, kAreYouIdle, 0, reinterpret_cast<LPARAM>(new SharedQuestion(question)));
+        const ULONGLONG now = GetTickCount64();
+        if (now >= deadline) return false;
+        if (WaitForSingleObject(question->answered, static_cast<DWORD>(deadline - now)) != WAIT_OBJECT_0)
+            return false;
+        if (question->idle) return true;
+        Sleep(1);  // posted questions come before real input: leave it a turn
+    }
+}
+
+User::User(Script script, unsigned patienceSeconds) : script_(std::move(script)), patience_(patienceSeconds) {
+    thread_ = CreateThread(nullptr, 0, Run, this, 0, nullptr);
+}
+
+User::~User() {
+    ui_.End();
+    while (MsgWaitForMultipleObjects(1, &thread_, FALSE, INFINITE, QS_ALLINPUT) != WAIT_OBJECT_0) {
+        MSG message;
+        while (PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE)) {
+            TranslateMessage(&message);
+            DispatchMessageW(&message);
+        }
+    }
+    CloseHandle(thread_);
+}
+
+DWORD WINAPI User::Run(void* user) {
+    static_cast<User*>(user)->Act();
+    return 0;
+}
+
+void User::Act() {
+    try {
+        UserScreen screen(ui_, GetTickCount64() + patience_ * 1000ULL);
+        script_(screen);
+        const ULONGLONG grace = testing::Test::HasFailure() ? 500 : std::min(5U, patience_) * 1000;
+        const ULONGLONG deadline = GetTickCount64() + grace;
+        while (!ui_.Ended() && GetTickCount64() < deadline) Sleep(1);
+        if (!ui_.Ended()) ADD_FAILURE() << "The user is done, but windows stay open.\n" << DescribeWindows();
+    } catch (const std::exception& problem) {
+        ADD_FAILURE() << "The user cannot go on: " << problem.what() << "\n" << DescribeWindows();
+    }
+    while (!ui_.Ended()) {
+        CloseWindows();
+        Sleep(20);
+    }
+}
+
+}  // namespace recoveryui::test
