@@ -1,5 +1,7 @@
 #include "ui/PropertyPage.h"
 
+#include "ui/EditKeys.h"
+
 namespace recoveryui::ui {
 
 HPROPSHEETPAGE PropertyPage::CreateHandle() {
@@ -43,6 +45,7 @@ INT_PTR CALLBACK PropertyPage::Procedure(HWND window, UINT message, WPARAM wPara
         const LPARAM object = reinterpret_cast<const PROPSHEETPAGEW*>(lParam)->lParam;
         SetWindowLongPtrW(window, DWLP_USER, object);
         reinterpret_cast<PropertyPage*>(object)->Attach(window);
+        LeaveKeysToSheet(window);
     }
     auto* page = reinterpret_cast<PropertyPage*>(GetWindowLongPtrW(window, DWLP_USER));
     return page ? page->Dispatch(message, wParam, lParam) : FALSE;

@@ -114,9 +114,7 @@ Leave OperationListPP::OnNext() {
 }
 
 Leave OperationListPP::OnBack() {
-    long kind = 0;
-    const bool known = State().trigger && SUCCEEDED(State().trigger->GetTriggerKind(&kind));
-    const auto trigger = known ? model::TriggerKindFrom(kind) : std::nullopt;
+    const auto trigger = KindOfTrigger();
     return Leave::To(trigger ? LastTriggerPage(*trigger) : IDD_SELECT_TRIGGER);
 }
 

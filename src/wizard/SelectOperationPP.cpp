@@ -27,6 +27,8 @@ Leave SelectOperationPP::OnNext() {
     const int chosen = kRadios.Chosen(Window());
     if (chosen < 0) return Leave::Stay;
     const auto choice = static_cast<OperationChoice>(chosen);
+    // A trigger of no known kind has no prototype to offer.
+    if (choice == OperationChoice::FunctionCall && !KindOfTrigger()) return Leave::Stay;
     if (choice == OperationChoice::RestartWindows) {
         State().restartWindows = true;
         // Its radio button is about to be hidden; a hidden choice would leave the next visit without one.

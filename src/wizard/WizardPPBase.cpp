@@ -33,6 +33,12 @@ WizardPPBase::WizardPPBase(WizardPS& sheet, int templateId, bool canAdvance) noe
       page_(PageOf(templateId)),
       canAdvance_(canAdvance) {}
 
+std::optional<model::TriggerKind> WizardPPBase::KindOfTrigger() const {
+    long kind = 0;
+    if (!State().trigger || FAILED(State().trigger->GetTriggerKind(&kind))) return std::nullopt;
+    return model::TriggerKindFrom(kind);
+}
+
 void WizardPPBase::SetCanAdvance(bool canAdvance) {
     canAdvance_ = canAdvance;
     UpdateWizardButtons();
@@ -56,6 +62,7 @@ void WizardPPBase::OnInit() {
 }
 
 LRESULT WizardPPBase::OnSetActive() {
+    if (!CanBeShown()) return kStay;
     OnActivate();
     UpdateWizardButtons();
     return 0;

@@ -1,6 +1,7 @@
 // The base of every wizard page: picture, bold title, wizard buttons, ways back and on.
 #pragma once
 
+#include <optional>
 #include <vector>
 
 #include "ui/Handles.h"
@@ -24,6 +25,8 @@ protected:
     WizardPPBase(WizardPS& sheet, int templateId, bool canAdvance = false) noexcept;
 
     WizardState& State() const noexcept { return sheet_.State(); }
+    // Nothing without a trigger, and for one that does not say what it is.
+    std::optional<model::TriggerKind> KindOfTrigger() const;
     bool CanAdvance() const noexcept { return canAdvance_; }
     // Refreshes the wizard buttons when the answer changes.
     void SetCanAdvance(bool canAdvance);
@@ -31,6 +34,8 @@ protected:
 
     // Pages that override OnInit call this one first.
     void OnInit() override;
+    // A page that says no is not shown.
+    virtual bool CanBeShown() const { return true; }
     // Each time the page is shown.
     virtual void OnActivate() {}
     virtual Leave OnNext() { return Leave::To(page_.next); }

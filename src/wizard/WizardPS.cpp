@@ -2,9 +2,13 @@
 
 #include "resources/ids.h"
 #include "ui/Strings.h"
+#include "wizard/CrashTriggerPP.h"
 #include "wizard/OperationClickPP.h"
+#include "wizard/OperationFuncPP.h"
 #include "wizard/OperationListPP.h"
+#include "wizard/ProcessCtrlActionPP.h"
 #include "wizard/ScenDescriptionPP.h"
+#include "wizard/SelectErrorPP.h"
 #include "wizard/SelectOperationPP.h"
 #include "wizard/SelectPopupPP.h"
 #include "wizard/SelectScenPP.h"
@@ -34,9 +38,13 @@ WizardPS::WizardPS() : PropertySheet(Kind::Wizard, ui::LoadText(IDS_WIZARD_TITLE
     AddPage(std::make_unique<WelcomePP>(*this));
     AddPage(std::make_unique<SelectScenPP>(*this));
     AddPage(std::make_unique<SelectPopupPP>(*this));
+    AddPage(std::make_unique<SelectErrorPP>(*this));
+    AddPage(std::make_unique<CrashTriggerPP>(*this));
     AddPage(std::make_unique<OperationListPP>(*this));
     AddPage(std::make_unique<SelectOperationPP>(*this));
     AddPage(std::make_unique<OperationClickPP>(*this));
+    AddPage(std::make_unique<OperationFuncPP>(*this));
+    AddPage(std::make_unique<ProcessCtrlActionPP>(*this));
     AddPage(std::make_unique<TestFlowPP>(*this));
     AddPage(std::make_unique<ScenDescriptionPP>(*this));
     AddPage(std::make_unique<SummaryPP>(*this));

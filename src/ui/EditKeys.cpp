@@ -1,0 +1,53 @@
+#include "ui/EditKeys.h"
+
+#include <commctrl.h>
+
+namespace recoveryui::ui {
+namespace {
+
+enum Subclass : UINT_PTR { kMultiLine = 1, kEnter = 2 };
+
+bool IsKeyDown(LPARAM message, WPARAM first, WPARAM second) {
+    const auto* asked = reinterpret_cast<const MSG*>(message);
+    return asked && asked->message == WM_KEYDOWN && (asked->wParam == first || asked->wParam == second);
+}
+
+LRESULT CALLBACK MultiLineProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR id,
+                                    DWORD_PTR) noexcept {
+    if (message == WM_NCDESTROY) RemoveWindowSubclass(window, &MultiLineProcedure, id);
+    const LRESULT answer = DefSubclassProc(window, message, wParam, lParam);
+    if (message == WM_GETDLGCODE && IsKeyDown(lParam, VK_TAB, VK_ESCAPE)) return answer & ~DLGC_WANTALLKEYS;
+    return answer;
+}
+
+LRESULT CALLBACK EnterProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR id,
+                                DWORD_PTR target) noexcept {
+    const HWND combo = GetParent(window);
+    const bool listOpen = SendMessageW(combo, CB_GETDROPPEDSTATE, 0, 0) != FALSE;
+    if (message == WM_NCDESTROY) RemoveWindowSubclass(window, &EnterProcedure, id);
+    if (message == WM_GETDLGCODE && IsKeyDown(lParam, VK_RETURN, VK_RETURN))
+        return DefSubclassProc(window, message, wParam, lParam) | DLGC_WANTMESSAGE;
+    if (wParam == VK_RETURN && !listOpen) {
+        if (message == WM_KEYDOWN) PostMessageW(GetParent(combo), static_cast<UINT>(target), 0, 0);
+        if (message == WM_KEYDOWN || message == WM_CHAR) return 0;
+    }
+    return DefSubclassProc(window, message, wParam, lParam);
+}
+
+}  // namespace
+
+void LeaveKeysToSheet(HWND page) {
+    HWND edit = nullptr;
+    while ((edit = FindWindowExW(page, edit, WC_EDITW, nullptr)) != nullptr) {
+        if (GetWindowLongPtrW(edit, GWL_STYLE) & ES_MULTILINE)
+            SetWindowSubclass(edit, &MultiLineProcedure, kMultiLine, 0);
+    }
+}
+
+void CatchEnter(HWND combo, UINT message) {
+    COMBOBOXINFO info{};
+    info.cbSize = sizeof info;
+    if (GetComboBoxInfo(combo, &info)) SetWindowSubclass(info.hwndItem, &EnterProcedure, kEnter, message);
+}
+
+}  // namespace recoveryui::ui
