@@ -7,6 +7,11 @@
 #include "objects/screen/RecordMgr.h"
 #include "objects/services/HostApplication.h"
 #include "objects/services/TovCommonFileDialog.h"
+#include "objects/store/ObjectStateRecoveryTrigger.h"
+#include "objects/store/Operations.h"
+#include "objects/store/RecoveryRepository.h"
+#include "objects/store/ReplayRecoveryScenario.h"
+#include "objects/store/Triggers.h"
 
 namespace tovarin {
 namespace {
@@ -29,6 +34,16 @@ constexpr com::ClassEntry kClasses[] = {
     Row<TovCommonFileDialog>(kClsidTovCommonFileDialog, L"Common file dialog"),
     Row<RecordMgr>(kClsidRecordMgr, L"Record manager"),
     Row<HostApplication>(kClsidHostApplication, L"Host application"),
+    Row<ReplayRecoveryScenario>(kClsidReplayRecoveryScenario, L"Recovery scenario"),
+    Row<RecoveryRepository>(kClsidRecoveryRepository, L"Recovery file"),
+    Row<PopUpRecoveryTrigger>(kClsidPopUpRecoveryTrigger, L"Pop-up window trigger"),
+    Row<ErrorRecoveryTrigger>(kClsidErrorRecoveryTrigger, L"Test run error trigger"),
+    Row<CrashRecoveryTrigger>(kClsidCrashRecoveryTrigger, L"Application crash trigger"),
+    Row<ObjectStateRecoveryTrigger>(kClsidObjectStateRecoveryTrigger, L"Object state trigger"),
+    Row<KeyBoardSimulatorRecoveryAction>(kClsidKeyBoardSimulatorRecoveryAction, L"Key press operation"),
+    Row<ObjectAccessorRecoveryAction>(kClsidObjectAccessorRecoveryAction, L"Object access operation"),
+    Row<ProcessControlRecoveryAction>(kClsidProcessControlRecoveryAction, L"Close processes operation"),
+    Row<FunctionCallRecoveryAction>(kClsidFunctionCallRecoveryAction, L"Function call operation"),
 };
 
 }  // namespace

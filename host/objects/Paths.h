@@ -7,6 +7,9 @@
 
 namespace tovarin {
 
+// Absolute, with "." and ".." resolved; the path itself when the platform refuses it.
+std::wstring FullPath(const std::wstring& path);
+
 // The path as the platform's file functions take it whatever its length.
 std::wstring LongPath(const std::wstring& path);
 
