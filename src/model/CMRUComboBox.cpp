@@ -12,9 +12,13 @@ namespace {
 
 constexpr WPARAM kFromStart = static_cast<WPARAM>(-1);
 
-LPARAM Text(const std::wstring& text) { return reinterpret_cast<LPARAM>(text.c_str()); }
+LPARAM Text(const std::wstring& text) {
+    return reinterpret_cast<LPARAM>(text.c_str());
+}
 
-int Count(HWND combo) { return static_cast<int>(SendMessageW(combo, CB_GETCOUNT, 0, 0)); }
+int Count(HWND combo) {
+    return static_cast<int>(SendMessageW(combo, CB_GETCOUNT, 0, 0));
+}
 
 std::wstring Entry(HWND combo, int index) {
     const auto place = static_cast<WPARAM>(index);
@@ -49,7 +53,8 @@ void CMRUComboBox::Attach(HWND combo) {
     SetWindowSubclass(combo, &CMRUComboBox::Procedure, 0, reinterpret_cast<DWORD_PTR>(this));
 }
 
-bool CMRUComboBox::LoadMRU(HKEY parent, const std::wstring& keyPath, const std::wstring& valueName, int maximum) {
+bool CMRUComboBox::LoadMRU(HKEY parent, const std::wstring& keyPath, const std::wstring& valueName,
+                           int maximum) {
     maximum_ = maximum;
     valueName_ = valueName;
     bound_ = false;
@@ -89,7 +94,8 @@ int CMRUComboBox::AddString(const std::wstring& text) {
 
 int CMRUComboBox::InsertString(int index, const std::wstring& text) {
     if (!bound_)
-        return static_cast<int>(SendMessageW(combo_, CB_INSERTSTRING, static_cast<WPARAM>(index), Text(text)));
+        return static_cast<int>(
+            SendMessageW(combo_, CB_INSERTSTRING, static_cast<WPARAM>(index), Text(text)));
     return CarryOut(PlanInsertString(StateFor(text), index, text), text);
 }
 

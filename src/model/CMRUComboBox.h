@@ -31,7 +31,8 @@ public:
     // Puts the text at a position; CB_ERR where that is refused. The rules are PlanInsertString's.
     virtual int InsertString(int index, const std::wstring& text);
     // Binds the control to a value below a key that exists, and shows the value's entries.
-    virtual bool LoadMRU(HKEY parent, const std::wstring& keyPath, const std::wstring& valueName, int maximum);
+    virtual bool LoadMRU(HKEY parent, const std::wstring& keyPath, const std::wstring& valueName,
+                         int maximum);
 
 private:
     MruState StateFor(const std::wstring& text) const;

@@ -21,8 +21,12 @@ std::wstring EntryOf(HWND listBox, int index) {
 
 }  // namespace
 
-ui::ListView ProcessPair::Chosen() const { return ui::ListView(GetDlgItem(page_, IDC_PROCESSES_CHOSEN)); }
-HWND ProcessPair::Running() const { return GetDlgItem(page_, IDC_PROCESSES_RUNNING); }
+ui::ListView ProcessPair::Chosen() const {
+    return ui::ListView(GetDlgItem(page_, IDC_PROCESSES_CHOSEN));
+}
+HWND ProcessPair::Running() const {
+    return GetDlgItem(page_, IDC_PROCESSES_RUNNING);
+}
 
 void ProcessPair::Attach(HWND page) {
     page_ = page;
@@ -59,17 +63,10 @@ std::vector<std::wstring> ProcessPair::SelectedRunning() const {
 bool ProcessPair::OnCommand(const ui::Command& command) {
     if (command.code != BN_CLICKED) return false;
     switch (command.id) {
-        case IDC_PROCESSES_ADD_SELECTED:
-            AddSelected();
-            return true;
-        case IDC_PROCESSES_NEW:
-            AddNew();
-            return true;
-        case IDC_PROCESSES_REMOVE:
-            Remove();
-            return true;
-        default:
-            return false;
+        case IDC_PROCESSES_ADD_SELECTED: AddSelected(); return true;
+        case IDC_PROCESSES_NEW: AddNew(); return true;
+        case IDC_PROCESSES_REMOVE: Remove(); return true;
+        default: return false;
     }
 }
 
@@ -92,8 +89,7 @@ bool ProcessPair::OnNotify(NMHDR& header, LRESULT& answer) {
             if (key == VK_F2) Edit(ListView_GetNextItem(header.hwndFrom, -1, LVNI_FOCUSED));
             return true;
         }
-        default:
-            return false;
+        default: return false;
     }
 }
 
@@ -138,7 +134,8 @@ void ProcessPair::AddSelected() {
         const ui::ListView::Filling filling(Chosen());
         for (const std::wstring& name : NamesToAppend(Names(), selected)) {
             const int row = Chosen().InsertRow(Chosen().Count(), name);
-            ListView_SetItemState(Chosen().Window(), row, LVIS_SELECTED | LVIS_FOCUSED, LVIS_SELECTED | LVIS_FOCUSED);
+            ListView_SetItemState(Chosen().Window(), row, LVIS_SELECTED | LVIS_FOCUSED,
+                                  LVIS_SELECTED | LVIS_FOCUSED);
             ListView_EnsureVisible(Chosen().Window(), row, FALSE);
         }
     }
@@ -194,8 +191,7 @@ void ProcessPair::EndOfEdit(int row) {
     if (escaped_ || *typed == names.at(static_cast<size_t>(row))) typed.reset();
     EditEnd end = EndEdit(names, static_cast<size_t>(row), typed);
     switch (end.action) {
-        case EditEnd::Action::Keep:
-            break;
+        case EditEnd::Action::Keep: break;
         case EditEnd::Action::Store:
             Chosen().SetText(row, 0, end.text);
             Chosen().Select(row);
@@ -238,8 +234,8 @@ void ProcessPair::RowsChanged() {
     if (Chosen().Count() == 0) onReady_(false);
 }
 
-LRESULT CALLBACK ProcessPair::EditProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR id,
-                                            DWORD_PTR object) noexcept {
+LRESULT CALLBACK ProcessPair::EditProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam,
+                                            UINT_PTR id, DWORD_PTR object) noexcept {
     if (message == WM_KEYDOWN && wParam == VK_ESCAPE) reinterpret_cast<ProcessPair*>(object)->escaped_ = true;
     if (message == WM_NCDESTROY) RemoveWindowSubclass(window, &ProcessPair::EditProcedure, id);
     return DefSubclassProc(window, message, wParam, lParam);

@@ -58,8 +58,8 @@ private:
     void Settle();
     void RowsChanged();
 
-    static LRESULT CALLBACK EditProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR id,
-                                          DWORD_PTR object) noexcept;
+    static LRESULT CALLBACK EditProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam,
+                                          UINT_PTR id, DWORD_PTR object) noexcept;
 
     std::function<void(bool ready)> onReady_;
     HWND page_ = nullptr;

@@ -20,7 +20,8 @@ using Names = std::vector<std::wstring>;
 template <class Function>
 Function EntryPoint(const wchar_t* module, const char* name) {
     const HMODULE loaded = GetModuleHandleW(module);
-    return loaded ? reinterpret_cast<Function>(reinterpret_cast<void*>(GetProcAddress(loaded, name))) : nullptr;
+    return loaded ? reinterpret_cast<Function>(reinterpret_cast<void*>(GetProcAddress(loaded, name)))
+                  : nullptr;
 }
 
 struct KernelCloser {

@@ -20,7 +20,8 @@ bool CrashTriggerPP::LoadTrigger() {
     if (model::TriggerKindFrom(kind) != model::TriggerKind::Crash) return true;
     const auto trigger = com::Query<ICrashRecoveryTrigger>(State().trigger.Get());
     com::CVtlSafeArray<BSTR> array;
-    if (!trigger || FAILED(trigger->GetProcesses(array.Put())) || FAILED(array.Verify()) || array.Count() == 0)
+    if (!trigger || FAILED(trigger->GetProcesses(array.Put())) || FAILED(array.Verify()) ||
+        array.Count() == 0)
         return false;
     std::vector<std::wstring> names;
     for (LONG index = array.LowerBound(); index <= array.UpperBound(); ++index) {

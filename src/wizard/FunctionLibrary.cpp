@@ -6,7 +6,9 @@
 
 namespace recoveryui::wizard {
 
-bool FunctionLibrary::CreateParser() { return SUCCEEDED(com::Create(L"Vantrel.VBScriptParser", parser_)); }
+bool FunctionLibrary::CreateParser() {
+    return SUCCEEDED(com::Create(L"Vantrel.VBScriptParser", parser_));
+}
 
 FunctionLibrary::Outcome FunctionLibrary::Open(const std::wstring& path) {
     Close();

@@ -40,7 +40,9 @@ void OperationFuncPP::BindRecentLibraries() {
         recent_.LoadMRU(HKEY_CURRENT_USER, *key, model::options::kLibrariesRecent, model::kRecentMaximum);
 }
 
-bool OperationFuncPP::CanBeShown() const { return KindOfTrigger().has_value(); }
+bool OperationFuncPP::CanBeShown() const {
+    return KindOfTrigger().has_value();
+}
 
 void OperationFuncPP::OnActivate() {
     library_.Close();
@@ -51,12 +53,15 @@ void OperationFuncPP::OnActivate() {
     if (!TypedPath().empty()) PostMessageW(Window(), kLoad, 0, 0);
 }
 
-std::wstring OperationFuncPP::TypedPath() const { return ui::TextOf(Item(IDC_FUNC_LIBRARY)); }
+std::wstring OperationFuncPP::TypedPath() const {
+    return ui::TextOf(Item(IDC_FUNC_LIBRARY));
+}
 
 bool OperationFuncPP::OnCommand(const ui::Command& command) {
     switch (command.id) {
         case IDC_FUNC_LIBRARY:
-            if (command.code == CBN_SELENDOK || command.code == CBN_SELCHANGE || command.code == CBN_KILLFOCUS)
+            if (command.code == CBN_SELENDOK || command.code == CBN_SELCHANGE ||
+                command.code == CBN_KILLFOCUS)
                 PostMessageW(Window(), kLoadIfChanged, 0, 0);
             return true;
         case IDC_FUNC_BROWSE:
@@ -76,8 +81,7 @@ bool OperationFuncPP::OnCommand(const ui::Command& command) {
         case IDC_FUNC_TEXT:
             if (command.code == EN_CHANGE) OnTextTyped();
             return true;
-        default:
-            return WizardPPBase::OnCommand(command);
+        default: return WizardPPBase::OnCommand(command);
     }
 }
 
@@ -234,7 +238,8 @@ Leave OperationFuncPP::OnNext() {
         return Leave::Stay;
     }
     if (!loaded_ || !CanAdvance()) return Leave::Stay;
-    NewFunction function{attempted_, fullPath_, ui::TextOf(Item(IDC_FUNC_NAME)), ui::TextOf(Item(IDC_FUNC_TEXT))};
+    NewFunction function{attempted_, fullPath_, ui::TextOf(Item(IDC_FUNC_NAME)),
+                         ui::TextOf(Item(IDC_FUNC_TEXT))};
     const bool defining = mode_ == FunctionMode::Define;
     if (defining && !AcceptName(function)) return Leave::Stay;
 

@@ -30,7 +30,9 @@ void ProcessCtrlActionPP::AddTips() {
     tips_.Add(Window(), Item(IDC_PROCESSES_REMOVE), IDS_TIP_REMOVE_PROCESS);
 }
 
-void ProcessCtrlActionPP::OnActivate() { pair_.FillRunning(); }
+void ProcessCtrlActionPP::OnActivate() {
+    pair_.FillRunning();
+}
 
 bool ProcessCtrlActionPP::OnCommand(const ui::Command& command) {
     return pair_.OnCommand(command) || WizardPPBase::OnCommand(command);

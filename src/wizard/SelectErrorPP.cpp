@@ -47,7 +47,9 @@ std::optional<std::int32_t> SelectErrorPP::CodeAt(LRESULT index) const {
     return static_cast<std::int32_t>(SendMessageW(list, CB_GETITEMDATA, static_cast<WPARAM>(index), 0));
 }
 
-LRESULT SelectErrorPP::Selected() const { return SendMessageW(Item(IDC_SELECT_ERROR_LIST), CB_GETCURSEL, 0, 0); }
+LRESULT SelectErrorPP::Selected() const {
+    return SendMessageW(Item(IDC_SELECT_ERROR_LIST), CB_GETCURSEL, 0, 0);
+}
 
 void SelectErrorPP::ShowSelection() {
     const auto code = CodeAt(Selected());

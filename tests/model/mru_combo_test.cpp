@@ -1,0 +1,92 @@
+// The combo box that remembers its entries.
+#include "model/CMRUComboBox.h"
+
+#include <gtest/gtest.h>
+
+namespace recoveryui::model {
+namespace {
+
+constexpr const wchar_t* kKey = L"Software\\RecoveryUITests\\ReplayRecovery";
+constexpr const wchar_t* kValue = L"Recent";
+
+class MruComboTest : public testing::Test {
+protected:
+    MruComboTest() {
+        HKEY key = nullptr;
+        RegCreateKeyExW(HKEY_CURRENT_USER, kKey, 0, nullptr, 0, KEY_ALL_ACCESS, nullptr, &key, nullptr);
+        RegCloseKey(key);
+        Open();
+    }
+    ~MruComboTest() override {
+        Close();
+        RegDeleteTreeW(HKEY_CURRENT_USER, L"Software\\RecoveryUITests");
+    }
+    void Open() {
+        window_ = CreateWindowW(L"COMBOBOX", L"", CBS_DROPDOWN | CBS_HASSTRINGS | WS_POPUP, 0, 0, 100, 100,
+                                nullptr, nullptr, nullptr, nullptr);
+        combo_.Attach(window_);
+    }
+    void Close() { DestroyWindow(window_); }
+    bool Load() { return combo_.LoadMRU(HKEY_CURRENT_USER, kKey, kValue, 4); }
+
+    std::wstring Entries() const {
+        std::wstring all;
+        for (LRESULT i = 0; i < SendMessageW(window_, CB_GETCOUNT, 0, 0); ++i) {
+            wchar_t text[64] = L"";
+            SendMessageW(window_, CB_GETLBTEXT, static_cast<WPARAM>(i), reinterpret_cast<LPARAM>(text));
+            all += text + std::wstring(L"|");
+        }
+        return all;
+    }
+    static std::wstring Stored(DWORD* type = nullptr, DWORD* size = nullptr) {
+        wchar_t text[256] = L"";
+        DWORD bytes = sizeof text;
+        RegGetValueW(HKEY_CURRENT_USER, kKey, kValue, RRF_RT_ANY, type, text, &bytes);
+        if (size) *size = bytes;
+        return text;
+    }
+    static void Store(const wchar_t* text, size_t characters) {
+        RegSetKeyValueW(HKEY_CURRENT_USER, kKey, kValue, REG_SZ, text, static_cast<DWORD>(characters * 2));
+    }
+
+    HWND window_ = nullptr;
+    CMRUComboBox combo_;
+};
+
+TEST_F(MruComboTest, WhatWasUsedIsOfferedNextTimeTheLatestFirst) {
+    ASSERT_TRUE(Load());
+    for (const wchar_t* path : {L"a.vbs", L"b.vbs", L"c.vbs", L"d.vbs", L"e.vbs", L"C.VBS"})
+        combo_.AddString(path);
+    EXPECT_EQ(Entries(), L"C.VBS|e.vbs|d.vbs|b.vbs|");
+    EXPECT_EQ(combo_.AddString(L"C.v"), 0);
+    EXPECT_EQ(combo_.InsertString(4, L"z"), CB_ERR);
+    EXPECT_EQ(combo_.InsertString(2, L"z;y"), 2);
+    Close();
+    DWORD type = 0, size = 0;
+    EXPECT_EQ(Stored(&type, &size), L"C.VBS;e.vbs;z;y;d.vbs");
+    EXPECT_EQ(type, static_cast<DWORD>(REG_SZ));
+    EXPECT_EQ(size, 22u * sizeof(wchar_t));
+
+    Open();
+    ASSERT_TRUE(Load());
+    EXPECT_EQ(Entries(), L"C.VBS|e.vbs|z|y|");
+}
+
+TEST_F(MruComboTest, AValueThatSomebodyElseWroteIsReadAsFarAsItGoes) {
+    Store(L"one;;two;", 8);  // without its end
+    ASSERT_TRUE(Load());
+    EXPECT_EQ(Entries(), L"one|two|");
+}
+
+TEST_F(MruComboTest, WithoutAKeyItIsAPlainComboThatRemembersNothing) {
+    Store(L"kept", 5);
+    EXPECT_FALSE(combo_.LoadMRU(HKEY_CURRENT_USER, L"", kValue, 4));
+    EXPECT_FALSE(combo_.LoadMRU(HKEY_CURRENT_USER, L"Software\\RecoveryUITests\\None", kValue, 4));
+    for (const wchar_t* path : {L"a", L"a", L"b", L"c", L"d"}) combo_.AddString(path);
+    EXPECT_EQ(Entries(), L"a|a|b|c|d|");
+    Close();
+    EXPECT_EQ(Stored(), L"kept");
+}
+
+}  // namespace
+}  // namespace recoveryui::model

@@ -1,0 +1,179 @@
+// The two pages that ask for process names.
+#include "com/SafeArray.h"
+#include "process/RunningProcesses.h"
+#include "wizard/WizardTest.h"
+
+namespace recoveryui::test {
+namespace {
+
+constexpr const wchar_t* kClosePage = L"Recovery Operation - Close Processes";
+constexpr const wchar_t* kSelf = L"recoveryui_tests.exe";
+
+class ProcessPagesTest : public WizardTest {
+protected:
+    void EditCrash(const Rows& names) {
+        const auto trigger = New<ICrashRecoveryTrigger>(L"Vantrel.CrashRecoveryTrigger");
+        com::CVtlSafeArray<BSTR> array;
+        EXPECT_EQ(array.Create(static_cast<ULONG>(names.size())), S_OK);
+        for (size_t i = 0; i < names.size(); ++i)
+            EXPECT_EQ(array.PutElement(static_cast<LONG>(i), com::Bstr(names[i])), S_OK);
+        EXPECT_EQ(trigger->SetProcesses(array.Get()), S_OK);
+        Edit(trigger.Get());
+    }
+    static Rows Chosen(UserScreen& screen, HWND wizard) {
+        return screen.RowsOf(wizard, IDC_PROCESSES_CHOSEN);
+    }
+    static bool CanGoOn(UserScreen& screen, HWND wizard) { return screen.IsEnabled(wizard, 0x3024); }
+    // "+", the name, Enter.
+    static void TypeNew(UserScreen& screen, HWND wizard, const std::wstring& name) {
+        screen.Press(wizard, IDC_PROCESSES_NEW);
+        Retype(screen, name);
+    }
+    // Over the selected text of the open edit box.
+    static void Retype(UserScreen& screen, const std::wstring& name) {
+        screen.Type(name);
+        screen.Keys({VK_RETURN});
+    }
+};
+
+TEST(RunningProcessesTest, BothWaysListThisProgramByItsFileName) {
+    using process::ProcessSource;
+    for (const auto source : {ProcessSource::Snapshot, ProcessSource::NativeQuery}) {
+        const auto names = process::ProcessesFrom(source);
+        EXPECT_EQ(std::count(names.begin(), names.end(), kSelf), 1);
+    }
+    EXPECT_TRUE(process::EnumerateProcesses());
+    EXPECT_EQ(process::SourceFor(2, 4), ProcessSource::NativeQuery);
+    EXPECT_EQ(process::SourceFor(2, 5), ProcessSource::Snapshot);
+    EXPECT_EQ(process::SourceFor(1, 4), ProcessSource::Snapshot);
+}
+
+TEST_F(ProcessPagesTest, NamesAreTakenFromTheRunningOnesAndTypedUntilTheyAreRight) {
+    EditCrash({L"app.exe"});
+    EXPECT_EQ(
+        Run([&](UserScreen& screen, HWND wizard) {
+            AddOperation(screen, wizard, IDC_SELECT_OPERATION_PROCESS);
+            EXPECT_EQ(screen.PageTitle(wizard), kClosePage);
+            EXPECT_FALSE(CanGoOn(screen, wizard));
+            EXPECT_EQ(screen.Tip(wizard, IDC_PROCESSES_NEW), L"Add New Process");
+            EXPECT_EQ(screen.Tip(wizard, IDC_PROCESSES_REMOVE), L"Remove Process");
+            screen.Press(wizard, IDC_PROCESSES_ADD_SELECTED);
+            screen.Picture(wizard, L"close-fresh");
+
+            for (int twice = 0; twice < 2; ++twice) {
+                screen.Choose(wizard, IDC_PROCESSES_RUNNING, kSelf);
+                screen.Press(wizard, IDC_PROCESSES_ADD_SELECTED);
+                EXPECT_EQ(Chosen(screen, wizard), Rows{kSelf});
+                EXPECT_EQ(screen.Chosen(wizard, IDC_PROCESSES_RUNNING), Rows{});
+                EXPECT_TRUE(CanGoOn(screen, wizard));
+                EXPECT_EQ(screen.FocusId(), IDC_PROCESSES_CHOSEN);
+            }
+
+            TypeNew(screen, wizard, L" what?.exe ");
+            EXPECT_EQ(screen.AnswerBox(IDOK),
+                      L"The process name cannot contain any of the following characters: "
+                      L"\r\n\t\t\\ / : * \" < > |");
+            screen.Picture(wizard, L"close-reopened");
+            Retype(screen, L"RecoveryUI_Tests.exe");
+            EXPECT_EQ(screen.AnswerBox(IDOK), L"This process already exists in the list.");
+            Retype(screen, L"   ");
+            EXPECT_EQ(screen.AnswerBox(IDOK), L"You must type a process name");
+            Retype(screen, L" note pad.exe ");
+            EXPECT_EQ(Chosen(screen, wizard), (Rows{kSelf, L"note pad.exe"}));
+
+            // A row that gets no name goes again, a second "+" waits for the first one's message.
+            screen.Press(wizard, IDC_PROCESSES_NEW);
+            screen.Keys({VK_ESCAPE});
+            TypeNew(screen, wizard, L"");
+            screen.Press(wizard, IDC_PROCESSES_NEW);
+            screen.Type(L"a/b");
+            screen.Press(wizard, IDC_PROCESSES_NEW);
+            screen.AnswerBox(IDOK);
+            EXPECT_EQ(Chosen(screen, wizard), (Rows{kSelf, L"note pad.exe", L""}));
+            screen.Type(L"x*y");
+            screen.Next(wizard);
+            screen.AnswerBox(IDOK);
+            EXPECT_EQ(screen.PageTitle(wizard), kClosePage);
+            screen.Keys({VK_ESCAPE});
+
+            // In other capitals, emptied, and emptied but given up.
+            screen.Choose(wizard, IDC_PROCESSES_CHOSEN, L"note pad.exe");
+            screen.Keys({VK_F2});
+            Retype(screen, L"Note Pad.EXE");
+            screen.Keys({VK_F2});
+            screen.Keys({VK_DELETE, VK_ESCAPE});
+            screen.Keys({VK_F2});
+            screen.Keys({VK_DELETE, VK_RETURN});
+            EXPECT_EQ(screen.AnswerBox(IDOK), L"You must type a process name");
+            screen.Keys({VK_ESCAPE});
+            EXPECT_EQ(Chosen(screen, wizard), (Rows{kSelf, L"Note Pad.EXE"}));
+            screen.Picture(wizard, L"close-chosen");
+
+            screen.Keys({VK_DELETE});
+            EXPECT_EQ(screen.Chosen(wizard, IDC_PROCESSES_CHOSEN), Rows{kSelf});
+            TypeNew(screen, wizard, L"calc.exe");
+            screen.Next(wizard);
+            EXPECT_TRUE(Called(
+                L"ProcessControlRecoveryAction.SetProcessNames([\"recoveryui_tests.exe\", \"calc.exe\"])"));
+            EXPECT_EQ(screen.RowsOf(wizard, IDC_OPERATION_LIST_ROWS),
+                      Rows{L"Close process | recoveryui_tests.exe;calc.exe"});
+
+            screen.Check(wizard, IDC_OPERATION_LIST_ANOTHER);
+            AddOperation(screen, wizard, IDC_SELECT_OPERATION_PROCESS);
+            EXPECT_EQ(Chosen(screen, wizard), Rows{});
+            EXPECT_FALSE(CanGoOn(screen, wizard));
+            TypeNew(screen, wizard, L"only.exe");
+            screen.Press(wizard, IDC_PROCESSES_REMOVE);
+            EXPECT_FALSE(CanGoOn(screen, wizard));
+            screen.Cancel(wizard);
+        }),
+        S_FALSE);
+}
+
+TEST_F(ProcessPagesTest, ACrashTriggersNamesComeBackAndItsButtonsExplainThemselves) {
+    const struct {
+        Rows stored;
+        Rows shown;
+        bool canGoOn;
+        bool tips;
+    } cases[] = {
+        {{L"a.exe", L"", L"A.exe", L"b.exe"}, {L"a.exe", L"A.exe", L"b.exe"}, true, true},
+        {{}, {}, false, false},
+        {{L""}, {}, true, true},
+    };
+    for (const auto& each : cases) {
+        EditCrash(each.stored);
+        EXPECT_EQ(Run([&](UserScreen& screen, HWND wizard) {
+                      NextUntil(screen, wizard, L"Select Processes");
+                      EXPECT_EQ(Chosen(screen, wizard), each.shown);
+                      EXPECT_EQ(CanGoOn(screen, wizard), each.canGoOn);
+                      EXPECT_EQ(screen.Tip(wizard, IDC_PROCESSES_NEW), each.tips ? L"Add New Process" : L"");
+                      screen.Picture(wizard, L"crash-" + std::to_wstring(each.stored.size()));
+                      if (each.canGoOn) screen.Next(wizard);
+                      EXPECT_EQ(screen.PageTitle(wizard),
+                                each.shown.empty() ? L"Select Processes" : L"Recovery Operations");
+                      screen.Cancel(wizard);
+                  }),
+                  S_FALSE);
+    }
+    EXPECT_TRUE(Called(L"CrashRecoveryTrigger.SetProcesses([\"a.exe\", \"A.exe\", \"b.exe\"])"));
+}
+
+TEST_F(ProcessPagesTest, HundredsOfNamesAreShownWithinABlink) {
+    Rows names;
+    for (int i = 0; i < 500; ++i) names.push_back(L"process " + std::to_wstring(i) + L".exe");
+    EditCrash(names);
+    EXPECT_EQ(Run([&](UserScreen& screen, HWND wizard) {
+                  NextUntil(screen, wizard, L"Select Trigger Event");
+                  const ULONGLONG before = GetTickCount64();
+                  screen.Next(wizard);
+                  EXPECT_LT(GetTickCount64() - before, 1000u);
+                  EXPECT_EQ(Chosen(screen, wizard).size(), names.size());
+                  screen.Picture(wizard, L"crash-many");
+                  screen.Cancel(wizard);
+              }),
+              S_FALSE);
+}
+
+}  // namespace
+}  // namespace recoveryui::test
