@@ -80,7 +80,9 @@ User::User(Script script, unsigned patienceSeconds) : script_(std::move(script))
 
 User::~User() {
     ui_.End();
-    while (MsgWaitForMultipleObjects(1, &thread_, FALSE, INFINITE, QS_ALLINPUT) != WAIT_OBJECT_0) {
+    // Messages that somebody has looked at without taking them count as well.
+    while (MsgWaitForMultipleObjectsEx(1, &thread_, INFINITE, QS_ALLINPUT, MWMO_INPUTAVAILABLE) !=
+           WAIT_OBJECT_0) {
         MSG message;
         while (PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE)) {
             TranslateMessage(&message);

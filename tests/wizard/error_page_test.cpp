@@ -33,7 +33,7 @@ TEST_F(ErrorPageTest, ThePageExplainsEachErrorAndGoesOnWithTheChosenOne) {
         {L"Object not found", L"No object within", L"-2147220990"},
         {L"Object not visible",
          L"Tovarin cannot perform the step because the object specified in the step is "
-         L"currently not visible",
+         L"not currently visible",
          L"-2147220987"},
     };
     EXPECT_EQ(
