@@ -67,4 +67,22 @@ HRESULT CallJournal::ClearFaults() noexcept {
     return com::Guarded([] { Journal::Instance().ClearFaults(); });
 }
 
+HRESULT CallJournal::TakeFault(BSTR object, BSTR operation, HRESULT* code) noexcept {
+    if (!code) return E_POINTER;
+    *code = S_OK;
+    return com::Guarded([&] {
+        const std::wstring name(com::ViewOf(object)), called(com::ViewOf(operation));
+        const std::optional<HRESULT> fault = Journal::Instance().TakeFault(name.c_str(), called.c_str());
+        *code = fault.value_or(S_OK);
+        return fault ? S_OK : S_FALSE;
+    });
+}
+
+HRESULT CallJournal::Record(BSTR object, BSTR operation, BSTR arguments, BSTR result) noexcept {
+    return com::Guarded([&] {
+        Journal::Instance().Add({std::wstring(com::ViewOf(object)), std::wstring(com::ViewOf(operation)),
+                                 std::wstring(com::ViewOf(arguments)), std::wstring(com::ViewOf(result))});
+    });
+}
+
 }  // namespace tovarin

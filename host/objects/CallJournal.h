@@ -7,7 +7,7 @@
 namespace tovarin {
 
 // Its own calls are not written down: they are the engineer's, not the component's.
-class CallJournal final : public com::Object<CallJournal, ICallJournal> {
+class CallJournal final : public com::Object<CallJournal, ICallJournal, ICallRecorder> {
 public:
     static constexpr const wchar_t* kProgId = L"Tovarin.CallJournal";
 
@@ -22,6 +22,9 @@ public:
     HRESULT STDMETHODCALLTYPE FailCall(BSTR object, BSTR operation, long nth, HRESULT code,
                                        long times) noexcept override;
     HRESULT STDMETHODCALLTYPE ClearFaults() noexcept override;
+    HRESULT STDMETHODCALLTYPE TakeFault(BSTR object, BSTR operation, HRESULT* code) noexcept override;
+    HRESULT STDMETHODCALLTYPE Record(BSTR object, BSTR operation, BSTR arguments,
+                                     BSTR result) noexcept override;
 };
 
 }  // namespace tovarin

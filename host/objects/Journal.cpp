@@ -28,7 +28,26 @@ bool Journal::RemoveListener(IJournalListener* listener) {
     return true;
 }
 
+void Journal::ForwardTo(ICallRecorder* recorder) {
+    com::Ptr<ICallRecorder> before(recorder);
+    const std::lock_guard lock(mutex_);
+    if (recorder && !recorder_) AddInterest();
+    if (!recorder && recorder_) RemoveInterest();
+    recorder_.Swap(before);
+    hasFaults_ = recorder_ || !faults_.empty();
+}
+
+com::Ptr<ICallRecorder> Journal::Recorder() const {
+    const std::lock_guard lock(mutex_);
+    return recorder_;
+}
+
 void Journal::Add(JournalEntry entry) {
+    if (const auto recorder = Recorder()) {
+        recorder->Record(com::Bstr(entry.object).Get(), com::Bstr(entry.operation).Get(),
+                         com::Bstr(entry.arguments).Get(), com::Bstr(entry.result).Get());
+        return;
+    }
     std::vector<com::Ptr<IJournalListener>> listeners;
     {
         const std::lock_guard lock(mutex_);
@@ -68,11 +87,17 @@ void Journal::FailCall(std::wstring object, std::wstring operation, long nth, HR
 void Journal::ClearFaults() {
     const std::lock_guard lock(mutex_);
     faults_.clear();
-    hasFaults_ = false;
+    hasFaults_ = recorder_ != nullptr;
 }
 
 std::optional<HRESULT> Journal::TakeFault(const wchar_t* object, const wchar_t* operation) noexcept {
     if (!hasFaults_.load(std::memory_order_relaxed)) return std::nullopt;
+    if (const auto recorder = Recorder()) {
+        HRESULT code = S_OK;
+        const HRESULT hr = com::Guarded(
+            [&] { return recorder->TakeFault(com::Bstr(object).Get(), com::Bstr(operation).Get(), &code); });
+        return hr == S_OK ? std::optional(code) : std::nullopt;
+    }
     const std::lock_guard lock(mutex_);
     std::optional<HRESULT> code;
     for (auto fault = faults_.begin(); fault != faults_.end();) {

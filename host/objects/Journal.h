@@ -26,7 +26,7 @@ struct JournalEntry {
     std::wstring result;
 };
 
-// One for the process. While nobody holds or listens, and no fault is ordered, a call costs two loads.
+// One for the module. While nobody holds or listens, and no fault is ordered, a call costs two loads.
 class Journal {
 public:
     static Journal& Instance();
@@ -38,6 +38,10 @@ public:
     void AddListener(IJournalListener* listener);
     // False when it was not registered.
     bool RemoveListener(IJournalListener* listener);
+
+    // From now on the calls of this module belong to another module's journal: written down there, failed by
+    // the faults ordered there. Null ends it.
+    void ForwardTo(ICallRecorder* recorder);
 
     // Keeps the newest kMostEntries and tells the listeners.
     void Add(JournalEntry entry);
@@ -60,10 +64,13 @@ private:
         long left;  // 0: for ever
     };
 
+    com::Ptr<ICallRecorder> Recorder() const;
+
     mutable std::mutex mutex_;
     std::deque<JournalEntry> entries_;
     std::vector<com::Ptr<IJournalListener>> listeners_;
     std::vector<Fault> faults_;
+    com::Ptr<ICallRecorder> recorder_;
     std::atomic<int> interested_{0};
     std::atomic<bool> hasFaults_{false};
 };
