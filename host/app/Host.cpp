@@ -1,0 +1,59 @@
+#include "app/Host.h"
+
+#include <windows.h>
+
+#include <commctrl.h>
+
+#include "app/HostServices.h"
+#include "app/MainWindow.h"
+#include "app/Text.h"
+#include "app/ids.h"
+
+namespace tovarin {
+namespace {
+
+class Apartment {
+public:
+    Apartment() { com::Check(CoInitializeEx(nullptr, COINIT_APARTMENTTHREADED | COINIT_DISABLE_OLE1DDE)); }
+    ~Apartment() { CoUninitialize(); }
+    Apartment(const Apartment&) = delete;
+    Apartment& operator=(const Apartment&) = delete;
+};
+
+void Run(HostServices& services, const HostOptions& options) {
+    MainWindow window(services);
+    services.FillRacks();
+    window.Show(options.show);
+    const HRESULT connected = services.ConnectAddIn();
+    if (FAILED(connected))
+        ShowMessage(window.Window(),
+                    FormatText(IDS_ADDIN_FAILED, {HostServices::kAddIn, DescribeResult(connected)}));
+    if (options.testFile.empty()) {
+        window.Test().New(window.Window());
+    } else {
+        window.Test().OpenFile(window.Window(), options.testFile);
+    }
+    window.Run();
+    services.AddIns().DisconnectAll();
+    if (!options.journalFile.empty())
+        com::Check(services.Journal()->WriteToFile(com::Bstr(options.journalFile).Get()));
+}
+
+}  // namespace
+
+int RunHost(const HostOptions& options) {
+    try {
+        INITCOMMONCONTROLSEX classes{sizeof classes,
+                                     ICC_LISTVIEW_CLASSES | ICC_BAR_CLASSES | ICC_TAB_CLASSES};
+        InitCommonControlsEx(&classes);
+        const Apartment apartment;
+        HostServices services;
+        Run(services, options);
+        return 0;
+    } catch (...) {
+        ReportException(nullptr);
+        return 1;
+    }
+}
+
+}  // namespace tovarin
