@@ -14,11 +14,12 @@ HostConnection::HostConnection(HostConnection&& other) noexcept { *this = std::m
 HostConnection& HostConnection::operator=(HostConnection&& other) noexcept {
     if (this == &other) return *this;
     Close();
-    commands_ = std::move(other.commands_);
+    // Swapped, since MinGW's ComPtr copies in a move assignment: the other would close what it gave away.
+    commands_.Swap(other.commands_);
     group_ = other.group_;
     command_ = other.command_;
-    collector_ = std::move(other.collector_);
-    specifier_ = std::move(other.specifier_);
+    collector_.Swap(other.collector_);
+    specifier_.Swap(other.specifier_);
     return *this;
 }
 
