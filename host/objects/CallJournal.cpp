@@ -2,6 +2,8 @@
 
 #include <memory>
 
+#include "objects/Paths.h"
+
 namespace tovarin {
 namespace {
 
@@ -44,8 +46,9 @@ HRESULT CallJournal::Clear() noexcept {
 HRESULT CallJournal::WriteToFile(BSTR path) noexcept {
     return com::Guarded([&] {
         const std::string bytes = Utf8(Journal::Instance().Text());
-        const HANDLE file = CreateFileW(com::Bstr(com::ViewOf(path)).Get(), GENERIC_WRITE, FILE_SHARE_READ,
-                                        nullptr, CREATE_ALWAYS, FILE_ATTRIBUTE_NORMAL, nullptr);
+        const HANDLE file =
+            CreateFileW(LongPath(std::wstring(com::ViewOf(path))).c_str(), GENERIC_WRITE, FILE_SHARE_READ,
+                        nullptr, CREATE_ALWAYS, FILE_ATTRIBUTE_NORMAL, nullptr);
         if (file == INVALID_HANDLE_VALUE) return HRESULT_FROM_WIN32(GetLastError());
         const std::unique_ptr<void, decltype(&CloseHandle)> owner(file, &CloseHandle);
         DWORD written = 0;

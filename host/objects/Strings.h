@@ -12,7 +12,8 @@ namespace tovarin {
 // Empty when there is no such text.
 inline std::wstring LoadText(UINT id) {
     const wchar_t* text = nullptr;
-    const int length = LoadStringW(recoveryui::com::Module::Instance(), id, reinterpret_cast<wchar_t*>(&text), 0);
+    const int length =
+        LoadStringW(recoveryui::com::Module::Instance(), id, reinterpret_cast<wchar_t*>(&text), 0);
     return {text, static_cast<size_t>(length)};
 }
 

@@ -33,7 +33,8 @@ bool JsonParts::Put(Json value) {
         level.container.push_back(std::move(value));
         return level.container.size() <= kMostItems;
     } else {
-        level.container[level.key] = std::move(value);
+        // a new key: repeated ones were refused
+        level.container.get_ref<Json::object_t&>().emplace_back(std::move(level.key), std::move(value));
     }
     return true;
 }

@@ -69,6 +69,7 @@ HRESULT WriteFlushed(HANDLE file, std::string_view bytes) noexcept {
 HRESULT StoreFile::Open(std::wstring_view path, bool readOnly, std::string& bytes) {
     if (path.empty() || path.find(L'\0') != std::wstring_view::npos) return STG_E_INVALIDNAME;
     StoreFile opened;
+    opened.whenFree = whenFree;
     opened.path_ = FullPath(std::wstring(path));
     opened.readOnly_ = readOnly;
     Handle file;
@@ -133,8 +134,10 @@ HRESULT StoreFile::Replace(const std::wstring& path, const std::wstring& fresh, 
     const DWORD flags = taken ? MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH : MOVEFILE_WRITE_THROUGH;
     for (int attempt = 1;; ++attempt) {
         taken.reset();
+        if (whenFree) whenFree(false);
         replaced = MoveFileExW(LongPath(fresh).c_str(), LongPath(path).c_str(), flags) != FALSE;
         const DWORD error = GetLastError();
+        if (whenFree && replaced) whenFree(true);
         const HRESULT retaken = Take(path, taken);
         if (replaced || (FAILED(retaken) && retaken != STG_E_FILENOTFOUND)) return retaken;
         const bool held = error == ERROR_ACCESS_DENIED || error == ERROR_SHARING_VIOLATION;

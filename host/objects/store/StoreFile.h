@@ -4,6 +4,7 @@
 #include <windows.h>
 
 #include <cstdint>
+#include <functional>
 #include <memory>
 #include <string>
 #include <string_view>
@@ -24,6 +25,10 @@ public:
     // means the path opened or last saved to.
     [[nodiscard]] HRESULT Save(std::wstring_view path, std::string_view bytes);
 
+    // Called in the instants of a save in which nobody holds the file: right before the replacement and
+    // right after it. Others can take it then, so a test does.
+    std::function<void(bool replaced)> whenFree;
+
 private:
     using Handle = std::shared_ptr<void>;
     // What a file looked like when this object last saw it.
@@ -35,8 +40,8 @@ private:
 
     static Handle OpenHandle(const std::wstring& path, DWORD access, DWORD share);
     [[nodiscard]] static HRESULT Take(const std::wstring& path, Handle& taken);
-    [[nodiscard]] static HRESULT Replace(const std::wstring& path, const std::wstring& fresh, Handle& taken,
-                                         bool& replaced);
+    [[nodiscard]] HRESULT Replace(const std::wstring& path, const std::wstring& fresh, Handle& taken,
+                                  bool& replaced);
     static bool SameFile(const std::wstring& first, const std::wstring& second);
     static Stamp StampOf(const std::wstring& path);
 

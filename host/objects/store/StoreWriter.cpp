@@ -171,9 +171,12 @@ void StoreWriter::Add(std::wstring_view name, const Scenario& scenario) {
     // A line feed inside a text is escaped, so every real one ends a line that moves in by two levels.
     text_ += empty_ ? "\n    " : ",\n    ";
     empty_ = false;
-    for (char character : ToJson(name, scenario).dump(2)) {
-        text_ += character;
-        if (character == '\n') text_ += "    ";
+    const std::string lines = ToJson(name, scenario).dump(2);
+    for (size_t at = 0; at < lines.size();) {
+        const size_t end = std::min(lines.find('\n', at), lines.size() - 1) + 1;
+        text_.append(lines, at, end - at);
+        if (lines[end - 1] == '\n') text_ += "    ";
+        at = end;
     }
 }
 
