@@ -69,13 +69,18 @@ take_build_folder() {
   flock -n 9 || { say 'another run is at work in build/; waiting for it'; flock -w 1800 9; }
 }
 
+# Ninja configures again by itself, except for the presets.
+configure() { # PRESET
+  [ "build/$1/build.ninja" -nt CMakePresets.json ] || bounded 300 cmake --preset "$1"
+}
+
 # build PRESET [TARGET...]
 build() {
   local preset=$1 log=build/$1.log
   shift
   say "building $preset"
   mkdir -p build
-  if ! { bounded 300 cmake --preset "$preset" && bounded 1200 cmake --build --preset "$preset" ${1:+--target "$@"}; } \
+  if ! { configure "$preset" && bounded 1200 cmake --build --preset "$preset" ${1:+--target "$@"}; } \
       >"$log" 2>&1; then
     { grep -A5 -E '(: |CMake )(fatal )?[Ee]rror|undefined reference' "$log" || tail -40 "$log"; } | cut -c1-400 |
       head -60 >&2

@@ -95,7 +95,7 @@ make_slots() { # COUNT DESKTOP-HOLDER...
   for ((i = 0; i < WINE_SLOTS; i++)); do
     undo_by drop_prefix "$WINE_BASE/p$i"
     copy_prefix "$WINE_BASE/p$i"
-    warm_prefix "$WINE_BASE/p$i" && hold_desktop "$WINE_BASE/p$i" "$@" || fail 'Wine does not start'
+    { warm_prefix "$WINE_BASE/p$i" && hold_desktop "$WINE_BASE/p$i" "$@"; } || fail 'Wine does not start'
   done
 }
 

@@ -8,9 +8,9 @@ windows=' advapi32 comctl32 comdlg32 gdi32 imm32 kernel32 msimg32 msvcrt ntdll o
 
 wrong=0
 tables=$("$objdump" -p "$file")
-for import in $(sed -n 's/^[[:space:]]*DLL Name: \(.*\)\.dll$/\L\1/Ip' <<<"$tables"); do
-  [[ $windows =~ [[:space:]]$import[[:space:]] ]] || { echo "imports $import"; wrong=1; }
-done
+while read -r import; do
+  [[ $windows =~ [[:space:]]${import}[[:space:]] ]] || { echo "imports $import"; wrong=1; }
+done < <(sed -n 's/^[[:space:]]*DLL Name: \(.*\)\.dll$/\L\1/Ip' <<<"$tables")
 grep -qi 'DLL Name: kernel32' <<<"$tables" || { echo 'no imports found'; wrong=1; }
 
 exports=$(awk '/^\[Ordinal\/Name Pointer\] Table/ {on = 1; next} /^$/ {on = 0} on {print $NF}' <<<"$tables" | sort)

@@ -12,6 +12,7 @@
 
 #include <windows.h>
 
+#include <atomic>
 #include <functional>
 #include <memory>
 
@@ -41,7 +42,7 @@ private:
 
     DWORD thread_ = GetCurrentThreadId();
     HWND window_ = nullptr;
-    volatile bool ended_ = false;
+    std::atomic<bool> ended_{false};
 };
 
 class User {
