@@ -5,7 +5,10 @@
 #include "objects/Journal.h"
 #include "objects/ObjectRack.h"
 #include "objects/screen/RecordMgr.h"
+#include "objects/services/FileLocator.h"
 #include "objects/services/HostApplication.h"
+#include "objects/services/PluginMgr.h"
+#include "objects/services/TestOptions.h"
 #include "objects/services/TovCommonFileDialog.h"
 #include "objects/store/ObjectStateRecoveryTrigger.h"
 #include "objects/store/Operations.h"
@@ -33,6 +36,9 @@ constexpr com::ClassEntry kClasses[] = {
     Row<ObjectRack>(kClsidObjectRack, L"Object rack"),
     Row<TovCommonFileDialog>(kClsidTovCommonFileDialog, L"Common file dialog"),
     Row<RecordMgr>(kClsidRecordMgr, L"Record manager"),
+    Row<FileLocator>(kClsidFileLocator, L"File locator"),
+    Row<PluginMgr>(kClsidPluginMgr, L"Plug-in manager"),
+    Row<TestOptions>(kClsidTestOptions, L"Test options"),
     Row<HostApplication>(kClsidHostApplication, L"Host application"),
     Row<ReplayRecoveryScenario>(kClsidReplayRecoveryScenario, L"Recovery scenario"),
     Row<RecoveryRepository>(kClsidRecoveryRepository, L"Recovery file"),

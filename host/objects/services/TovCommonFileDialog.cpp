@@ -5,9 +5,9 @@
 #include <cderr.h>
 
 #include "objects/Paths.h"
-#include "objects/services/DialogFilter.h"
 #include "objects/Strings.h"
 #include "objects/ids.h"
+#include "objects/services/DialogFilter.h"
 
 namespace tovarin {
 namespace {
@@ -23,7 +23,8 @@ constexpr DWORD kFirstBuffer = 32'768;
 DWORD Flags(bool open, bool mustExist, bool mayCreate) {
     const DWORD common = OFN_EXPLORER | OFN_HIDEREADONLY | OFN_NOCHANGEDIR;
     if (!open) return common | OFN_OVERWRITEPROMPT | OFN_PATHMUSTEXIST;
-    return common | (mustExist ? OFN_FILEMUSTEXIST | OFN_PATHMUSTEXIST : 0) | (mayCreate ? OFN_CREATEPROMPT : 0);
+    return common | (mustExist ? OFN_FILEMUSTEXIST | OFN_PATHMUSTEXIST : 0) |
+           (mayCreate ? OFN_CREATEPROMPT : 0);
 }
 
 // Empty when the user cancelled.
@@ -50,7 +51,8 @@ std::wstring Show(OPENFILENAMEW& dialog, bool open, std::wstring name) {
 
 TovCommonFileDialog::TovCommonFileDialog() {
     for (int member = 0; member < kFileSystemButton; ++member) values_[member] = com::Variant(L"");
-    for (int member = kFileSystemButton; member < kMemberCount; ++member) values_[member] = com::Variant(false);
+    for (int member = kFileSystemButton; member < kMemberCount; ++member)
+        values_[member] = com::Variant(false);
 }
 
 DISPID TovCommonFileDialog::FindMember(const wchar_t* name) const noexcept {
@@ -78,8 +80,8 @@ HRESULT TovCommonFileDialog::Put(Member member, DISPPARAMS& parameters) noexcept
     const VARIANT& given = parameters.rgvarg[0];
     return Call(kMemberNames[member], given).Answer([&] {
         com::Variant value;
-        const HRESULT hr = VariantChangeType(value.Put(), const_cast<VARIANT*>(&given), 0,
-                                             values_[member].Type());
+        const HRESULT hr =
+            VariantChangeType(value.Put(), const_cast<VARIANT*>(&given), 0, values_[member].Type());
         if (SUCCEEDED(hr)) values_[member] = std::move(value);
         return hr;
     });
@@ -88,14 +90,16 @@ HRESULT TovCommonFileDialog::Put(Member member, DISPPARAMS& parameters) noexcept
 HRESULT TovCommonFileDialog::DoModal(DISPPARAMS& parameters, VARIANT* result) noexcept {
     if (parameters.cArgs != 1) return DISP_E_BADPARAMCOUNT;
     VARIANT chosen{};
-    const HRESULT hr = Call(kMemberNames[kDoModal], parameters.rgvarg[0]).Give(
-        [&] {
-            com::Variant open;
-            com::Check(VariantChangeType(open.Put(), &parameters.rgvarg[0], 0, VT_BOOL));
-            const com::Ptr<IUnknown> self = KeepAlive();
-            chosen = com::Variant(Ask(open.Get().boolVal != VARIANT_FALSE)).Detach();
-        },
-        &chosen);
+    const HRESULT hr =
+        Call(kMemberNames[kDoModal], parameters.rgvarg[0])
+            .Give(
+                [&] {
+                    com::Variant open;
+                    com::Check(VariantChangeType(open.Put(), &parameters.rgvarg[0], 0, VT_BOOL));
+                    const com::Ptr<IUnknown> self = KeepAlive();
+                    chosen = com::Variant(Ask(open.Get().boolVal != VARIANT_FALSE)).Detach();
+                },
+                &chosen);
     if (result) {
         *result = chosen;
     } else {
@@ -136,8 +140,8 @@ bool TovCommonFileDialog::MayReplace(HWND owner, const std::wstring& path) const
     const std::wstring completed = path + extension;
     if (!IsFile(completed)) return true;
     const std::wstring question = completed + LoadText(IDS_HOST_REPLACE_FILE);
-    return MessageBoxW(owner, question.c_str(), Caption().c_str(), MB_YESNO | MB_ICONEXCLAMATION | MB_DEFBUTTON2) ==
-           IDYES;
+    return MessageBoxW(owner, question.c_str(), Caption().c_str(),
+                       MB_YESNO | MB_ICONEXCLAMATION | MB_DEFBUTTON2) == IDYES;
 }
 
 }  // namespace tovarin
