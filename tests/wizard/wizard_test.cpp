@@ -1,4 +1,8 @@
 // The wizard from its first page to its last, as a tester walks through it.
+#include <windows.h>
+
+#include <commctrl.h>
+
 #include "wizard/WizardTest.h"
 
 namespace recoveryui::test {
@@ -47,8 +51,8 @@ TEST_F(WizardTest, MakesAScenarioFromAPopUpAndTwoOperations) {
         screen.Check(wizard, IDC_CLICK_KEYS);
         screen.Next(wizard);
         EXPECT_EQ(screen.AnswerBox(IDOK), L"You must specify a keyboard combination");
-        screen.Do([wizard] {
-            const HWND page = reinterpret_cast<HWND>(SendMessageW(wizard, PSM_GETCURRENTPAGEHWND, 0, 0));
+        screen.Do([page = screen.Page(wizard)] {
+            
             SendDlgItemMessageW(page, IDC_CLICK_HOTKEY, HKM_SETHOTKEY, MAKEWORD('D', HOTKEYF_CONTROL | HOTKEYF_ALT), 0);
         });
         screen.Picture(wizard, L"wizard-click-keys");
