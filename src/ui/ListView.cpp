@@ -97,6 +97,20 @@ void ListView::FitColumnToContents(int column) const { ListView_SetColumnWidth(w
 
 void ListView::FitColumnToHeader(int column) const {
     ListView_SetColumnWidth(window_, column, LVSCW_AUTOSIZE_USEHEADER);
+    // Some versions of the control leave no room for the header's own margins.
+    const int least = HeaderWidth(column);
+    if (ListView_GetColumnWidth(window_, column) < least) ListView_SetColumnWidth(window_, column, least);
+}
+
+int ListView::HeaderWidth(int column) const {
+    wchar_t title[128] = L"";
+    LVCOLUMNW header{};
+    header.mask = LVCF_TEXT;
+    header.pszText = title;
+    header.cchTextMax = static_cast<int>(std::size(title));
+    SendMessageW(window_, LVM_GETCOLUMNW, static_cast<WPARAM>(column), reinterpret_cast<LPARAM>(&header));
+    const int margin = GetSystemMetrics(SM_CXEDGE) * 12;
+    return ListView_GetStringWidth(window_, title) + margin;
 }
 
 // Inserting into a visible list without this costs a repaint a row.

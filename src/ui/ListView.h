@@ -50,6 +50,8 @@ public:
     };
 
 private:
+    int HeaderWidth(int column) const;
+
     HWND window_;
 };
 

@@ -14,6 +14,11 @@ namespace {
 constexpr int kTitlePoints = 10;
 constexpr int kPointsPerInch = 72;
 
+constexpr UINT kKeepFocus = WM_APP;
+// The ids that every wizard frame gives its buttons.
+constexpr int kNextButton = 0x3024;
+constexpr int kFinishButton = 0x3025;
+
 ui::Font TitleFont(HWND page) {
     LOGFONTW font{};
     const auto own = reinterpret_cast<HFONT>(SendMessageW(page, WM_GETFONT, 0, 0));
@@ -46,8 +51,28 @@ void WizardPPBase::SetCanAdvance(bool canAdvance) {
 
 // Posted, so that it takes effect after the message that is being handled.
 void WizardPPBase::UpdateWizardButtons() const {
-    if (const auto flags = WizardButtons(page_.position, canAdvance_))
-        PostMessageW(Sheet(), PSM_SETWIZBUTTONS, 0, static_cast<LPARAM>(*flags));
+    const auto flags = WizardButtons(page_.position, canAdvance_);
+    if (!flags) return;
+    PostMessageW(Sheet(), PSM_SETWIZBUTTONS, 0, static_cast<LPARAM>(*flags));
+    PostMessageW(Window(), kKeepFocus, 0, 0);
+}
+
+bool WizardPPBase::OnMessage(UINT message, WPARAM wParam, LPARAM lParam, LRESULT& answer) {
+    if (message != kKeepFocus) return PropertyPage::OnMessage(message, wParam, lParam, answer);
+    KeepFocus();
+    return true;
+}
+
+// The button that was pressed may be disabled by now, and a disabled control takes no keys.
+void WizardPPBase::KeepFocus() const {
+    const HWND focus = GetFocus();
+    if (GetActiveWindow() != Sheet() || (focus && IsWindowEnabled(focus) && IsWindowVisible(focus))) return;
+    for (const int id : {kNextButton, kFinishButton, IDCANCEL}) {
+        const HWND button = GetDlgItem(Sheet(), id);
+        if (!IsWindowEnabled(button)) continue;
+        SendMessageW(Sheet(), WM_NEXTDLGCTL, reinterpret_cast<WPARAM>(button), TRUE);
+        return;
+    }
 }
 
 void WizardPPBase::OnInit() {

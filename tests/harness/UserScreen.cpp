@@ -11,7 +11,7 @@
 namespace recoveryui::test {
 namespace {
 
-constexpr DWORD kStepLimit = 5000;
+constexpr DWORD kStepLimit = 15000;
 constexpr UINT kGetMenuOfWindow = 0x1E1;  // MN_GETHMENU
 constexpr int kBoxText = 0xFFFF;
 

@@ -184,10 +184,10 @@ TEST_F(WizardTest, StaysOnThePageWhenAHostCallFails) {
         EXPECT_EQ(screen.RowsOf(wizard, IDC_OPERATION_LIST_ROWS).size(), 1u) << "failed attempts add nothing";
         GoToSummary(screen, wizard, L"Popup");
         stayOnce(screen, wizard, 0x3025, {{L"Vantrel.ReplayRecoveryScenario", L"Create"},
-                                          {L"ReplayRecoveryScenario", L"SetPostRecoveryOption"},
-                                          {L"ReplayRecoveryScenario", L"SetTrigger"},
-                                          {L"ReplayRecoveryScenario", L"SetOperations"},
-                                          {L"ReplayRecoveryScenario", L"SetDescription"}});
+                                          {L"RecoveryScenario", L"SetPostRecoveryOption"},
+                                          {L"RecoveryScenario", L"SetTrigger"},
+                                          {L"RecoveryScenario", L"SetOperations"},
+                                          {L"RecoveryScenario", L"SetDescription"}});
         screen.Finish(wizard);
     });
     EXPECT_EQ(result, S_OK);
@@ -255,7 +255,7 @@ TEST_F(WizardTest, FailsBeforeShowingAnythingWithoutWhatItNeeds) {
     wizard_->put_Scenario(scenario.Get());
     EXPECT_EQ(wizard_->DoModal(), E_FAIL) << "no trigger";
     scenario->SetTrigger(New<IRecoveryTrigger>(L"Vantrel.PopUpRecoveryTrigger").Get());
-    FailCall(L"ReplayRecoveryScenario", L"GetPostRecoveryOption");
+    FailCall(L"RecoveryScenario", L"GetPostRecoveryOption");
     EXPECT_EQ(wizard_->DoModal(), E_FAIL) << "no option";
     EXPECT_EQ(wizard_->get_Scenario(nullptr), E_POINTER);
 }
