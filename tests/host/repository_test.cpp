@@ -208,6 +208,13 @@ TEST_F(RepositoryTest, ATestObjectComesBackWithItsParents) {
               object->GetProperty(2, name.Put(), value.Put(), &isRegularExpression, &isChecked));
 }
 
+// What this process has worked; other programs on the machine do not count.
+ULONGLONG ProcessorMilliseconds() {
+    FILETIME created, exited, kernel, user;
+    if (!GetProcessTimes(GetCurrentProcess(), &created, &exited, &kernel, &user)) return 0;
+    return ((ULONGLONG{user.dwHighDateTime} << 32 | user.dwLowDateTime) + kernel.dwLowDateTime) / 10'000;
+}
+
 TEST_F(RepositoryTest, AHundredThousandScenariosAreReadAndWrittenInSeconds) {
     const store::Scenario scenario{
         2, store::PopUpTrigger{{L"Error.*", 1}, {}, 0}, {store::PressKeys{{13}}}, L"Closes the box"};
@@ -215,20 +222,21 @@ TEST_F(RepositoryTest, AHundredThousandScenariosAreReadAndWrittenInSeconds) {
     for (int i = 0; i < 100'000; ++i) writer.Add(L"Scenario " + std::to_wstring(i), scenario);
     TempFolder::Write(path_, writer.Finish());
     const auto repository = NewRepository();
-    const auto start = GetTickCount64();
+    const auto start = ProcessorMilliseconds();
     ASSERT_EQ(S_OK, Load(repository.Get(), path_));
-    const auto loaded = GetTickCount64();
+    const auto loaded = ProcessorMilliseconds();
     EXPECT_EQ(S_OK,
               Add(repository.Get(), Get(repository.Get(), L"Scenario 99999").Get(), L"scenario 50000", 1));
     EXPECT_EQ(S_OK, repository->RemoveScenario(Bstr(L"Scenario 0").Get()));
-    const auto edited = GetTickCount64();
+    const auto edited = ProcessorMilliseconds();
     EXPECT_EQ(S_OK, Save(repository.Get(), L""));
-    const auto saved = GetTickCount64();
+    const auto saved = ProcessorMilliseconds();
+    EXPECT_GT(loaded, start);
     RecordProperty("load_ms", static_cast<int>(loaded - start));
     RecordProperty("save_ms", static_cast<int>(saved - edited));
-    EXPECT_LT(loaded - start, 15'000u);
-    EXPECT_LT(edited - loaded, 500u);
-    EXPECT_LT(saved - edited, 15'000u);
+    EXPECT_LT(loaded - start, 5'000u);
+    EXPECT_LT(edited - loaded, 200u);
+    EXPECT_LT(saved - edited, 5'000u);
 }
 
 }  // namespace
