@@ -1,8 +1,11 @@
 #include "HostInterfaces.h"
+#include "com/Automation.h"
+#include "com/Object.h"
 #include "com/SafeArray.h"
 #include "harness/ComTest.h"
 #include "host/store_samples.h"
 #include "host/temp_folder.h"
+#include "objects/services/NamedMembers.h"
 
 namespace tovarin {
 namespace {
@@ -206,6 +209,48 @@ TEST_F(RepositoryTest, ATestObjectComesBackWithItsParents) {
     EXPECT_EQ(2, isRegularExpression + isChecked);
     EXPECT_EQ(E_INVALIDARG,
               object->GetProperty(2, name.Put(), value.Put(), &isRegularExpression, &isChecked));
+}
+
+// A test object of somebody else's, which is its own parent.
+class ForeignObject final : public com::Object<ForeignObject, ITestObject, NamedMembers> {
+public:
+    HRESULT STDMETHODCALLTYPE GetDisplayName(BSTR* name) noexcept override {
+        return com::CopyTo(name, L"Foreign");
+    }
+    HRESULT STDMETHODCALLTYPE GetPropertyCount(long* count) noexcept override { return *count = 1, S_OK; }
+    HRESULT STDMETHODCALLTYPE GetProperty(long, BSTR* name, VARIANT* value, long* isRegularExpression,
+                                          long* isChecked) noexcept override {
+        *value = com::Variant(L"v").Detach();
+        *isRegularExpression = 0;
+        *isChecked = 1;
+        return com::CopyTo(name, L"p");
+    }
+    HRESULT STDMETHODCALLTYPE SetPropertyValue(long, VARIANT, long) noexcept override { return E_NOTIMPL; }
+    HRESULT STDMETHODCALLTYPE SetPropertyChecked(long, long) noexcept override { return E_NOTIMPL; }
+
+private:
+    DISPID FindMember(const wchar_t* name) const noexcept override {
+        return SameName(name, L"parent") ? 1 : -1;
+    }
+    HRESULT InvokeMember(DISPID, WORD, DISPPARAMS&, VARIANT* result) noexcept override {
+        *result = com::Variant(static_cast<IDispatch*>(this)).Detach();
+        return S_OK;
+    }
+};
+
+TEST_F(RepositoryTest, AForeignTestObjectIsStoredAndAnEndlessChainOfParentsEnds) {
+    const auto repository = NewRepository();
+    const auto scenario = NewScenario();
+    const auto trigger = New<IObjectStateRecoveryTrigger>(L"Vantrel.ObjectStateRecoveryTrigger");
+    EXPECT_EQ(S_OK, trigger->SetTestObject(ForeignObject::Make().Get()));
+    EXPECT_EQ(S_OK, scenario->SetTrigger(trigger.Get()));
+    EXPECT_EQ(S_OK, Add(repository.Get(), scenario.Get(), L"S"));
+    ASSERT_EQ(S_OK, Save(repository.Get(), path_));
+    std::vector<store::NamedScenario> read;
+    ASSERT_EQ(store::ReadResult::Read, store::ReadStore(TempFolder::Read(path_), read));
+    const auto& objects = std::get<store::ObjectStateTrigger>(read[0].scenario.trigger).objects;
+    const store::TestObject expected{L"Foreign", {{L"p", {store::ValueType::Text, 0, 0, L"v"}, 0, 1}}};
+    EXPECT_EQ(store::Hierarchy(256, expected), objects);
 }
 
 // What this process has worked; other programs on the machine do not count.

@@ -2,6 +2,7 @@
 
 #include "com/Automation.h"
 #include "objects/HostObject.h"
+#include "objects/services/NamedMembers.h"
 #include "objects/store/Storable.h"
 #include "objects/store/Values.h"
 
@@ -11,12 +12,13 @@ namespace {
 // An application nests its windows less deep; a parent that leads back to its child ends here.
 constexpr size_t kMostAncestors = 256;
 
+constexpr const wchar_t* kParentName = L"parent";
 constexpr DISPID kParent = 1;
 constexpr DISPID kFirstProperty = 100;
 
 // Answers its kept properties by name, in place of the object on the screen.
 class StoredTestObject final
-    : public HostObject<StoredTestObject, ITestObject, IDispatch, Storable<store::Hierarchy>> {
+    : public HostObject<StoredTestObject, ITestObject, NamedMembers, Storable<store::Hierarchy>> {
 public:
     static constexpr const wchar_t* kName = L"TestObject";
 
@@ -69,38 +71,6 @@ public:
         });
     }
 
-    HRESULT STDMETHODCALLTYPE GetTypeInfoCount(UINT* count) noexcept override {
-        if (!count) return E_POINTER;
-        *count = 0;
-        return S_OK;
-    }
-    HRESULT STDMETHODCALLTYPE GetTypeInfo(UINT, LCID, ITypeInfo** info) noexcept override {
-        if (!info) return E_POINTER;
-        *info = nullptr;
-        return DISP_E_BADINDEX;
-    }
-    HRESULT STDMETHODCALLTYPE GetIDsOfNames(REFIID, LPOLESTR* names, UINT count, LCID,
-                                            DISPID* ids) noexcept override {
-        if (!names || !ids || count == 0) return E_INVALIDARG;
-        for (UINT i = 0; i < count; ++i) ids[i] = DISPID_UNKNOWN;
-        ids[0] = Member(names[0]);
-        return count == 1 && ids[0] != DISPID_UNKNOWN ? S_OK : DISP_E_UNKNOWNNAME;
-    }
-    HRESULT STDMETHODCALLTYPE Invoke(DISPID member, REFIID, LCID, WORD flags, DISPPARAMS*, VARIANT* result,
-                                     EXCEPINFO*, UINT*) noexcept override {
-        if (result) VariantInit(result);
-        if (!(flags & DISPATCH_PROPERTYGET)) return DISP_E_MEMBERNOTFOUND;
-        if (!result) return E_POINTER;
-        return com::Guarded([&] {
-            const store::Property* property = Find(member - kFirstProperty);
-            if (member != kParent && !property) return DISP_E_MEMBERNOTFOUND;
-            com::Variant value =
-                property ? ToVariant(property->value) : com::Variant(static_cast<IDispatch*>(parent_.Get()));
-            *result = value.Detach();
-            return S_OK;
-        });
-    }
-
     HRESULT STDMETHODCALLTYPE Write(store::Hierarchy& hierarchy) noexcept override {
         return com::Guarded([&] {
             for (const StoredTestObject* object = this; object; object = object->parent_.Get())
@@ -113,16 +83,25 @@ private:
         const bool exists = index >= 0 && static_cast<size_t>(index) < content_.properties.size();
         return exists ? &content_.properties[static_cast<size_t>(index)] : nullptr;
     }
-    // Names are compared without letter case, as everywhere in automation.
-    DISPID Member(const wchar_t* name) const noexcept {
-        const auto same = [&](const wchar_t* other) {
-            return CompareStringOrdinal(name, -1, other, -1, TRUE) == CSTR_EQUAL;
-        };
-        if (same(L"parent")) return parent_ ? kParent : DISPID_UNKNOWN;
+    DISPID FindMember(const wchar_t* name) const noexcept override {
+        if (SameName(name, kParentName)) return parent_ ? kParent : DISPID_UNKNOWN;
         for (size_t i = 0; i < content_.properties.size(); ++i) {
-            if (same(content_.properties[i].name.c_str())) return kFirstProperty + static_cast<DISPID>(i);
+            if (SameName(name, content_.properties[i].name.c_str()))
+                return kFirstProperty + static_cast<DISPID>(i);
         }
         return DISPID_UNKNOWN;
+    }
+    HRESULT InvokeMember(DISPID member, WORD flags, DISPPARAMS&, VARIANT* result) noexcept override {
+        const store::Property* property = Find(member - kFirstProperty);
+        if (!(flags & DISPATCH_PROPERTYGET) || (member != kParent && !property)) return DISP_E_MEMBERNOTFOUND;
+        return Call(property ? property->name.c_str() : kParentName)
+            .Give(
+                [&] {
+                    com::Variant value = property ? ToVariant(property->value)
+                                                  : com::Variant(static_cast<IDispatch*>(parent_.Get()));
+                    *result = value.Detach();
+                },
+                result);
     }
 
     store::TestObject content_;
@@ -168,7 +147,7 @@ HRESULT WriteTestObject(ITestObject* object, store::Hierarchy& hierarchy) {
             hierarchy.push_back(ReadForeign(member.Get()));
             com::Variant parent;
             const com::Ptr<IDispatch> properties = com::Query<IDispatch>(member.Get());
-            hr = properties ? com::GetProperty(properties.Get(), L"parent", &parent) : E_NOINTERFACE;
+            hr = properties ? com::GetProperty(properties.Get(), kParentName, &parent) : E_NOINTERFACE;
             member = SUCCEEDED(hr) ? com::Query<ITestObject>(parent.Object()) : nullptr;
         }
         return S_OK;
