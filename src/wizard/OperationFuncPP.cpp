@@ -89,6 +89,9 @@ bool OperationFuncPP::OnMessage(UINT message, WPARAM wParam, LPARAM lParam, LRES
     if (message != kLoad && message != kLoadIfChanged)
         return WizardPPBase::OnMessage(message, wParam, lParam, answer);
     message == kLoad ? Load() : LoadIfChanged();
+    // What is selected in a box without the focus looks like something to type over.
+    const HWND combo = Item(IDC_FUNC_LIBRARY);
+    if (!IsChild(combo, GetFocus())) SendMessageW(combo, CB_SETEDITSEL, 0, MAKELPARAM(-1, 0));
     return true;
 }
 
