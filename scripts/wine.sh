@@ -29,8 +29,7 @@ make_template() {
   undo_by drop_prefix "$new"
   WINEPREFIX=$new bounded 180 env -u DISPLAY wineboot -i </dev/null >build/wine/template.log 2>&1 ||
     fail 'Wine cannot make a prefix; see build/wine/template.log'
-  # A crash ends the program with its code, without a debugger or a dialog. No display is needed; on one
-  # without a window manager, windows are drawn by Wine itself.
+  # A crash ends the program with its code, without a debugger or a dialog. No display is needed.
   cat >"$new/settings.reg" <<'REG'
 REGEDIT4
 [HKEY_LOCAL_MACHINE\Software\Microsoft\Windows NT\CurrentVersion\AeDebug]
@@ -99,10 +98,13 @@ make_slots() { # COUNT DESKTOP-HOLDER...
   done
 }
 
-# Lets the windows of a prefix appear on the display.
-show_on_display() { # PREFIX managed|unmanaged
-  sed -i 's/"Graphics"="null"/"Graphics"="x11"/' "$1/user.reg"
-  [ "$2" = unmanaged ] || sed -i 's/"Managed"="N"/"Managed"="Y"/' "$1/user.reg"
+display_answers() { [ -n "${DISPLAY:-}" ] && timeout 5 xprop -root >/dev/null 2>&1; }
+
+# Lets the windows of a prefix appear on the display. Without a window manager Wine draws their frames.
+show_on_display() { # PREFIX
+  local managed=N
+  if timeout 5 xprop -root _NET_SUPPORTING_WM_CHECK 2>/dev/null | grep -q 'window id'; then managed=Y; fi
+  sed -i -e 's/"Graphics"="null"/"Graphics"="x11"/' -e "s/\"Managed\"=\".\"/\"Managed\"=\"$managed\"/" "$1/user.reg"
 }
 
 start_virtual_display() {
