@@ -1,0 +1,42 @@
+// The reference host with a user in front of it. Each story runs the host from its start to its end.
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <functional>
+#include <string>
+
+#include "HostInterfaces.h"
+#include "com/Ptr.h"
+#include "harness/UserScreen.h"
+#include "resources/ids.h"
+
+namespace recoveryui::tour {
+
+using test::Rows;
+using test::UserScreen;
+
+// The folder for pictures and files, ending in a backslash.
+std::wstring Folder();
+std::wstring FileIn(const wchar_t* name);
+
+class Tour : public testing::Test {
+protected:
+    using Story = std::function<void(UserScreen& screen, HWND host)>;
+
+    // Shows the host until the story has closed it, and leaves its journal in the folder.
+    void Play(const wchar_t* journal, const Story& story);
+
+    // Opens a menu of the menu bar by its letter, pictures it when given a name, and chooses an item.
+    static void ChooseFromMenuBar(UserScreen& screen, HWND host, wchar_t letter, const std::wstring& item,
+                                  const wchar_t* picture = nullptr);
+    static HWND OpenManager(UserScreen& screen, HWND host, const wchar_t* picture = nullptr);
+    // Answers the platform's file dialog of that caption.
+    static void GiveFile(UserScreen& screen, const wchar_t* caption, const std::wstring& path,
+                         const wchar_t* picture = nullptr);
+    // What another program reads from a recovery file: the names of its scenarios.
+    static Rows NamesInFile(const std::wstring& path);
+    static HRESULT OpenForEditing(const std::wstring& path);
+};
+
+}  // namespace recoveryui::tour
