@@ -1,0 +1,113 @@
+// What the Manager does when files and host objects fail.
+#include "manager/ManagerTest.h"
+
+namespace recoveryui::test {
+namespace {
+
+TEST_F(ManagerTest, WhatCannotBeOpenedOrSavedChangesNothing) {
+    const std::wstring file = MakeFile(L"work.trs", {L"one", L"two"}), missing = Path(L"missing.trs");
+    (*options_)[L"RecoveryManagerMRU"] = missing;
+    Manage([&](UserScreen& screen, HWND manager) {
+        const auto expectUnchanged = [&] {
+            EXPECT_EQ(screen.Text(manager, IDC_MANAGER_FILE), file);
+            EXPECT_EQ(Names(screen, manager), Rows{L"two"});
+            screen.Press(manager, IDCANCEL);  // still asks
+            EXPECT_EQ(screen.AnswerBox(IDCANCEL), kSaveQuestion);
+        };
+        OpenFile(screen, manager, file);
+        screen.Choose(manager, IDC_MANAGER_LIST, L"one");
+        screen.Press(manager, IDC_MANAGER_DELETE);
+
+        DropMenu(screen, manager, IDC_MANAGER_OPEN);
+        screen.ChooseMenu(missing);
+        EXPECT_EQ(screen.AnswerBox(IDNO), kSaveQuestion);
+        EXPECT_EQ(screen.AnswerBox(IDOK), missing + L"\nFilename or path not found.");
+        expectUnchanged();
+
+        const struct {
+            const wchar_t *object, *operation;
+            HRESULT code;
+            long nth;
+        } openFailures[] = {{L"Vantrel.RecoveryRepository", L"Create", E_OUTOFMEMORY, 1},
+                            {L"RecoveryRepository", L"SetRack", E_FAIL, 1},
+                            {L"RecoveryRepository", L"Load", STG_E_DOCFILECORRUPT, 1},
+                            {L"RecoveryRepository", L"Load", E_FAIL, 2},
+                            {L"Vantrel.TovCommonFileDialog", L"Create", E_FAIL, 1}};
+        for (const auto& failure : openFailures) {
+            FailCall(failure.object, failure.operation, failure.code, failure.nth);
+            screen.Press(manager, IDC_MANAGER_OPEN);
+            screen.AnswerBox(IDNO);
+            if (failure.object != std::wstring(L"Vantrel.TovCommonFileDialog"))
+                ChooseFile(screen, L"Open Recovery File", file);
+            expectUnchanged();
+            ClearFaults();
+        }
+
+        const struct {
+            HRESULT code;
+            std::wstring text;
+        } saveFailures[] = {
+            {E_FAIL, L"Failed to save recovery file."},
+            {STG_E_ACCESSDENIED, L"Failed to save recovery file."},
+            {STG_E_MEDIUMFULL, L"There is no disk space remaining on drive " + file.substr(0, 2) +
+                                   L"\nPlease free some space and try again."},
+        };
+        for (const auto& failure : saveFailures) {
+            FailCall(L"RecoveryRepository", L"Save", failure.code);
+            screen.Press(manager, IDCANCEL);
+            EXPECT_EQ(screen.AnswerBox(IDYES), kSaveQuestion);
+            EXPECT_EQ(screen.AnswerBox(IDOK), failure.text);
+            expectUnchanged();
+        }
+        FailCall(L"RecoveryRepository", L"Save", E_FAIL);
+        SaveAs(screen, manager, Path(L"other.trs"));
+        screen.AnswerBox(IDOK);
+        expectUnchanged();
+
+        screen.Press(manager, IDCANCEL);
+        EXPECT_EQ(screen.AnswerBox(IDNO), kSaveQuestion);
+    });
+    EXPECT_EQ(NamesIn(file), (Rows{L"one", L"two"}));
+}
+
+TEST_F(ManagerTest, FailingHostObjectsLeaveListSelectionAndFileAlone) {
+    const std::wstring file = MakeFile(L"work.trs", {L"one", L"two"});
+    const struct {
+        const wchar_t *object, *operation;
+        int command;
+    } cases[] = {
+        {L"RecoveryRepository", L"RemoveScenario", IDC_MANAGER_DELETE},
+        {L"RecoveryRepository", L"GetScenario", IDC_MANAGER_COPY},
+        {L"RecoveryRepository", L"GetScenario", IDC_MANAGER_EDIT},
+        {L"RecoveryRepository", L"GetScenario", IDC_MANAGER_PROPERTIES},
+        {L"RecoveryRepository", L"ScenarioExists", IDC_MANAGER_PASTE},
+        {L"RecoveryRepository", L"Load", IDC_MANAGER_NEW},
+        {L"RecordMgr", L"IsActive", IDC_MANAGER_NEW_SCENARIO},
+        {L"RecordMgr", L"Suspend", IDC_MANAGER_NEW_SCENARIO},
+        {L"RecordMgr", L"Suspend", IDC_MANAGER_EDIT},
+        {L"ObjectRack", L"GetObject", IDC_MANAGER_NEW_SCENARIO},
+    };
+    const auto recorder = New<IRecordMgrControl>(L"Tovarin.RecordMgr");
+    rack_.Put(L"RecordMgr", recorder.Get());
+    recorder->SetActive(VARIANT_TRUE);
+    Manage([&](UserScreen& screen, HWND manager) {
+        OpenFile(screen, manager, file);
+        screen.Choose(manager, IDC_MANAGER_LIST, L"two");
+        screen.Press(manager, IDC_MANAGER_COPY);
+        for (const auto& c : cases) {
+            FailCall(c.object, c.operation);
+            screen.Press(manager, c.command);
+            ClearFaults();
+            EXPECT_EQ(screen.WaitForWindow(nullptr), manager) << c.command;
+            EXPECT_EQ(Chosen(screen, manager), L"two") << c.command;
+            EXPECT_EQ(Toolbar(screen, manager), L"NEPCVD") << c.command;
+        }
+        screen.Press(manager, IDCANCEL);  // nothing was changed
+    });
+    long suspended = 1;
+    recorder->GetSuspensions(&suspended);
+    EXPECT_EQ(suspended, 0);
+}
+
+}  // namespace
+}  // namespace recoveryui::test
