@@ -5,6 +5,7 @@
 #include "objects/Journal.h"
 #include "objects/ObjectRack.h"
 #include "objects/screen/RecordMgr.h"
+#include "objects/script/VBScriptParser.h"
 #include "objects/services/FileLocator.h"
 #include "objects/services/HostApplication.h"
 #include "objects/services/PluginMgr.h"
@@ -39,6 +40,7 @@ constexpr com::ClassEntry kClasses[] = {
     Row<FileLocator>(kClsidFileLocator, L"File locator"),
     Row<PluginMgr>(kClsidPluginMgr, L"Plug-in manager"),
     Row<TestOptions>(kClsidTestOptions, L"Test options"),
+    Row<VBScriptParser>(kClsidVBScriptParser, L"VBScript parser"),
     Row<HostApplication>(kClsidHostApplication, L"Host application"),
     Row<ReplayRecoveryScenario>(kClsidReplayRecoveryScenario, L"Recovery scenario"),
     Row<RecoveryRepository>(kClsidRecoveryRepository, L"Recovery file"),
