@@ -4,8 +4,10 @@
 #include <functional>
 
 #include "HostInterfaces.h"
-#include "com/Automation.h"
+#include "com/SafeArray.h"
 #include "harness/ComTest.h"
+#include "host/temp_folder.h"
+#include "objects/Describe.h"
 
 namespace tovarin {
 namespace {
@@ -14,48 +16,19 @@ using namespace recoveryui;
 using com::Bstr;
 using com::Variant;
 using recoveryui::test::ComTest;
-using recoveryui::test::User;
-using recoveryui::test::UserScreen;
-
-// A folder that is empty at first and gone afterwards.
-class ScratchFolder {
-public:
-    ScratchFolder() {
-        std::wstring temp(MAX_PATH + 1, L'\0');
-        temp.resize(GetTempPathW(static_cast<DWORD>(temp.size()), temp.data()));
-        path_ = temp + L"services-" + std::to_wstring(GetCurrentProcessId());
-        CreateDirectoryW(path_.c_str(), nullptr);
-    }
-    ~ScratchFolder() {
-        for (const std::wstring& file : files_) DeleteFileW(file.c_str());
-        for (auto folder = folders_.rbegin(); folder != folders_.rend(); ++folder)
-            RemoveDirectoryW(folder->c_str());
-        RemoveDirectoryW(path_.c_str());
-    }
-    std::wstring At(const std::wstring& name) const { return path_ + L"\\" + name; }
-    std::wstring Folder(const std::wstring& name) {
-        folders_.push_back(At(name));
-        CreateDirectoryW(folders_.back().c_str(), nullptr);
-        return folders_.back();
-    }
-    std::wstring File(const std::wstring& name, std::string_view bytes = {}) {
-        files_.push_back(At(name));
-        const HANDLE file =
-            CreateFileW(files_.back().c_str(), GENERIC_WRITE, 0, nullptr, CREATE_ALWAYS, 0, nullptr);
-        DWORD written = 0;
-        WriteFile(file, bytes.data(), static_cast<DWORD>(bytes.size()), &written, nullptr);
-        CloseHandle(file);
-        return files_.back();
-    }
-
-private:
-    std::wstring path_;
-    std::vector<std::wstring> files_, folders_;
-};
 
 class HostServices : public ComTest {
 protected:
-    ScratchFolder folder_;
+    std::wstring MakeFolder(const wchar_t* name) {
+        CreateDirectoryW((folder_ / name).c_str(), nullptr);
+        return folder_ / name;
+    }
+    std::wstring MakeFile(const std::wstring& name, const std::string& bytes = {}) {
+        TempFolder::Write(folder_ / name, bytes);
+        return folder_ / name;
+    }
+
+    TempFolder folder_;
 };
 
 TEST_F(HostServices, ARecordingIsActiveUntilItIsSuspendedAndAgainAfterTheLastResume) {
@@ -83,11 +56,11 @@ TEST_F(HostServices, ARecordingIsActiveUntilItIsSuspendedAndAgainAfterTheLastRes
 }
 
 TEST_F(HostServices, TheLocatorLooksInTheTestsFolderThenInTheProducts) {
-    const std::wstring test = folder_.Folder(L"test"), product = folder_.Folder(L"product"),
-                       repository = folder_.Folder(L"repository");
-    folder_.File(L"test\\both.vbs");
-    folder_.File(L"product\\both.vbs");
-    folder_.File(L"product\\only.vbs");
+    const std::wstring test = MakeFolder(L"test"), product = MakeFolder(L"product"),
+                       repository = MakeFolder(L"repository");
+    MakeFile(L"test\\both.vbs");
+    MakeFile(L"product\\both.vbs");
+    MakeFile(L"product\\only.vbs");
     const auto locator = New<IFileLocator>(L"Tovarin.FileLocator");
     const auto folders = com::Query<IFileLocatorFolders>(locator.Get());
     folders->SetTestFolder(Bstr(test).Get());
@@ -186,10 +159,10 @@ TEST_F(HostOptions, ATestKeepsItsOwnValuesAndANewOneStartsFromTheDefaults) {
     EXPECT_EQ(Get(L"RecoveryManagerMRU").Text(), L"a;b");
 
     EXPECT_TRUE(Modified());
-    const std::wstring path = folder_.File(L"my.test");
+    const std::wstring path = MakeFile(L"my.test");
     EXPECT_EQ(file_->OpenTest(Bstr(path).Get()), STG_E_DOCFILECORRUPT);
     EXPECT_EQ(file_->SaveTest(nullptr), E_INVALIDARG);
-    EXPECT_EQ(file_->SaveTest(Bstr(folder_.At(L"none\\my.test")).Get()), STG_E_PATHNOTFOUND);
+    EXPECT_EQ(file_->SaveTest(Bstr(folder_ / L"none\\my.test").Get()), STG_E_PATHNOTFOUND);
     EXPECT_TRUE(Modified());
     EXPECT_EQ(file_->SaveTest(Bstr(path).Get()), S_OK);
     EXPECT_FALSE(Modified());
@@ -199,7 +172,7 @@ TEST_F(HostOptions, ATestKeepsItsOwnValuesAndANewOneStartsFromTheDefaults) {
     EXPECT_EQ(Get(L"Enabled").Get().lVal, 1);
     EXPECT_EQ(Set(L"Enabled", Variant(1L), false), S_OK);
     EXPECT_FALSE(Modified());
-    EXPECT_EQ(file_->OpenTest(Bstr(folder_.At(L"none.test")).Get()), STG_E_FILENOTFOUND);
+    EXPECT_EQ(file_->OpenTest(Bstr(folder_ / L"none.test").Get()), STG_E_FILENOTFOUND);
     EXPECT_EQ(file_->OpenTest(Bstr(path).Get()), S_OK);
     EXPECT_EQ(Get(L"RecoveryScenarios").Text(), L"mine");
     EXPECT_EQ(Get(L"Enabled").Get().lVal, 0);
@@ -256,98 +229,80 @@ TEST_F(HostOptions, GlobalVariablesAreSharedAndNeverStored) {
     EXPECT_EQ(recovery_->GetOptionValue(nullptr, Bstr(L"Enabled").Get(), value.Put(), 0, 0), E_FAIL);
 }
 
-// The dialog's own controls, in both versions of the platform's dialog.
-constexpr int kNameEdit = 0x480;
-
-class HostFileDialog : public HostServices {
+// Names of the functions, or the code for a library that cannot be opened.
+class HostLibraries : public HostServices {
 protected:
-    void Put(const wchar_t* name, const Variant& value) {
-        EXPECT_EQ(com::PutProperty(dialog_.Get(), name, value), S_OK);
+    std::wstring Names(const std::wstring& path) {
+        const HRESULT hr = parser_->Open(Bstr(path).Get());
+        com::CVtlSafeArray<VARIANT> list;
+        if (FAILED(hr)) return DescribeResult(hr);
+        EXPECT_EQ(parser_->GetFunctions(list.Put()), S_OK);
+        std::wstring names;
+        for (LONG index = 0; index <= list.UpperBound(); ++index) {
+            Variant function;
+            Bstr name;
+            EXPECT_EQ(list.GetElement(index, &function), S_OK);
+            EXPECT_EQ(com::Query<IScriptFunction>(function.Object())->GetName(name.Put()), S_OK);
+            names += name.Text() + L";";
+        }
+        return names;
     }
-    std::wstring DoModal(bool open, User::Script script) {
-        Put(L"FileFilter", Variant(L"Scenario Files (*.trs)|*.trs|All Files (*.*)|*.*||"));
-        Put(L"SetDialogCaption4FileSystem", Variant(L"Pick One"));
-        const User user(std::move(script));
-        const Variant mode(open);
-        Variant path;
-        EXPECT_EQ(com::CallMethod(dialog_.Get(), L"DoModal", {&mode, 1}, &path), S_OK);
-        EXPECT_EQ(path.Type(), VT_BSTR);
-        return std::wstring(path.Text());
-    }
-    static void Give(UserScreen& screen, const std::wstring& path) {
-        const HWND window = screen.WaitForWindow(L"Pick One");
-        const HWND edit = FindEdit(window);
-        screen.Do([&] { SetWindowTextW(edit, path.c_str()); });
-        PressOwn(screen, window, IDOK);
-    }
-    // The dialog's own button: its lists use the same numbers.
-    static void PressOwn(UserScreen& screen, HWND window, int id) {
-        screen.Do([&] { PostMessageW(GetDlgItem(window, id), BM_CLICK, 0, 0); });
-    }
-    static HWND FindEdit(HWND window) {
-        HWND edit = GetDlgItem(window, kNameEdit);
-        if (!edit)
-            edit = FindWindowExW(FindWindowExW(GetDlgItem(window, 0x47C), nullptr, L"ComboBox", nullptr),
-                                 nullptr, L"Edit", nullptr);
-        return edit;
+    static std::string Wide(std::wstring_view text, bool swap) {
+        std::string bytes;
+        for (const wchar_t unit : text) {
+            const char low = static_cast<char>(unit & 0xFF), high = static_cast<char>(unit >> 8);
+            bytes += swap ? high : low;
+            bytes += swap ? low : high;
+        }
+        return bytes;
     }
 
-    com::Ptr<IDispatch> dialog_ = New<IDispatch>(L"Vantrel.TovCommonFileDialog");
+    com::Ptr<IVBScriptParser> parser_ = New<IVBScriptParser>(L"Vantrel.VBScriptParser");
 };
 
-TEST_F(HostFileDialog, AFileIsOpenedOrTheDialogCancelled) {
-    const std::wstring file = folder_.File(L"a.trs");
-    EXPECT_EQ(DoModal(true, [&](UserScreen& screen) { Give(screen, file); }), file);
-    EXPECT_EQ(
-        DoModal(true,
-                [&](UserScreen& screen) { PressOwn(screen, screen.WaitForWindow(L"Pick One"), IDCANCEL); }),
-        L"");
-    Put(L"SetCheckAttachmentExistence", Variant(true));
-    EXPECT_EQ(DoModal(true,
-                      [&](UserScreen& screen) {
-                          Give(screen, folder_.At(L"none.trs"));
-                          screen.Press(screen.WaitForWindow(nullptr), IDOK);
-                          PressOwn(screen, screen.WaitForWindow(L"Pick One"), IDCANCEL);
-                      }),
-              L"");
+TEST_F(HostLibraries, ALibraryIsReadInEveryUsualEncoding) {
+    const std::wstring text = L"\xFEFFSub Gr\xFC\xDF()\r\nEnd Sub";
+    const std::pair<std::string, std::wstring> cases[] = {
+        {"", L""},
+        {"Sub Gr\xFC\xDF()\r\nEnd Sub", L"Gr\xFC\xDF;"},
+        {"\xEF\xBB\xBFSub Gr\xC3\xBC\xC3\x9F()\r\nEnd Sub", L"Gr\xFC\xDF;"},
+        {Wide(text, false), L"Gr\xFC\xDF;"},
+        {Wide(text, true), L"Gr\xFC\xDF;"},
+        {"\xEF\xBB\xBF' \xFF", L"E_INVALIDARG"},
+        {Wide(text, false) + "x", L"E_INVALIDARG"},
+        {std::string("Sub A\0\nEnd Sub", 14), L"E_INVALIDARG"},
+        {"Sub A", L"E_INVALIDARG"},
+    };
+    for (const auto& [bytes, names] : cases) EXPECT_EQ(Names(MakeFile(L"lib.vbs", bytes)), names) << bytes;
 }
 
-TEST_F(HostFileDialog, SavingNeverReplacesAFileUnasked) {
-    const std::wstring file = folder_.File(L"a.trs");
-    EXPECT_EQ(DoModal(false, [&](UserScreen& screen) { Give(screen, folder_.At(L"new.trs")); }),
-              folder_.At(L"new.trs"));
-    EXPECT_EQ(DoModal(false,
-                      [&](UserScreen& screen) {
-                          Give(screen, file);
-                          screen.AnswerBox(IDYES, L"Pick One");
-                      }),
-              file);
-    const bool dotted = folder_.At(L"").find(L'.') != std::wstring::npos;
-    if (dotted) GTEST_SKIP() << "the folder's own name holds a dot";
-    // The name will be completed to that of an existing file.
-    EXPECT_EQ(DoModal(false,
-                      [&](UserScreen& screen) {
-                          Give(screen, folder_.At(L"a"));
-                          EXPECT_EQ(screen.AnswerBox(IDNO, L"Pick One"),
-                                    file + L"\nThis file already exists.\nDo you want to replace it?");
-                          Give(screen, folder_.At(L"b"));
-                      }),
-              folder_.At(L"b"));
-}
+TEST_F(HostLibraries, AnOpenLibraryCanBeAppendedToAndAMissingOneIsNotFound) {
+    com::CVtlSafeArray<VARIANT> list;
+    EXPECT_EQ(parser_->GetFunctions(list.Put()), E_UNEXPECTED);
+    const std::wstring path = MakeFile(L"lib.vbs", "Sub A\nEnd Sub\nFunction B: End Function");
+    EXPECT_EQ(Names(path), L"A;B;");
+    const HANDLE file =
+        CreateFileW(path.c_str(), FILE_APPEND_DATA, FILE_SHARE_READ, nullptr, OPEN_EXISTING, 0, nullptr);
+    EXPECT_NE(file, INVALID_HANDLE_VALUE);
+    CloseHandle(file);
+    EXPECT_EQ(Names(folder_ / L"none.vbs"), L"STG_E_FILENOTFOUND");
+    EXPECT_EQ(Names(folder_ / L"none\\lib.vbs"), L"STG_E_PATHNOTFOUND");
+    EXPECT_EQ(parser_->GetFunctions(list.Put()), E_UNEXPECTED);
 
-TEST_F(HostFileDialog, ItsMembersAreKnownByName) {
-    Variant value;
-    Put(L"filefilter", Variant(L"x|*.x||"));
-    EXPECT_EQ(com::GetProperty(dialog_.Get(), L"FileFilter", &value), S_OK);
-    EXPECT_EQ(value.Text(), L"x|*.x||");
-    Put(L"CreateAttachmnet", Variant(1L));
-    EXPECT_EQ(com::GetProperty(dialog_.Get(), L"CreateAttachmnet", &value), S_OK);
-    EXPECT_EQ(value.Get().boolVal, VARIANT_TRUE);
-    EXPECT_EQ(com::PutProperty(dialog_.Get(), L"CreateAttachment", Variant(true)), DISP_E_UNKNOWNNAME);
-    FailCall(L"TovCommonFileDialog", L"DoModal", E_FAIL);
-    const Variant open(true);
-    EXPECT_EQ(com::CallMethod(dialog_.Get(), L"DoModal", {&open, 1}, &value), E_FAIL);
-    EXPECT_EQ(value.Type(), VT_EMPTY);
+    // A function outlives its library.
+    EXPECT_EQ(parser_->Open(Bstr(path).Get()), S_OK);
+    EXPECT_EQ(parser_->GetFunctions(list.Put()), S_OK);
+    EXPECT_EQ(parser_->Close(), S_OK);
+    Variant function;
+    Bstr text;
+    EXPECT_EQ(list.GetElement(1, &function), S_OK);
+    EXPECT_EQ(com::Query<IScriptFunction>(function.Object())->GetText(text.Put()), S_OK);
+    EXPECT_EQ(text.View(), L"Function B: End Function");
+    const HANDLE locked =
+        CreateFileW(path.c_str(), GENERIC_READ | DELETE, 0, nullptr, OPEN_EXISTING, 0, nullptr);
+    EXPECT_NE(locked, INVALID_HANDLE_VALUE) << "a closed library is still held";
+    EXPECT_EQ(Names(path), L"STG_E_SHAREVIOLATION");
+    CloseHandle(locked);
 }
 
 TEST_F(HostServices, TheApplicationAnswersAsTheHostSaid) {

@@ -11,7 +11,7 @@ bool IsPlainText(std::wstring_view text) {
     while (text.ends_with(kEndOfFile)) text.remove_suffix(1);
     for (const wchar_t character : text) {
         const bool space = character >= L'\t' && character <= L'\r';
-        if ((character >= 0 && character < L' ' && !space) || character == 0x7F) return false;
+        if ((character < L' ' && !space) || character == 0x7F) return false;
     }
     return true;
 }
