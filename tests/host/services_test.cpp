@@ -273,7 +273,10 @@ TEST_F(HostLibraries, ALibraryIsReadInEveryUsualEncoding) {
         {std::string("Sub A\0\nEnd Sub", 14), L"E_INVALIDARG"},
         {"Sub A", L"E_INVALIDARG"},
     };
-    for (const auto& [bytes, names] : cases) EXPECT_EQ(Names(MakeFile(L"lib.vbs", bytes)), names) << bytes;
+    for (const auto& [bytes, names] : cases) {
+        EXPECT_EQ(Names(MakeFile(L"lib.vbs", bytes)), names) << bytes;
+        EXPECT_EQ(parser_->Close(), S_OK);
+    }
 }
 
 TEST_F(HostLibraries, AnOpenLibraryCanBeAppendedToAndAMissingOneIsNotFound) {
