@@ -2,8 +2,6 @@
 
 #include <algorithm>
 
-#include "support/Text.h"
-
 namespace recoveryui::shell {
 namespace {
 
@@ -52,8 +50,9 @@ std::optional<std::vector<RegistryEntry>> ParseRegistryScript(std::wstring_view 
     std::vector<RegistryEntry> entries;
     while (!script.empty()) {
         const size_t end = std::min(script.find(L'\n'), script.size());
-        const std::wstring line = support::TrimWhiteSpace(script.substr(0, end));
+        std::wstring_view line = script.substr(0, end);
         script.remove_prefix(std::min(end + 1, script.size()));
+        if (line.ends_with(L'\r')) line.remove_suffix(1);
         if (line.empty()) continue;
         auto entry = ParseLine(line, replacements);
         if (!entry) return std::nullopt;

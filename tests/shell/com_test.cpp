@@ -1,0 +1,132 @@
+// Every class of the module as a citizen of COM.
+#include <windows.h>
+
+#include <ocidl.h>
+
+#include <docobj.h>
+
+#include <vector>
+
+#include "com/Create.h"
+#include "harness/ComTest.h"
+#include "harness/ProcessWindows.h"
+#include "shell/Classes.h"
+
+namespace recoveryui::test {
+namespace {
+
+const std::vector<IID> kInterfaces = {
+    IID_IUnknown,          IID_IDispatch,        IID_IRecoveryDlg,           IID_IRecoveryWizard,
+    IID_IRecoveryAddDlg,   IID_IScenarioProperties, IID_IUIAddIn,            IID_IObjectRackClient,
+    IID_IOleCommandTarget, IID_IPropertyPage,    IID_ISpecifyPropertyPages, IID_IClassFactory};
+
+class CitizenTest : public ComTest {
+protected:
+    static com::Ptr<IClassFactory> Factory(const CLSID& clsid) {
+        const auto get = reinterpret_cast<HRESULT(STDAPICALLTYPE*)(REFCLSID, REFIID, void**)>(
+            reinterpret_cast<void*>(GetProcAddress(GetModuleHandleW(L"RecoveryUI.dll"), "DllGetClassObject")));
+        com::Ptr<IClassFactory> factory;
+        EXPECT_EQ(get(clsid, IID_IClassFactory, reinterpret_cast<void**>(factory.GetAddressOf())), S_OK);
+        return factory;
+    }
+};
+
+TEST_F(CitizenTest, EveryClassKeepsItsIdentityWhateverIsAskedOfIt) {
+    EXPECT_EQ(shell::Classes().size(), 7u);
+    for (const com::ClassEntry& entry : shell::Classes()) {
+        const auto object = New<IUnknown>(entry.progId);
+        ASSERT_TRUE(object);
+        std::vector<IID> answered;
+        for (const IID& iid : kInterfaces) {
+            void* raw = this;
+            const HRESULT hr = object->QueryInterface(iid, &raw);
+            if (FAILED(hr)) {
+                EXPECT_EQ(raw, nullptr) << "a failed query clears its argument";
+                EXPECT_EQ(hr, E_NOINTERFACE);
+                continue;
+            }
+            const com::Ptr<IUnknown> view(static_cast<IUnknown*>(raw));
+            view->Release();
+            answered.push_back(iid);
+            com::Ptr<IUnknown> identity;
+            EXPECT_EQ(view.As(&identity), S_OK);
+            EXPECT_EQ(identity.Get(), com::Query<IUnknown>(object.Get()).Get());
+            for (const IID& other : answered) {
+                com::Ptr<IUnknown> back;
+                EXPECT_EQ(view->QueryInterface(other, reinterpret_cast<void**>(back.GetAddressOf())), S_OK);
+            }
+        }
+        EXPECT_GE(answered.size(), 3u) << Utf8(entry.progId);
+        EXPECT_EQ(object->QueryInterface(IID_IUnknown, nullptr), E_POINTER);
+        const auto client = com::Query<IObjectRackClient>(object.Get());
+        ASSERT_TRUE(client) << Utf8(entry.progId);
+        EXPECT_EQ(client->GetRack(nullptr), E_POINTER);
+        com::Ptr<IObjectRack> none;
+        EXPECT_EQ(client->GetRack(none.GetAddressOf()), S_OK);
+        EXPECT_FALSE(none);
+    }
+}
+
+TEST_F(CitizenTest, FactoriesRefuseAggregationAndHoldTheModule) {
+    const auto get = reinterpret_cast<HRESULT(STDAPICALLTYPE*)(REFCLSID, REFIID, void**)>(
+        reinterpret_cast<void*>(GetProcAddress(GetModuleHandleW(L"RecoveryUI.dll"), "DllGetClassObject")));
+    const auto canUnload = reinterpret_cast<HRESULT(STDAPICALLTYPE*)()>(
+        reinterpret_cast<void*>(GetProcAddress(GetModuleHandleW(L"RecoveryUI.dll"), "DllCanUnloadNow")));
+    void* object = this;
+    EXPECT_EQ(get(CLSID_NULL, IID_IClassFactory, &object), CLASS_E_CLASSNOTAVAILABLE);
+    EXPECT_EQ(object, nullptr);
+    EXPECT_EQ(get(CLSID_RecoveryDlg, IID_IClassFactory, nullptr), E_POINTER);
+    for (const com::ClassEntry& entry : shell::Classes()) {
+        const auto factory = Factory(*entry.clsid);
+        object = this;
+        EXPECT_EQ(factory->CreateInstance(factory.Get(), IID_IUnknown, &object), CLASS_E_NOAGGREGATION);
+        EXPECT_EQ(object, nullptr);
+        object = this;
+        EXPECT_EQ(factory->CreateInstance(nullptr, IID_IStorage, &object), E_NOINTERFACE);
+        EXPECT_EQ(object, nullptr);
+        EXPECT_EQ(factory->CreateInstance(nullptr, IID_IUnknown, nullptr), E_POINTER);
+    }
+    EXPECT_EQ(canUnload(), S_OK);
+    {
+        const auto factory = Factory(CLSID_RecoveryDlg);
+        factory->LockServer(TRUE);
+        factory->LockServer(TRUE);
+        factory->LockServer(FALSE);
+    }
+    EXPECT_EQ(canUnload(), S_FALSE) << "one lock is left";
+    Factory(CLSID_RecoveryDlg)->LockServer(FALSE);
+}
+
+TEST_F(CitizenTest, DualInterfacesDescribeThemselves) {
+    const auto dispatch = New<IDispatch>(L"Vantrel.RecoveryWizard");
+    UINT count = 0;
+    EXPECT_EQ(dispatch->GetTypeInfoCount(&count), S_OK);
+    EXPECT_EQ(count, 1u);
+    com::Ptr<ITypeInfo> info;
+    ASSERT_EQ(dispatch->GetTypeInfo(0, LOCALE_USER_DEFAULT, info.GetAddressOf()), S_OK);
+    com::Bstr name, help;
+    info->GetDocumentation(MEMBERID_NIL, name.Put(), help.Put(), nullptr, nullptr);
+    EXPECT_EQ(name.View(), L"IRecoveryWizard");
+    EXPECT_FALSE(help.View().empty());
+    EXPECT_EQ(dispatch->GetTypeInfo(1, 0, info.ReleaseAndGetAddressOf()), DISP_E_BADINDEX);
+    LPOLESTR member = const_cast<LPOLESTR>(L"scenarioname");
+    DISPID id = 0;
+    EXPECT_EQ(dispatch->GetIDsOfNames(IID_NULL, &member, 1, 0, &id), S_OK);
+    EXPECT_EQ(id, 2);
+}
+
+TEST(Module, LoadsAndUnloadsForEver) {
+    CoInitializeEx(nullptr, COINIT_APARTMENTTHREADED);
+    for (int round = 0; round < 1000; ++round) {
+        {
+            com::Ptr<IRecoveryWizard> wizard;
+            ASSERT_EQ(com::Create(L"Vantrel.RecoveryWizard", wizard), S_OK);
+        }
+        CoFreeUnusedLibrariesEx(0, 0);
+        ASSERT_EQ(GetModuleHandleW(L"RecoveryUI.dll"), nullptr) << "round " << round;
+    }
+    CoUninitialize();
+}
+
+}  // namespace
+}  // namespace recoveryui::test

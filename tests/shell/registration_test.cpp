@@ -1,0 +1,148 @@
+// Registration of the real module, in a registry branch of the test's own.
+#include <windows.h>
+
+#include <string>
+
+#include "RecoveryUI.h"
+#include "harness/ComTest.h"
+#include "shell/Classes.h"
+#include "shell/ClassRegistration.h"
+#include "shell/RegistryScript.h"
+
+namespace recoveryui::test {
+namespace {
+
+constexpr wchar_t kBranch[] = L"Software\\Tovarin\\RegistrationTest";
+
+class RegistrationTest : public ComTest {
+protected:
+    RegistrationTest() {
+        RegDeleteTreeW(HKEY_CURRENT_USER, kBranch);
+        RegCreateKeyExW(HKEY_CURRENT_USER, kBranch, 0, nullptr, 0, KEY_ALL_ACCESS, nullptr, &branch_, nullptr);
+        RegOverridePredefKey(HKEY_CLASSES_ROOT, branch_);
+    }
+    ~RegistrationTest() override {
+        RegOverridePredefKey(HKEY_CLASSES_ROOT, nullptr);
+        RegCloseKey(branch_);
+        RegDeleteTreeW(HKEY_CURRENT_USER, kBranch);
+    }
+
+    static HRESULT Call(const char* entryPoint) {
+        const HMODULE module = GetModuleHandleW(L"RecoveryUI.dll");
+        return reinterpret_cast<HRESULT(STDAPICALLTYPE*)()>(
+            reinterpret_cast<void*>(GetProcAddress(module, entryPoint)))();
+    }
+    static HRESULT Register() { return Call("DllRegisterServer"); }
+    static HRESULT Unregister() { return Call("DllUnregisterServer"); }
+
+    static std::wstring ServerKey(const com::ClassEntry& entry) {
+        return L"CLSID\\" + shell::GuidText(*entry.clsid) + L"\\InprocServer32";
+    }
+    static std::wstring LibraryKey() { return L"TypeLib\\" + shell::GuidText(LIBID_RecoveryUILib) + L"\\1.0\\0\\Win32"; }
+
+    static std::wstring Value(const std::wstring& key, const wchar_t* name = L"") {
+        wchar_t text[256] = L"";
+        DWORD size = sizeof text;
+        const LSTATUS status =
+            RegGetValueW(HKEY_CLASSES_ROOT, key.c_str(), name, RRF_RT_REG_SZ, nullptr, text, &size);
+        return status == ERROR_SUCCESS ? text : L"<none>";
+    }
+    static int Count(const std::wstring& key) {
+        DWORD count = 0, size = sizeof count;
+        const LSTATUS status =
+            RegGetValueW(HKEY_CLASSES_ROOT, key.c_str(), L"RefCount", RRF_RT_REG_DWORD, nullptr, &count, &size);
+        return status == ERROR_SUCCESS ? static_cast<int>(count) : -1;
+    }
+    // Every key below the root of the classes, but the three that belong to all.
+    static std::wstring Leftovers() {
+        std::wstring found;
+        for (const wchar_t* parent : {L"", L"CLSID", L"TypeLib", L"Interface"}) {
+            HKEY key = nullptr;
+            if (RegOpenKeyExW(HKEY_CLASSES_ROOT, parent, 0, KEY_READ, &key) != ERROR_SUCCESS) continue;
+            wchar_t name[256];
+            for (DWORD i = 0, size = 256; RegEnumKeyExW(key, i, name, &size, nullptr, nullptr, nullptr, nullptr) ==
+                                          ERROR_SUCCESS;
+                 ++i, size = 256) {
+                const std::wstring child = name;
+                if (*parent || (child != L"CLSID" && child != L"TypeLib" && child != L"Interface")) found += child + L" ";
+            }
+            RegCloseKey(key);
+        }
+        return found;
+    }
+
+    HKEY branch_ = nullptr;
+};
+
+TEST_F(RegistrationTest, EveryClassIsFoundByFileNameAndCountedUntilTheLastIsGone) {
+    ASSERT_EQ(Register(), S_OK);
+    for (const com::ClassEntry& entry : shell::Classes()) {
+        const std::wstring clsid = shell::GuidText(*entry.clsid), progId = entry.progId;
+        EXPECT_EQ(Value(L"CLSID\\" + clsid), entry.description);
+        EXPECT_EQ(Value(ServerKey(entry)), L"RecoveryUI.dll") << "no folder: found through the search path";
+        EXPECT_EQ(Value(ServerKey(entry), L"ThreadingModel"), L"Apartment");
+        EXPECT_EQ(Value(L"CLSID\\" + clsid + L"\\TypeLib"), shell::GuidText(LIBID_RecoveryUILib));
+        EXPECT_EQ(Value(L"CLSID\\" + clsid + L"\\ProgID"), progId + L".1");
+        EXPECT_EQ(Value(L"CLSID\\" + clsid + L"\\VersionIndependentProgID"), progId);
+        EXPECT_EQ(Value(progId + L"\\CurVer"), progId + L".1");
+        EXPECT_EQ(Value(progId + L"\\CLSID"), clsid);
+        EXPECT_EQ(Value(progId + L".1\\CLSID"), clsid);
+        EXPECT_EQ(Count(ServerKey(entry)), 1);
+    }
+    EXPECT_EQ(Value(LibraryKey()), L"RecoveryUI.dll");
+    EXPECT_EQ(Count(LibraryKey()), 1);
+
+    ASSERT_EQ(Register(), S_OK);
+    EXPECT_EQ(Unregister(), S_FALSE) << "another installation still needs it";
+    for (const com::ClassEntry& entry : shell::Classes()) EXPECT_EQ(Count(ServerKey(entry)), 1);
+    EXPECT_EQ(Count(LibraryKey()), 1);
+    EXPECT_EQ(Value(LibraryKey()), L"RecoveryUI.dll");
+
+    EXPECT_EQ(Unregister(), S_OK);
+    EXPECT_EQ(Leftovers(), L"");
+    EXPECT_EQ(Unregister(), E_FAIL) << "there is nothing to unregister";
+}
+
+TEST_F(RegistrationTest, MissingAndForeignCountsAreZero) {
+    ASSERT_EQ(Register(), S_OK);
+    const std::wstring server = ServerKey(shell::Classes().front());
+    RegDeleteKeyValueW(HKEY_CLASSES_ROOT, LibraryKey().c_str(), L"RefCount");
+    RegSetKeyValueW(HKEY_CLASSES_ROOT, server.c_str(), L"RefCount", REG_SZ, L"7", 4);
+    ASSERT_EQ(Register(), S_OK);
+    EXPECT_EQ(Count(server), 1);
+    EXPECT_EQ(Count(LibraryKey()), 1);
+    for (const com::ClassEntry& entry : shell::Classes())
+        RegDeleteKeyValueW(HKEY_CLASSES_ROOT, ServerKey(entry).c_str(), L"RefCount");
+    EXPECT_EQ(Unregister(), S_OK);
+    EXPECT_EQ(Leftovers(), L"");
+}
+
+TEST_F(RegistrationTest, AFailureHalfWayTakesBackWhatWasDone) {
+    // Nothing lasting can be made below a volatile key.
+    const std::wstring last = L"CLSID\\" + shell::GuidText(*shell::Classes().back().clsid);
+    HKEY volatileKey = nullptr;
+    RegCreateKeyW(HKEY_CLASSES_ROOT, L"CLSID", &volatileKey);
+    RegCloseKey(volatileKey);
+    ASSERT_EQ(RegCreateKeyExW(HKEY_CLASSES_ROOT, last.c_str(), 0, nullptr, REG_OPTION_VOLATILE, KEY_ALL_ACCESS,
+                              nullptr, &volatileKey, nullptr),
+              ERROR_SUCCESS);
+    RegCloseKey(volatileKey);
+    EXPECT_TRUE(FAILED(Register()));
+    EXPECT_EQ(Leftovers(), L"");
+    EXPECT_EQ(Register(), S_OK) << "and the way is free again";
+}
+
+TEST(RegistryScript, RefusesWhatItDoesNotUnderstand) {
+    const shell::Replacement replacements[] = {{L"NAME", L"Thing"}};
+    const auto entries = shell::ParseRegistryScript(L"A\\%NAME% = x %NAME%\r\nA\\%NAME%\\B : v = \n\nC\n", replacements);
+    ASSERT_TRUE(entries && entries->size() == 3);
+    EXPECT_EQ((*entries)[0].key, L"A\\Thing");
+    EXPECT_EQ((*entries)[0].text, L"x Thing");
+    EXPECT_EQ((*entries)[2].text, std::nullopt);
+    EXPECT_EQ(shell::OwnedKeys(*entries), (std::vector<std::wstring>{L"A\\Thing", L"C"}));
+    for (const wchar_t* bad : {L"A\\%OTHER%", L"A\\%NAME", L" = x", L"A = %"})
+        EXPECT_FALSE(shell::ParseRegistryScript(bad, replacements)) << bad;
+}
+
+}  // namespace
+}  // namespace recoveryui::test
