@@ -63,8 +63,9 @@ protected:
             for (DWORD i = 0, size = 256; RegEnumKeyExW(key, i, name, &size, nullptr, nullptr, nullptr, nullptr) ==
                                           ERROR_SUCCESS;
                  ++i, size = 256) {
-                const std::wstring child = name;
-                if (*parent || (child != L"CLSID" && child != L"TypeLib" && child != L"Interface")) found += child + L" ";
+                const bool shared = !*parent && (_wcsicmp(name, L"CLSID") == 0 || _wcsicmp(name, L"TypeLib") == 0 ||
+                                                 _wcsicmp(name, L"Interface") == 0);
+                if (!shared) found += std::wstring(name) + L" ";
             }
             RegCloseKey(key);
         }
