@@ -45,7 +45,8 @@ public:
 
     HRESULT STDMETHODCALLTYPE GetRack(IObjectRack** rack) noexcept override {
         if (!rack) return E_POINTER;
-        return rack_.CopyTo(rack);
+        rack_.CopyTo(rack);
+        return rack_ ? S_OK : E_FAIL;
     }
     HRESULT STDMETHODCALLTYPE SetRack(IObjectRack* rack) noexcept override {
         rack_ = rack;

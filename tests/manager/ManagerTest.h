@@ -158,6 +158,16 @@ protected:
         const Rows chosen = screen.Chosen(manager, IDC_MANAGER_LIST);
         return chosen.empty() ? L"" : chosen.front();
     }
+    // From the welcome page to the summary, with another name on the way.
+    static void WalkThroughWizard(UserScreen& screen, HWND wizard, const wchar_t* name) {
+        while (screen.PageTitle(wizard) != L"Name and Description") {
+            if (screen.PageTitle(wizard) == L"Recovery Operations")
+                screen.Check(wizard, IDC_OPERATION_LIST_ANOTHER, false);
+            screen.Next(wizard);
+        }
+        screen.Enter(wizard, IDC_SCEN_NAME, name);
+        screen.Next(wizard);
+    }
     // New Scenario, Edit, Properties, Copy, Paste, Delete: a capital for each that can be pressed.
     static std::wstring Toolbar(UserScreen& screen, HWND manager) {
         std::wstring states;

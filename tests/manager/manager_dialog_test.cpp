@@ -137,17 +137,6 @@ TEST_F(ManagerTest, PastingOverAnExistingNameAsksFirst) {
     });
 }
 
-// From the welcome page to the summary, with another name on the way.
-void WalkThroughWizard(UserScreen& screen, HWND wizard, const wchar_t* name) {
-    while (screen.PageTitle(wizard) != L"Name and Description") {
-        if (screen.PageTitle(wizard) == L"Recovery Operations")
-            screen.Check(wizard, IDC_OPERATION_LIST_ANOTHER, false);
-        screen.Next(wizard);
-    }
-    screen.Enter(wizard, IDC_SCEN_NAME, name);
-    screen.Next(wizard);
-}
-
 TEST_F(ManagerTest, AScenarioIsMadeRenamedTwiceAndAddedToTheTestUnderItsLastName) {
     const std::wstring file = MakeFile(L"work.trs", {L"one", L"two"});
     (*options_)[L"RecoveryScenarios"] = L"C:\\x.trs;Other;1;1*";

@@ -109,5 +109,26 @@ TEST_F(ManagerTest, FailingHostObjectsLeaveListSelectionAndFileAlone) {
     EXPECT_EQ(suspended, 0);
 }
 
+TEST_F(ManagerTest, AnEditThatCannotBeStoredLeavesTheOldScenario) {
+    const std::wstring file = MakeFile(L"work.trs", {L"one"});
+    rack_.Get()->RemoveObject(Text(L"RecordMgr").Get());  // an edit does without
+    Manage([&](UserScreen& screen, HWND manager) {
+        OpenFile(screen, manager, file);
+        for (const wchar_t* name : {L"ONE", L"two"}) {
+            screen.Choose(manager, IDC_MANAGER_LIST, L"one");
+            screen.Press(manager, IDC_MANAGER_EDIT);
+            const HWND wizard = screen.WaitForWindow(L"Recovery Scenario Wizard");
+            WalkThroughWizard(screen, wizard, name);
+            FailCall(L"RecoveryRepository", L"AddScenario");
+            screen.Finish(wizard);
+            screen.WaitUntilClosed(wizard);
+            EXPECT_EQ(Names(screen, manager), Rows{L"one"});
+            EXPECT_EQ(screen.Text(manager, IDC_MANAGER_DESCRIPTION), L"About one");
+        }
+        screen.Press(manager, IDC_MANAGER_NEW_SCENARIO);  // a new one needs the record manager
+        screen.Press(manager, IDCANCEL);                  // nothing was changed
+    });
+}
+
 }  // namespace
 }  // namespace recoveryui::test
