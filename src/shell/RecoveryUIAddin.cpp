@@ -30,6 +30,7 @@ public:
             hr = connection.Open(manager, rack.Get(), static_cast<IOleCommandTarget*>(this));
             if (FAILED(hr)) return hr;
             connection_ = std::move(connection);
+            hostRack_ = rack;
             connectedRack = rack.Get();
             return SetRack(rack.Get());
         });
@@ -82,12 +83,14 @@ private:
     }
 
     void Disconnect() noexcept {
-        if (connectedRack == Rack()) connectedRack = nullptr;
+        if (hostRack_ && connectedRack == hostRack_.Get()) connectedRack = nullptr;
+        hostRack_.Reset();
         connection_ = HostConnection();
         SetRack(nullptr);
     }
 
     HostConnection connection_;
+    com::Ptr<IObjectRack> hostRack_;  // of the connection, whatever rack the host sets later
 };
 
 }  // namespace
