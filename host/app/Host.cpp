@@ -23,6 +23,10 @@ public:
 void Run(HostServices& services, const HostOptions& options) {
     MainWindow window(services);
     services.FillRacks();
+    if (!options.settingsPath.empty()) {
+        if (const auto test = services.Find<ITestFile>(L"TestOptions"))
+            com::Check(test->SetSettingsRegistryPath(com::Bstr(options.settingsPath).Get()));
+    }
     window.Show(options.show);
     const HRESULT connected = services.ConnectAddIn();
     if (FAILED(connected))

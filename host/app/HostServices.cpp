@@ -45,18 +45,27 @@ void HostServices::FillRacks() {
             com::Check(client->SetRack(rack_.Get()));
         Put(service.name, object.Get());
     }
+    if (const auto plugins = Find<IPluginMgrControl>(L"TovPluginMgrObject"))
+        com::Check(plugins->SetFileLocator(Find<IUnknown>(L"RACK_FILE_LOCATOR").Get()));
 }
 
 void HostServices::Put(const wchar_t* name, IUnknown* object) {
     com::Check(rack_->SetObject(com::Bstr(name).Get(), object));
-    names_.emplace_back(name);
+    contents_.push_back({name, object});
+}
+
+com::Ptr<IUnknown> HostServices::FindObject(std::wstring_view name) const {
+    for (const Content& content : contents_) {
+        if (content.name == name) return content.object;
+    }
+    return {};
 }
 
 // Services hold the rack and the rack holds them: what was put in is taken out again.
 HostServices::~HostServices() {
     addIns_->DisconnectAll();
     static_cast<void>(com::Guarded([&] {
-        for (const std::wstring& name : names_) rack_->RemoveObject(com::Bstr(name).Get());
+        for (const Content& content : contents_) rack_->RemoveObject(com::Bstr(content.name).Get());
         frameRack_->RemoveObject(com::Bstr(kPages).Get());
     }));
 }

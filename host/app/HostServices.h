@@ -26,12 +26,10 @@ public:
     IObjectRack* Rack() const { return rack_.Get(); }
     AddInManager& AddIns() const { return *addIns_.Get(); }
     const SettingsPages& Pages() const { return *pages_.Get(); }
-    // An object of the rack; empty when it is not there.
+    // An object of the rack, without a line in the journal; empty when it is not there.
     template <class Interface>
     com::Ptr<Interface> Find(const wchar_t* name) const {
-        com::Ptr<IUnknown> object;
-        rack_->GetObject(com::Bstr(name).Get(), __uuidof(Interface), object.GetAddressOf());
-        return com::Query<Interface>(object.Get());
+        return com::Query<Interface>(FindObject(name).Get());
     }
 
 private:
@@ -44,7 +42,13 @@ private:
         JournalLink& operator=(const JournalLink&) = delete;
     };
 
+    struct Content {
+        std::wstring name;
+        com::Ptr<IUnknown> object;
+    };
+
     void Put(const wchar_t* name, IUnknown* object);
+    com::Ptr<IUnknown> FindObject(std::wstring_view name) const;
 
     JournalLink link_;
     com::Ptr<ICallJournal> journal_;
@@ -52,7 +56,7 @@ private:
     com::Ptr<IObjectRack> frameRack_;
     com::Ptr<AddInManager> addIns_;
     com::Ptr<SettingsPages> pages_;
-    std::vector<std::wstring> names_;
+    std::vector<Content> contents_;
 };
 
 }  // namespace tovarin

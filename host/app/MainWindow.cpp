@@ -169,7 +169,8 @@ void MainWindow::OnClose() {
 }
 
 void MainWindow::ShowTitle() {
-    SetWindowTextW(window_, FormatText(IDS_TITLE, {test_.Name()}).c_str());
+    const int format = test_.IsChanged() ? IDS_TITLE_CHANGED : IDS_TITLE;
+    SetWindowTextW(window_, FormatText(format, {test_.Name()}).c_str());
 }
 
 void MainWindow::ShowCallCount() {

@@ -45,6 +45,7 @@ void MainWindow::OnCommand(int id) {
     const auto place = static_cast<size_t>(id) - IDM_ADDIN_FIRST;
     if (id < IDM_ADDIN_FIRST || place >= menuCommands_.size()) return;
     com::Check(services_.AddIns().Execute(menuCommands_[place]));
+    ShowTitle();
 }
 
 void MainWindow::OnMenuOpen(HMENU menu) {
@@ -102,7 +103,8 @@ void MainWindow::OnJournalMenu(POINT place) {
 void MainWindow::ShowSettings() {
     SettingsFrame frame({services_.Rack(), services_.Find<ITestOptions>(L"TestOptions"),
                          services_.Pages().Classes(), test_.IsReadOnly()});
-    if (frame.ShowModal(window_)) test_.SetChanged();
+    frame.ShowModal(window_);
+    ShowTitle();
 }
 
 void MainWindow::ShowHelp() {

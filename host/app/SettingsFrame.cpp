@@ -171,9 +171,7 @@ void SettingsFrame::RefreshApply() {
 bool SettingsFrame::Apply() {
     if (setup_.readOnly) return false;
     for (size_t index = 0; index < tabs_.size(); ++index) {
-        const bool dirty = tabs_[index]->IsDirty();
         const HRESULT hr = tabs_[index]->Apply();
-        applied_ = applied_ || (dirty && SUCCEEDED(hr));
         if (SUCCEEDED(hr)) continue;
         StepTab(static_cast<int>(index) - current_);
         ShowMessage(window_, FormatText(IDS_APPLY_FAILED, {tabs_[index]->Title(), DescribeResult(hr)}));

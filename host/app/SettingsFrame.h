@@ -29,8 +29,8 @@ public:
     SettingsFrame(const SettingsFrame&) = delete;
     SettingsFrame& operator=(const SettingsFrame&) = delete;
 
-    // Until OK or Cancel. Tells whether anything was applied.
-    bool ShowModal(HWND owner);
+    // Until OK or Cancel.
+    void ShowModal(HWND owner);
 
 private:
     static INT_PTR CALLBACK Procedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam) noexcept;
@@ -62,7 +62,6 @@ private:
     int current_ = -1;
     HWND window_ = nullptr;
     bool isOpen_ = false;
-    bool applied_ = false;
 };
 
 }  // namespace tovarin

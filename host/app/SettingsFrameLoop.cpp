@@ -37,7 +37,7 @@ SettingsFrame::SettingsFrame(Setup setup)
       values_(setup_.options.Get()),
       site_(PageSite::Make(setup_.readOnly, [this] { RefreshApply(); })) {}
 
-bool SettingsFrame::ShowModal(HWND owner) {
+void SettingsFrame::ShowModal(HWND owner) {
     isOpen_ = true;
     CreateDialogParamW(com::Module::Instance(), MAKEINTRESOURCEW(IDD_SETTINGS), owner, &Procedure,
                        reinterpret_cast<LPARAM>(this));
@@ -53,7 +53,6 @@ bool SettingsFrame::ShowModal(HWND owner) {
     }
     if (window_) DestroyWindow(window_);
     if (owner) SetActiveWindow(owner);
-    return applied_;
 }
 
 void SettingsFrame::RunLoop() {
