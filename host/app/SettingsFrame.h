@@ -40,6 +40,7 @@ private:
     void OnDestroyed();
     void RunLoop();
     bool TakesKey(MSG& message);
+    bool LeavesEditBox(const MSG& message);
 
     void InitValues();
     void AddTab(IPropertyPage* page);

@@ -75,13 +75,24 @@ bool SettingsFrame::TakesKey(MSG& message) {
     if (message.message < WM_KEYFIRST || message.message > WM_KEYLAST) return false;
     if (message.hwnd != window_ && !IsChild(window_, message.hwnd)) return false;
     if (tabs_.at(static_cast<size_t>(current_))->TakesKey(message)) return true;
-    if (message.message != WM_KEYDOWN || !IsHeld(VK_CONTROL)) return false;
+    if (message.message != WM_KEYDOWN) return false;
+    if (message.wParam == VK_TAB && !IsHeld(VK_CONTROL)) return LeavesEditBox(message);
+    if (!IsHeld(VK_CONTROL)) return false;
     switch (message.wParam) {
         case VK_TAB: StepTab(IsHeld(VK_SHIFT) ? -1 : 1); return true;
         case VK_NEXT: StepTab(1); return true;
         case VK_PRIOR: StepTab(-1); return true;
         default: return false;
     }
+}
+
+// A multi-line edit box takes every key and hands Tab to its page, which would never leave itself.
+bool SettingsFrame::LeavesEditBox(const MSG& message) {
+    const LRESULT wanted =
+        SendMessageW(message.hwnd, WM_GETDLGCODE, message.wParam, reinterpret_cast<LPARAM>(&message));
+    if ((wanted & (DLGC_WANTALLKEYS | DLGC_HASSETSEL)) != (DLGC_WANTALLKEYS | DLGC_HASSETSEL)) return false;
+    SendMessageW(window_, WM_NEXTDLGCTL, IsHeld(VK_SHIFT), FALSE);
+    return true;
 }
 
 INT_PTR CALLBACK SettingsFrame::Procedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam) noexcept {
