@@ -206,7 +206,7 @@ void SettingsFrame::ShowHelp() {
 // A page that has put itself in front of the frame window may have let go of the settings already.
 void SettingsFrame::OnDestroyed() {
     com::Ptr<ITestOptions> options;
-    options.Attach(static_cast<ITestOptions*>(RemovePropW(window_, kSettingsProperty)));
+    *options.GetAddressOf() = static_cast<ITestOptions*>(RemovePropW(window_, kSettingsProperty));
     if (options) FrameValues(options.Get()).Set(kAlreadyInit, false);
     window_ = nullptr;
 }

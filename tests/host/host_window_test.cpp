@@ -1,0 +1,185 @@
+// The reference host as its user meets it.
+#include <windows.h>
+
+#include <commctrl.h>
+
+#include <algorithm>
+
+#include "app/Host.h"
+#include "app/OpenTest.h"
+#include "app/ids.h"
+#include "com/Variant.h"
+#include "harness/ComTest.h"
+#include "harness/ProcessWindows.h"
+#include "host/temp_folder.h"
+
+namespace recoveryui::test {
+namespace {
+
+constexpr int kJournal = 100, kStatus = 101;
+constexpr const wchar_t* kSettingsPath = L"Software\\Tovarin\\HostTest";
+
+class HostTest : public ComTest {
+protected:
+    ~HostTest() override { RegDeleteTreeW(HKEY_CURRENT_USER, kSettingsPath); }
+
+    tovarin::TempFolder folder;
+};
+
+void Command(UserScreen& screen, HWND window, int id) {
+    screen.Do([=] { PostMessageW(window, WM_COMMAND, static_cast<WPARAM>(id), 0); });
+}
+
+std::wstring StatusText(UserScreen& screen, HWND window, int part) {
+    wchar_t text[300] = L"";
+    screen.Ask(screen.Control(window, kStatus), SB_GETTEXTW, static_cast<WPARAM>(part),
+               reinterpret_cast<LPARAM>(text));
+    return text;
+}
+
+std::wstring ClipboardText() {
+    std::wstring text;
+    if (!OpenClipboard(nullptr)) return text;
+    if (const HANDLE data = GetClipboardData(CF_UNICODETEXT)) {
+        text = static_cast<const wchar_t*>(GlobalLock(data));
+        GlobalUnlock(data);
+    }
+    CloseClipboard();
+    return text;
+}
+
+TEST_F(HostTest, TheManagerComesIntoTheMenuWithTheAddInAndGoesWithIt) {
+    tovarin::HostOptions options;
+    options.settingsPath = kSettingsPath;
+    User user([](UserScreen& screen) {
+        const HWND window = screen.WaitForWindow(L"Untitled - Tovarin", tovarin::kMainWindowClass);
+        EXPECT_EQ(StatusText(screen, window, 0), L"For help, press F1");
+        screen.Mnemonic(L'r');
+        EXPECT_EQ(screen.MenuItems(), Rows{L"Recovery Scenario &Manager..."});
+        screen.Ask(window, WM_MENUSELECT, MAKEWPARAM(IDM_ADDIN_FIRST, MF_HILITE),
+                   reinterpret_cast<LPARAM>(GetSubMenu(GetMenu(window), 1)));
+        EXPECT_EQ(StatusText(screen, window, 0),
+                  L"Displays the Recovery Scenario Manager dialog box");
+        screen.Picture(window, L"host-menu");
+        screen.ChooseMenu(L"Recovery Scenario &Manager...");
+        const HWND manager = screen.WaitForWindow(L"Recovery Scenario Manager");
+        EXPECT_FALSE(IsWindowEnabled(window));
+        screen.Close(manager);
+        screen.WaitUntilClosed(manager);
+        screen.Close(window);
+    });
+    EXPECT_EQ(tovarin::RunHost(options), 0);
+    EXPECT_NE(Calls().find(L"AddInManager.UnregisterCommand(1) -> S_OK"), std::wstring::npos);
+}
+
+TEST_F(HostTest, WithoutTheAddInTheUserIsToldAndTheMenuSaysSo) {
+    FailCall(L"AddInManager", L"RegisterCommand", E_ACCESSDENIED);
+    User user([](UserScreen& screen) {
+        EXPECT_EQ(screen.AnswerBox(IDOK),
+                  L"The add-in Vantrel.RecoveryUIAddin could not be connected (E_ACCESSDENIED).");
+        const HWND window = screen.WaitForWindow(nullptr, tovarin::kMainWindowClass);
+        screen.Mnemonic(L'r');
+        EXPECT_EQ(screen.MenuItems(), Rows{L"[(No add-in is connected)]"});
+        screen.ChooseMenu(L"");
+        screen.Close(window);
+    });
+    EXPECT_EQ(tovarin::RunHost({}), 0);
+}
+
+TEST_F(HostTest, TheJournalIsShownCopiedAndWrittenToAFile) {
+    tovarin::HostOptions options;
+    options.journalFile = folder / L"journal.txt";
+    User user([](UserScreen& screen) {
+        const HWND window = screen.WaitForWindow(nullptr, tovarin::kMainWindowClass);
+        const HWND list = screen.Control(window, kJournal);
+        const auto count = static_cast<size_t>(screen.Ask(list, LVM_GETITEMCOUNT));
+        EXPECT_GT(count, 5u);
+        EXPECT_EQ(StatusText(screen, window, 1), std::to_wstring(count) + L" calls");
+        Command(screen, window, IDM_JOURNAL_SELECT_ALL);
+        Command(screen, window, IDM_JOURNAL_COPY);
+        const std::wstring text = ClipboardText();
+        EXPECT_NE(text.find(L"\tAddInManager\tGetRack\t\tS_OK: ObjectRack\r\n"), std::wstring::npos)
+            << Utf8(text);
+        EXPECT_EQ(static_cast<size_t>(std::count(text.begin(), text.end(), L'\n')), count);
+        screen.Picture(window, L"host-journal");
+        Command(screen, window, IDM_JOURNAL_CLEAR);
+        EXPECT_EQ(screen.Ask(list, LVM_GETITEMCOUNT), 0);
+        screen.Close(window);
+    });
+    EXPECT_EQ(tovarin::RunHost(options), 0);
+    EXPECT_NE(
+        tovarin::TempFolder::Read(options.journalFile).find("AddInManager.UnregisterCommand(1) -> S_OK\n"),
+        std::string::npos);
+}
+
+TEST_F(HostTest, AChangedTestIsLeftOnlyWithTheUsersConsent) {
+    tovarin::HostServices services;
+    services.FillRacks();
+    services.Find<ITestFile>(L"TestOptions")->SetSettingsRegistryPath(com::Bstr(kSettingsPath).Get());
+    tovarin::OpenTest test(services);
+    const auto change = [&](long value) {
+        services.Find<ITestOptions>(L"TestOptions")
+            ->SetOptionValue(nullptr, com::Bstr(L"Enabled").Get(), com::Variant(value).Get(), 0, 1, 0, 3, 0);
+    };
+    const std::wstring path = folder / L"Basket.tvt";
+    test.New(nullptr);
+    EXPECT_TRUE(test.MayLeave(nullptr));
+    change(1);
+    {
+        User user([](UserScreen& screen) {
+            EXPECT_EQ(screen.AnswerBox(IDCANCEL), L"Save the changes to Untitled?");
+        });
+        EXPECT_FALSE(test.MayLeave(nullptr));
+    }
+    {
+        User user([&](UserScreen& screen) {
+            screen.AnswerBox(IDYES);
+            const HWND dialog = screen.WaitForWindow(nullptr);
+            screen.Enter(dialog, 0x480, path);
+            screen.Press(dialog, IDOK);
+        });
+        EXPECT_TRUE(test.MayLeave(nullptr));
+    }
+    EXPECT_EQ(test.Name(), L"Basket.tvt");
+    EXPECT_FALSE(test.IsChanged());
+    const std::string saved = tovarin::TempFolder::Read(path);
+    EXPECT_NE(saved.find("Enabled"), std::string::npos);
+
+    change(0);
+    {
+        User user([](UserScreen& screen) {
+            EXPECT_EQ(screen.AnswerBox(IDNO), L"Save the changes to Basket.tvt?");
+        });
+        test.New(nullptr);
+    }
+    EXPECT_EQ(test.Name(), L"Untitled");
+    EXPECT_EQ(tovarin::TempFolder::Read(path), saved);
+
+    SetFileAttributesW(path.c_str(), FILE_ATTRIBUTE_READONLY);
+    test.OpenFile(nullptr, path);
+    EXPECT_TRUE(test.IsReadOnly());
+    const std::wstring missing = folder / L"Missing.tvt";
+    {
+        User user([&](UserScreen& screen) {
+            EXPECT_EQ(screen.AnswerBox(IDOK),
+                      L"The test " + missing + L" could not be opened (STG_E_FILENOTFOUND).");
+        });
+        test.OpenFile(nullptr, missing);
+    }
+    EXPECT_EQ(test.Name(), L"Basket.tvt");
+}
+
+TEST_F(HostTest, HelpTopicsAreFilesOfTheHelpFolderOnly) {
+    tovarin::HostServices services;
+    services.FillRacks();
+    const auto viewer = services.Find<IHelpViewer>(L"HelpViewer");
+    for (const wchar_t* const topic : {L"", L"..\\TovarinHost.exe", L"C:x.htm", L"a/b.htm"})
+        EXPECT_EQ(viewer->ShowTopic(0, com::Bstr(topic).Get()), E_INVALIDARG) << Utf8(topic);
+    User user([](UserScreen& screen) {
+        EXPECT_EQ(screen.AnswerBox(IDOK), L"The help topic Nobody.htm is not there.");
+    });
+    EXPECT_EQ(viewer->ShowTopic(0, com::Bstr(L"Nobody.htm").Get()), S_OK);
+}
+
+}  // namespace
+}  // namespace recoveryui::test
