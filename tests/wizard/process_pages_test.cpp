@@ -125,6 +125,13 @@ TEST_F(ProcessPagesTest, NamesAreTakenFromTheRunningOnesAndTypedUntilTheyAreRigh
             TypeNew(screen, wizard, L"only.exe");
             screen.Press(wizard, IDC_PROCESSES_REMOVE);
             EXPECT_FALSE(CanGoOn(screen, wizard));
+            // A refused name is given up with the page.
+            screen.Press(wizard, IDC_PROCESSES_NEW);
+            screen.Type(L"x?");
+            screen.Back(wizard);
+            EXPECT_EQ(screen.PageTitle(wizard), L"Recovery Operation");
+            screen.Next(wizard);
+            EXPECT_EQ(Chosen(screen, wizard), Rows{});
             screen.Cancel(wizard);
         }),
         S_FALSE);
