@@ -46,7 +46,9 @@ std::optional<model::TriggerKind> WizardPPBase::KindOfTrigger() const {
 
 void WizardPPBase::SetCanAdvance(bool canAdvance) {
     canAdvance_ = canAdvance;
-    UpdateWizardButtons();
+    // A page that was left still gets messages; the buttons are another page's by then.
+    const LRESULT current = SendMessageW(Sheet(), PSM_GETCURRENTPAGEHWND, 0, 0);
+    if (current == reinterpret_cast<LRESULT>(Window())) UpdateWizardButtons();
 }
 
 // Posted, so that it takes effect after the message that is being handled.
