@@ -3,6 +3,7 @@
 #include "com/Object.h"
 #include "com/SafeArray.h"
 #include "harness/ComTest.h"
+#include "harness/ProcessorTime.h"
 #include "host/store_samples.h"
 #include "host/temp_folder.h"
 #include "objects/services/NamedMembers.h"
@@ -11,6 +12,7 @@ namespace tovarin {
 namespace {
 namespace com = recoveryui::com;
 using com::Bstr;
+using recoveryui::test::ProcessorMilliseconds;
 
 class RepositoryTest : public recoveryui::test::ComTest {
 protected:
@@ -251,13 +253,6 @@ TEST_F(RepositoryTest, AForeignTestObjectIsStoredAndAnEndlessChainOfParentsEnds)
     const auto& objects = std::get<store::ObjectStateTrigger>(read[0].scenario.trigger).objects;
     const store::TestObject expected{L"Foreign", {{L"p", {store::ValueType::Text, 0, 0, L"v"}, 0, 1}}};
     EXPECT_EQ(store::Hierarchy(256, expected), objects);
-}
-
-// What this process has worked; other programs on the machine do not count.
-ULONGLONG ProcessorMilliseconds() {
-    FILETIME created, exited, kernel, user;
-    if (!GetProcessTimes(GetCurrentProcess(), &created, &exited, &kernel, &user)) return 0;
-    return ((ULONGLONG{user.dwHighDateTime} << 32 | user.dwLowDateTime) + kernel.dwLowDateTime) / 10'000;
 }
 
 TEST_F(RepositoryTest, AHundredThousandScenariosAreReadAndWrittenInSeconds) {
