@@ -5,6 +5,7 @@
 
 #include <filesystem>
 #include <fstream>
+#include <sstream>
 
 #include "harness/ProcessorTime.h"
 #include "wizard/WizardTest.h"
@@ -106,7 +107,7 @@ TEST_F(FunctionPageTest, AFunctionOfTheLibraryIsChosen) {
               S_FALSE);
 }
 
-TEST_F(FunctionPageTest, ANewFunctionTakesItsNameAndKeepsItToItself) {
+TEST_F(FunctionPageTest, ANewFunctionTakesItsNameForItselfAndReachesTheLibraryAtFinish) {
     const std::wstring ending = L"(Object)\r\n\r\nEnd Function\r\n";
     EXPECT_EQ(Run([&](UserScreen& screen, HWND wizard) {
                   OpenPage(screen, wizard);
@@ -148,9 +149,18 @@ TEST_F(FunctionPageTest, ANewFunctionTakesItsNameAndKeepsItToItself) {
                   screen.Enter(wizard, IDC_FUNC_NAME, L"FIX");
                   screen.Next(wizard);
                   EXPECT_EQ(screen.AnswerBox(IDOK), L"Function name is invalid or already exists.");
-                  screen.Cancel(wizard);
+                  screen.Back(wizard);
+                  screen.Back(wizard);
+                  screen.Check(wizard, IDC_OPERATION_LIST_ANOTHER, false);
+                  NextUntil(screen, wizard, L"Name and Description");
+                  screen.Enter(wizard, IDC_SCEN_NAME, L"scenario");
+                  screen.Next(wizard);
+                  screen.Finish(wizard);
               }),
-              S_FALSE);
+              S_OK);
+    std::ostringstream library;
+    library << std::ifstream(folder_ / L"lib.vbs", std::ios::binary).rdbuf();
+    EXPECT_EQ(library.str(), std::string(kLibrary) + "\r\nFunction Fix(Object)\r\n\r\nEnd Function");
 }
 
 TEST_F(FunctionPageTest, ALibraryIsLoadedOnLeavingItsBoxAndRefusedWithAReason) {
