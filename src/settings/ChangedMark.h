@@ -5,9 +5,8 @@
 
 namespace recoveryui::settings {
 
-// What marking the page does, in this order.
+// What marking the page does once `g_bDirty` has been written, in this order.
 struct ChangedMark {
-    std::int32_t dirty;                      // write `g_bDirty`
     bool disableApplyAndOk;                  // in the frame
     std::optional<std::int32_t> allowApply;  // write `g_bAllowApply`
 
@@ -16,8 +15,7 @@ struct ChangedMark {
 
 // `siteSaysReadOnly` is the page site's yes/no answer; a missing site says no.
 inline ChangedMark MarkPage(bool changed, bool siteSaysReadOnly, bool windowExists) {
-    return {changed ? 1 : 0, siteSaysReadOnly && windowExists,
-            changed ? std::optional<std::int32_t>(0) : std::nullopt};
+    return {siteSaysReadOnly && windowExists, changed ? std::optional<std::int32_t>(0) : std::nullopt};
 }
 
 }  // namespace recoveryui::settings

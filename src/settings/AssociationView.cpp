@@ -1,0 +1,161 @@
+#include "settings/AssociationView.h"
+
+#include <algorithm>
+
+#include "resources/ids.h"
+#include "settings/CheckImages.h"
+#include "support/Text.h"
+#include "ui/Picture.h"
+#include "ui/Strings.h"
+
+namespace recoveryui::settings {
+namespace {
+
+constexpr UINT_PTR kSubclassId = 1;
+constexpr int kIconSize = 16;       // at 96 DPI
+constexpr int kPicturesWidth = 50;  // at 96 DPI: check box, icon and what stands between
+constexpr int kMeasuredNames = 200;
+// By trigger kind; the last one is kIconUnreadable.
+constexpr int kIcons[] = {IDI_TRIGGER_OBJECT_STATE, IDI_TRIGGER_POPUP, IDI_TRIGGER_ERROR, IDI_TRIGGER_CRASH,
+                          IDI_SCENARIO_UNREADABLE};
+enum Column { kNameColumn, kFileColumn };
+enum StateImage : UINT { kUnchecked = 1, kChecked = 2 };
+
+HIMAGELIST MakeIcons(HWND window) {
+    const int size = ui::ScaleForWindow(window, kIconSize);
+    const HIMAGELIST images = ImageList_Create(size, size, ILC_COLOR32 | ILC_MASK, std::size(kIcons), 0);
+    for (const int id : kIcons) {
+        const ui::Icon icon = ui::LoadIconOfSize(id, size);
+        ImageList_AddIcon(images, icon.Get());
+    }
+    return images;
+}
+
+// The command for a key of the list, 0 for none.
+int CommandOf(UINT message, WPARAM key) noexcept {
+    const bool alt = message == WM_SYSKEYDOWN;
+    if (message != WM_KEYDOWN && !alt) return 0;
+    switch (key) {
+        case VK_UP: return alt ? IDC_RECOVERY_UP : 0;
+        case VK_DOWN: return alt ? IDC_RECOVERY_DOWN : 0;
+        case VK_DELETE: return alt ? 0 : IDC_RECOVERY_REMOVE;
+        case VK_SPACE: return alt ? 0 : IDC_RECOVERY_TOGGLE;
+        default: return 0;
+    }
+}
+
+}  // namespace
+
+void AssociationView::Attach(HWND window) {
+    view_ = ui::ListView(window);
+    view_.SetExtendedStyle(LVS_EX_FULLROWSELECT | LVS_EX_DOUBLEBUFFER | LVS_EX_LABELTIP);
+    view_.AddColumn(ui::LoadText(IDS_COLUMN_SCENARIO));
+    view_.AddColumn(ui::LoadText(IDS_COLUMN_FILE));
+    ListView_SetImageList(window, MakeIcons(window), LVSIL_SMALL);  // the view destroys it
+    MakeCheckImages();
+    ListView_SetCallbackMask(window, LVIS_STATEIMAGEMASK);
+    SetWindowSubclass(window, &AssociationView::KeyProcedure, kSubclassId, 0);
+}
+
+void AssociationView::MakeCheckImages() const {
+    ImageList_Destroy(ListView_SetImageList(view_.Window(), CheckImages(view_.Window()), LVSIL_STATE));
+}
+
+void AssociationView::Refill() const {
+    view_.ClearSelection();
+    ListView_SetItemCountEx(view_.Window(), list_.Size(), LVSICF_NOSCROLL);
+    InvalidateRect(view_.Window(), nullptr, TRUE);
+}
+
+// A virtual list measures neither all of its rows nor their pictures by itself.
+void AssociationView::FitColumns() const {
+    view_.FitColumnToHeader(kNameColumn);
+    RECT client{};
+    GetClientRect(view_.Window(), &client);
+    const int pictures = ui::ScaleForWindow(view_.Window(), kPicturesWidth);
+    const int wanted =
+        std::max(ListView_GetColumnWidth(view_.Window(), kNameColumn), LongestName() + pictures);
+    ListView_SetColumnWidth(view_.Window(), kNameColumn, std::min<int>(wanted, client.right * 2 / 3));
+    view_.FitColumnToHeader(kFileColumn);
+}
+
+int AssociationView::LongestName() const {
+    size_t most = 0;
+    for (const ScenarioAssociation& item : list_.Items()) most = std::max(most, item.name.size());
+    int widest = ListView_GetStringWidth(view_.Window(), ui::LoadText(IDS_COLUMN_SCENARIO).c_str());
+    int left = kMeasuredNames;
+    for (const ScenarioAssociation& item : list_.Items()) {
+        // Names with fewer letters are hardly ever wider.
+        if (item.name.size() * 4 < most * 3) continue;
+        widest = std::max(widest, ListView_GetStringWidth(view_.Window(), item.name.c_str()));
+        if (--left == 0) break;
+    }
+    return widest;
+}
+
+int AssociationView::Selected() const {
+    const int row = view_.Selected();
+    return list_.Has(row) ? row : kNoRow;
+}
+
+int AssociationView::IconOf(int row) const {
+    return list_.Has(row) ? looks_.Of(list_.Items()[row], list_).icon : kIconUnreadable;
+}
+
+bool AssociationView::OnNotify(NMHDR& header, LRESULT& answer) const {
+    switch (header.code) {
+        case LVN_GETDISPINFOW: Show(reinterpret_cast<NMLVDISPINFOW&>(header).item); return true;
+        case LVN_ODFINDITEMW: answer = Find(reinterpret_cast<const NMLVFINDITEMW&>(header)); return true;
+        default: return false;
+    }
+}
+
+void AssociationView::Show(LVITEMW& item) const {
+    if (!list_.Has(item.iItem)) return;
+    const ScenarioAssociation& shown = list_.Items()[item.iItem];
+    if (item.mask & LVIF_TEXT) {
+        const std::wstring& text = item.iSubItem == kFileColumn ? shown.file : shown.name;
+        item.pszText = const_cast<LPWSTR>(text.c_str());
+    }
+    if (item.mask & LVIF_STATE) {
+        item.state = INDEXTOSTATEIMAGEMASK(shown.enabled ? kChecked : kUnchecked);
+        item.stateMask = LVIS_STATEIMAGEMASK;
+    }
+    if (item.mask & LVIF_IMAGE) item.iImage = looks_.Of(shown, list_).icon;
+}
+
+int AssociationView::Find(const NMLVFINDITEMW& request) const {
+    const UINT flags = request.lvfi.flags;
+    if (!(flags & (LVFI_STRING | LVFI_PARTIAL)) || !request.lvfi.psz) return -1;
+    const std::wstring_view text = request.lvfi.psz;
+    const int count = list_.Size(), start = list_.Has(request.iStart) ? request.iStart : 0;
+    for (int step = 0; step < count; ++step) {
+        const int row = (start + step) % count;
+        if (row < start && !(flags & LVFI_WRAP)) break;
+        std::wstring_view name = list_.Items()[row].name;
+        if (flags & LVFI_PARTIAL) name = name.substr(0, text.size());
+        if (support::EqualIgnoringCase(name, text)) return row;
+    }
+    return -1;
+}
+
+int AssociationView::ClickedCheckBox(const NMITEMACTIVATE& click) const {
+    LVHITTESTINFO hit{};
+    hit.pt = click.ptAction;
+    ListView_SubItemHitTest(view_.Window(), &hit);
+    return hit.flags == LVHT_ONITEMSTATEICON && list_.Has(hit.iItem) ? hit.iItem : kNoRow;
+}
+
+LRESULT CALLBACK AssociationView::KeyProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam,
+                                               UINT_PTR id, DWORD_PTR) noexcept {
+    if (message == WM_NCDESTROY) RemoveWindowSubclass(window, &AssociationView::KeyProcedure, id);
+    if (const int command = CommandOf(message, wParam)) {
+        SendMessageW(GetParent(window), WM_COMMAND, static_cast<WPARAM>(command), 0);
+        return 0;
+    }
+    // The blank has done its work; it is not looked for.
+    if (message == WM_CHAR && wParam == L' ') return 0;
+    return DefSubclassProc(window, message, wParam, lParam);
+}
+
+}  // namespace recoveryui::settings

@@ -1,0 +1,31 @@
+#include "settings/ScenarioLooks.h"
+
+#include "model/Repository.h"
+#include "model/ScenarioReading.h"
+
+namespace recoveryui::settings {
+
+const ScenarioLook& ScenarioLooks::Of(const ScenarioAssociation& shown, const AssociationList& all) {
+    static const ScenarioLook kUnreadable;
+    const auto known = files_.try_emplace(shown.file);
+    File& file = known.first->second;
+    if (known.second) Read(shown.file, all, file);
+    const auto look = file.find(shown.name);
+    return look == file.end() ? kUnreadable : look->second;
+}
+
+void ScenarioLooks::Read(const std::wstring& path, const AssociationList& all, File& file) const {
+    model::Repository repository;
+    if (FAILED(model::Repository::Create(rack_.Get(), repository)) || FAILED(repository.Load(path, true)))
+        return;
+    for (const ScenarioAssociation& item : all.Items()) {
+        com::Ptr<IUnknown> scenario;
+        if (item.file != path || file.contains(item.name) || FAILED(repository.Scenario(item.name, scenario)))
+            continue;
+        const auto kind = model::TriggerKindOf(scenario.Get());
+        file[item.name] = {kind ? static_cast<int>(*kind) : kIconUnreadable,
+                           model::DescriptionOf(scenario.Get())};
+    }
+}
+
+}  // namespace recoveryui::settings
