@@ -105,10 +105,10 @@ TEST(RecoveryTab, ButtonsFollowTheSelectedRow) {
 }
 
 TEST(RecoveryTab, MarkingTellsTheFrame) {
-    EXPECT_EQ(MarkPage(true, false, true), (ChangedMark{1, false, 0}));
-    EXPECT_EQ(MarkPage(true, true, true), (ChangedMark{1, true, 0}));
-    EXPECT_EQ(MarkPage(true, true, false), (ChangedMark{1, false, 0}));
-    EXPECT_EQ(MarkPage(false, true, true), (ChangedMark{0, true, std::nullopt}));
+    EXPECT_EQ(MarkPage(true, false, true), (ChangedMark{false, 0}));
+    EXPECT_EQ(MarkPage(true, true, true), (ChangedMark{true, 0}));
+    EXPECT_EQ(MarkPage(true, true, false), (ChangedMark{false, 0}));
+    EXPECT_EQ(MarkPage(false, true, true), (ChangedMark{true, std::nullopt}));
 }
 
 TEST(AddDialog, IsReadyOnceAFileShowsScenarios) {

@@ -1,0 +1,164 @@
+// The Add Recovery Scenario dialog as its user meets it.
+#include <windows.h>
+
+#include <commctrl.h>
+
+#include "com/SafeArray.h"
+#include "settings/SettingsTest.h"
+
+namespace recoveryui::test {
+namespace {
+
+class AddDialogTest : public SettingsTest {
+protected:
+    static constexpr int kList = IDC_ADD_SCENARIO_LIST;
+    AddDialogTest() : dialog_(New<IRecoveryAddDlg>(L"Vantrel.RecoveryAddDlg")) {
+        rack_.GiveTo(dialog_.Get());
+    }
+
+    HRESULT Run(std::function<void(UserScreen&, HWND dialog)> script) {
+        User user([&](UserScreen& screen) {
+            const HWND window = screen.WaitForWindow(L"Add Recovery Scenario");
+            script(screen, window);
+            if (IsWindow(window)) screen.Press(window, IDCANCEL);
+        });
+        return dialog_->DoModal();
+    }
+    // "file: name, name", as the caller of the dialog finds it.
+    std::wstring Result() {
+        com::Bstr file;
+        com::Variant names;
+        EXPECT_EQ(dialog_->get_FilePath(file.Put()), S_OK);
+        EXPECT_EQ(dialog_->get_ScenariosNames(names.Put()), S_OK);
+        EXPECT_EQ(names.Type(), VT_ARRAY | VT_BSTR);
+        com::CVtlSafeArray<BSTR> array(names.Detach().parray);
+        EXPECT_EQ(array.LowerBound(), 0);
+        std::wstring text = file.Text() + L":";
+        for (LONG i = 0; i < static_cast<LONG>(array.Count()); ++i) {
+            com::Bstr name;
+            EXPECT_EQ(array.GetElement(i, &name), S_OK);
+            text += (i ? L", " : L" ") + name.Text();
+        }
+        return text;
+    }
+
+    com::Ptr<IRecoveryAddDlg> dialog_;
+};
+
+TEST_F(AddDialogTest, ThreeRowsAreGivenInTheOrderOfTheSortedList) {
+    const std::wstring file =
+        MakeFile(L"f.trs", {{L"delta"}, {L"Charlie"}, {L"alpha"}, {L"Bravo"}, {L"echo"}});
+    EXPECT_EQ(Run([&](UserScreen& screen, HWND dialog) {
+                  EXPECT_FALSE(screen.IsEnabled(dialog, IDOK));
+                  EXPECT_EQ(screen.Tip(dialog, IDC_ADD_SCENARIO_BROWSE), L"Browse");
+                  EnterFile(screen, dialog, L"f.trs");  // found in the test's folder
+                  EXPECT_EQ(screen.RowsOf(dialog, kList),
+                            (Rows{L"alpha", L"Bravo", L"Charlie", L"delta", L"echo"}));
+                  EXPECT_EQ(screen.Chosen(dialog, kList), Rows{L"alpha"});
+                  EXPECT_EQ(screen.FocusId(), kList);
+                  screen.Picture(dialog, L"add-dialog");
+                  screen.Do([=] { ListView_SetItemState(GetDlgItem(dialog, kList), -1, 0, LVIS_SELECTED); });
+                  screen.Press(dialog, IDOK);  // nothing is selected: nothing happens
+                  SelectNames(screen, dialog, {L"echo", L"Bravo", L"delta"});
+                  screen.Press(dialog, IDOK);
+              }),
+              S_OK);
+    EXPECT_EQ(Result(), L"f.trs: Bravo, delta, echo");
+    EXPECT_EQ(Run([&](UserScreen& screen, HWND dialog) {
+                  EnterFile(screen, dialog, file);
+                  screen.DoubleClick(dialog, kList, L"Charlie");
+              }),
+              S_OK);
+    EXPECT_EQ(Result(), file + L": Charlie");
+    EXPECT_EQ(Run([](UserScreen&, HWND) {}), S_FALSE);
+    EXPECT_EQ(Result(), file + L": Charlie");
+}
+
+TEST_F(AddDialogTest, AFileThatCannotBeOpenedLeavesTheListAndTakesTheButton) {
+    MakeFile(L"f.trs", {{L"A"}});
+    MakeFile(L"empty.trs", {});
+    EXPECT_EQ(Result(), L":");
+    EXPECT_EQ(Run([&](UserScreen& screen, HWND dialog) {
+                  EnterFile(screen, dialog, L"");
+                  EnterFile(screen, dialog, L"f.trs");
+                  EXPECT_TRUE(screen.IsEnabled(dialog, IDOK));
+                  EnterFile(screen, dialog, L"C:\\no\\such.trs");
+                  EXPECT_EQ(screen.AnswerBox(IDOK), L"C:\\no\\such.trs\nFilename or path not found.");
+                  EXPECT_EQ(screen.RowsOf(dialog, kList), Rows{L"A"});
+                  EXPECT_FALSE(screen.IsEnabled(dialog, IDOK));
+                  EnterFile(screen, dialog, L"f.trs");
+                  EnterFile(screen, dialog, L"empty.trs");
+                  EXPECT_EQ(screen.RowsOf(dialog, kList), Rows{});
+                  EXPECT_FALSE(screen.IsEnabled(dialog, IDOK));
+                  // Going on to the list means the file that was typed.
+                  screen.Enter(dialog, 1001, L"f.trs");
+                  screen.Do([=] { SetFocus(GetDlgItem(dialog, kList)); });
+                  EXPECT_EQ(screen.RowsOf(dialog, kList), Rows{L"A"});
+                  // Cancelling does not.
+                  screen.Enter(dialog, 1001, L"nowhere.trs");
+                  screen.Do([=] { SetFocus(GetDlgItem(dialog, IDCANCEL)); });
+              }),
+              S_FALSE);
+    EXPECT_EQ(Result(), L":");
+}
+
+TEST_F(AddDialogTest, ACancelledDialogRemembersFourFiles) {
+    Rows files;
+    for (const wchar_t* name : {L"1.trs", L"2.trs", L"3.trs", L"4.trs", L"5.trs"})
+        files.push_back(MakeFile(name, {{name}}));
+    const int combo = IDC_ADD_SCENARIO_FILE;
+    Run([&](UserScreen& screen, HWND dialog) {
+        EXPECT_EQ(screen.RowsOf(dialog, combo), Rows{});
+        for (const std::wstring& file : files) EnterFile(screen, dialog, file);
+    });
+    Run([&](UserScreen& screen, HWND dialog) {
+        EXPECT_EQ(screen.RowsOf(dialog, combo), (Rows{files[4], files[3], files[2], files[1]}));
+        screen.Choose(dialog, combo, files[2]);
+        EXPECT_EQ(screen.RowsOf(dialog, kList), Rows{L"3.trs"});
+        EXPECT_EQ(screen.Text(dialog, combo), files[2]);
+    });
+    Run([&](UserScreen& screen, HWND dialog) {
+        EXPECT_EQ(screen.RowsOf(dialog, combo), (Rows{files[2], files[4], files[3], files[1]}));
+    });
+}
+
+TEST_F(AddDialogTest, AFileIsBrowsedFor) {
+    const std::wstring file = MakeFile(L"f.trs", {{L"A"}});
+    ForgetCalls();
+    Run([&](UserScreen& screen, HWND dialog) {
+        screen.Press(dialog, IDC_ADD_SCENARIO_BROWSE);
+        screen.Close(screen.WaitForWindow(L"Open Recovery File"));
+        screen.Press(dialog, IDC_ADD_SCENARIO_BROWSE);
+        const HWND browser = screen.WaitForWindow(L"Open Recovery File");
+        HWND edit = GetDlgItem(browser, 0x47C);
+        for (const wchar_t* inside : {L"ComboBox", L"Edit"})
+            edit = FindWindowExW(edit, nullptr, inside, nullptr);
+        screen.Do([=] { SetWindowTextW(edit, file.c_str()); });
+        // A list inside has the button's number, too.
+        screen.Do([=] { PostMessageW(GetDlgItem(browser, IDOK), BM_CLICK, 0, 0); });
+        screen.WaitUntilClosed(browser);
+        EXPECT_EQ(screen.Text(dialog, IDC_ADD_SCENARIO_FILE), file);
+        EXPECT_EQ(screen.RowsOf(dialog, kList), Rows{L"A"});
+    });
+    EXPECT_NE(Calls().find(L"Scenario Files (*.trs)|*.trs|All Files (*.*)|*.*||"), std::wstring::npos);
+}
+
+TEST_F(AddDialogTest, NeedsARackAndWorksWithAnEmptyOne) {
+    const auto alone = New<IRecoveryDlg>(L"Vantrel.RecoveryAddDlg");
+    EXPECT_EQ(alone->DoModal(), E_FAIL);
+    EXPECT_EQ(dialog_->get_FilePath(nullptr), E_POINTER);
+    EXPECT_EQ(dialog_->get_ScenariosNames(nullptr), E_POINTER);
+    const std::wstring file = MakeFile(L"f.trs", {{L"A"}});
+    Rack().GiveTo(dialog_.Get());
+    EXPECT_EQ(Run([&](UserScreen& screen, HWND dialog) {
+                  EnterFile(screen, dialog, file);
+                  EnterFile(screen, dialog, file);
+                  EXPECT_EQ(screen.RowsOf(dialog, IDC_ADD_SCENARIO_FILE), Rows{file});
+                  screen.Press(dialog, IDOK);
+              }),
+              S_OK);
+    EXPECT_EQ(Result(), file + L": A");
+}
+
+}  // namespace
+}  // namespace recoveryui::test
