@@ -4,6 +4,8 @@
 
 #include <commctrl.h>
 
+#include <optional>
+
 #include "app/HostServices.h"
 #include "app/MainWindow.h"
 #include "app/Text.h"
@@ -28,15 +30,12 @@ void Run(HostServices& services, const HostOptions& options) {
             com::Check(test->SetSettingsRegistryPath(com::Bstr(options.settingsPath).Get()));
     }
     window.Show(options.show);
+    window.Test().New(window.Window());
+    if (!options.testFile.empty()) window.Test().OpenFile(window.Window(), options.testFile);
     const HRESULT connected = services.ConnectAddIn();
     if (FAILED(connected))
         ShowMessage(window.Window(),
                     FormatText(IDS_ADDIN_FAILED, {HostServices::kAddIn, DescribeResult(connected)}));
-    if (options.testFile.empty()) {
-        window.Test().New(window.Window());
-    } else {
-        window.Test().OpenFile(window.Window(), options.testFile);
-    }
     window.Run();
     services.AddIns().DisconnectAll();
     if (!options.journalFile.empty())
@@ -51,8 +50,13 @@ int RunHost(const HostOptions& options) {
                                      ICC_LISTVIEW_CLASSES | ICC_BAR_CLASSES | ICC_TAB_CLASSES};
         InitCommonControlsEx(&classes);
         const Apartment apartment;
-        HostServices services;
-        Run(services, options);
+        std::optional<HostServices> services;
+        const HRESULT created = com::Guarded([&] { services.emplace(); });
+        if (FAILED(created)) {
+            ShowMessage(nullptr, FormatText(IDS_NO_OBJECTS, {DescribeResult(created)}), MB_OK | MB_ICONERROR);
+            return 1;
+        }
+        Run(*services, options);
         return 0;
     } catch (...) {
         ReportException(nullptr);

@@ -44,9 +44,26 @@ void JournalView::Create(HWND parent) {
 
 void JournalView::SetScale(HFONT font, int dpi) {
     SendMessageW(list_, WM_SETFONT, reinterpret_cast<WPARAM>(font), TRUE);
+    dpi_ = dpi;
     int index = 0;
     for (const Column& column : kColumns)
         ListView_SetColumnWidth(list_, index++, MulDiv(column.width, dpi, 96));
+    StretchLastColumn();
+}
+
+void JournalView::Place(const RECT& place) {
+    MoveWindow(list_, place.left, place.top, place.right - place.left, place.bottom - place.top, TRUE);
+    StretchLastColumn();
+}
+
+// To the right edge, but never narrower than its own width.
+void JournalView::StretchLastColumn() {
+    constexpr int kLast = JournalRow::kColumns - 1;
+    RECT client{};
+    GetClientRect(list_, &client);
+    int width = client.right;
+    for (int column = 0; column < kLast; ++column) width -= ListView_GetColumnWidth(list_, column);
+    ListView_SetColumnWidth(list_, kLast, std::max(width, MulDiv(kColumns[kLast].width, dpi_, 96)));
 }
 
 void JournalView::Add(std::vector<JournalRow> rows) {

@@ -19,6 +19,7 @@ public:
 
     void Create(HWND parent);
     HWND Window() const { return list_; }
+    void Place(const RECT& place);
     // Font and column widths for the parent's resolution.
     void SetScale(HFONT font, int dpi);
 
@@ -34,6 +35,9 @@ public:
     void Copy() const;
 
 private:
+    void StretchLastColumn();
+
+    int dpi_ = 96;
     HWND list_ = nullptr;
     JournalRows rows_;
 };

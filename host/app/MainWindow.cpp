@@ -5,8 +5,11 @@
 #include <commctrl.h>
 #include <windowsx.h>
 
+#include <algorithm>
+
 #include "app/Dpi.h"
 #include "app/Host.h"
+#include "app/Placement.h"
 #include "app/Text.h"
 #include "app/ids.h"
 
@@ -35,6 +38,15 @@ void RegisterWindowClass(WNDPROC procedure) {
     RegisterClassExW(&entry);  // fails when a host ran before in this process: the class is still there
 }
 
+// No larger than the screen has room for from where Windows put the window.
+SIZE FirstSize(HWND window, int dpi) {
+    const RECT screen = WorkArea(window);
+    RECT place{};
+    GetWindowRect(window, &place);
+    return {std::min<LONG>(MulDiv(kWidth, dpi, 96), screen.right - place.left),
+            std::min<LONG>(MulDiv(kHeight, dpi, 96), screen.bottom - place.top)};
+}
+
 }  // namespace
 
 MainWindow::MainWindow(HostServices& services) : services_(services), test_(services) {
@@ -60,7 +72,7 @@ void MainWindow::Show(int command) {
 void MainWindow::Run() {
     const HACCEL keys = LoadAcceleratorsW(com::Module::Instance(), MAKEINTRESOURCEW(IDR_KEYS));
     MSG message{};
-    while (GetMessageW(&message, nullptr, 0, 0) > 0) {
+    while (window_ && GetMessageW(&message, nullptr, 0, 0) > 0) {
         if (TranslateAcceleratorW(window_, keys, &message)) continue;
         TranslateMessage(&message);
         DispatchMessageW(&message);
@@ -115,7 +127,6 @@ bool MainWindow::OnMessage(UINT message, WPARAM wParam, LPARAM lParam, LRESULT& 
             return true;
         case WM_CLOSE: OnClose(); return true;
         case WM_QUERYENDSESSION: answer = test_.MayLeave(window_); return true;
-        case WM_DESTROY: PostQuitMessage(0); return true;
         case WM_NCDESTROY: window_ = nullptr; return false;
         default: return false;
     }
@@ -128,8 +139,8 @@ void MainWindow::OnCreate() {
     if (!status_) com::Check(E_FAIL);
     journal_.Create(window_);
     OnResolution(DpiOf(window_));
-    SetWindowPos(window_, nullptr, 0, 0, MulDiv(kWidth, dpi_, 96), MulDiv(kHeight, dpi_, 96),
-                 SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
+    const SIZE size = FirstSize(window_, dpi_);
+    SetWindowPos(window_, nullptr, 0, 0, size.cx, size.cy, SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
     listener_ = JournalListener::Make(window_, kJournalGrew);
     com::Check(services_.Journal()->AddListener(listener_.Get()));
     services_.AddIns().OnChange([this] { FillResourcesMenu(); });
@@ -155,7 +166,7 @@ void MainWindow::OnSize() {
     const int width = client.right, countWidth = MulDiv(kCallCountWidth, dpi_, 96);
     const int parts[] = {width > countWidth ? width - countWidth : 0, -1};
     SendMessageW(status_, SB_SETPARTS, std::size(parts), reinterpret_cast<LPARAM>(parts));
-    MoveWindow(journal_.Window(), 0, 0, width, client.bottom - (bar.bottom - bar.top), TRUE);
+    journal_.Place({0, 0, width, client.bottom - (bar.bottom - bar.top)});
 }
 
 void MainWindow::OnNotify(NMHDR& header) {

@@ -5,6 +5,7 @@
 
 #include "app/AskForFile.h"
 #include "app/MainWindow.h"
+#include "app/Placement.h"
 #include "app/SettingsFrame.h"
 #include "app/Text.h"
 #include "app/ids.h"
@@ -15,6 +16,7 @@ namespace {
 constexpr int kResourcesMenuPlace = 1;
 
 INT_PTR CALLBACK AboutProcedure(HWND window, UINT message, WPARAM wParam, LPARAM) noexcept {
+    if (message == WM_INITDIALOG) CenterOnOwner(window);
     if (message == WM_INITDIALOG) return TRUE;
     if (message != WM_COMMAND || (LOWORD(wParam) != IDOK && LOWORD(wParam) != IDCANCEL)) return FALSE;
     EndDialog(window, 0);

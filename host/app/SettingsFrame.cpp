@@ -6,6 +6,7 @@
 
 #include <algorithm>
 
+#include "app/Placement.h"
 #include "app/SorPage.h"
 #include "app/Text.h"
 #include "app/ids.h"
@@ -22,23 +23,8 @@ RECT PlaceOf(HWND child) {
     return place;
 }
 
-void Move(HWND child, const RECT& place) {
-    SetWindowPos(child, nullptr, place.left, place.top, place.right - place.left, place.bottom - place.top,
-                 SWP_NOZORDER | SWP_NOACTIVATE);
-}
-
-// Into the middle of the owner, but on the screen.
-void Center(HWND window, HWND owner, SIZE size) {
-    RECT around{};
-    GetWindowRect(owner ? owner : GetDesktopWindow(), &around);
-    MONITORINFO monitor{};
-    monitor.cbSize = sizeof monitor;
-    GetMonitorInfoW(MonitorFromWindow(owner, MONITOR_DEFAULTTONEAREST), &monitor);
-    const RECT& screen = monitor.rcWork;
-    const LONG left = (around.left + around.right - size.cx) / 2;
-    const LONG top = (around.top + around.bottom - size.cy) / 2;
-    SetWindowPos(window, nullptr, std::max(screen.left, std::min(left, screen.right - size.cx)),
-                 std::max(screen.top, std::min(top, screen.bottom - size.cy)), size.cx, size.cy,
+void Move(HWND window, const RECT& place) {
+    SetWindowPos(window, nullptr, place.left, place.top, place.right - place.left, place.bottom - place.top,
                  SWP_NOZORDER | SWP_NOACTIVATE);
 }
 
@@ -120,8 +106,10 @@ void SettingsFrame::Layout() {
     }
     RECT frame{};
     GetWindowRect(window_, &frame);
-    Center(window_, GetWindow(window_, GW_OWNER),
-           {frame.right - frame.left + wider, frame.bottom - frame.top + higher});
+    frame.right += wider;
+    frame.bottom += higher;
+    Move(window_, frame);
+    CenterOnOwner(window_);
     TabCtrl_AdjustRect(control, FALSE, &needed);
     ActivateTabs(needed);
 }

@@ -58,8 +58,7 @@ TEST_F(HostTest, TheManagerComesIntoTheMenuWithTheAddInAndGoesWithIt) {
         EXPECT_EQ(screen.MenuItems(), Rows{L"Recovery Scenario &Manager..."});
         screen.Ask(window, WM_MENUSELECT, MAKEWPARAM(IDM_ADDIN_FIRST, MF_HILITE),
                    reinterpret_cast<LPARAM>(GetSubMenu(GetMenu(window), 1)));
-        EXPECT_EQ(StatusText(screen, window, 0),
-                  L"Displays the Recovery Scenario Manager dialog box");
+        EXPECT_EQ(StatusText(screen, window, 0), L"Displays the Recovery Scenario Manager dialog box");
         screen.Picture(window, L"host-menu");
         screen.ChooseMenu(L"Recovery Scenario &Manager...");
         const HWND manager = screen.WaitForWindow(L"Recovery Scenario Manager");
@@ -84,6 +83,39 @@ TEST_F(HostTest, WithoutTheAddInTheUserIsToldAndTheMenuSaysSo) {
         screen.Close(window);
     });
     EXPECT_EQ(tovarin::RunHost({}), 0);
+}
+
+TEST_F(HostTest, AHostThatCannotStartSaysWhyAndLeavesNothingBehind) {
+    const struct {
+        const wchar_t *object, *operation, *text;
+    } kFaults[] = {
+        {L"Tovarin.ObjectRack", L"Create",
+         L"Tovarin cannot start: the objects in TovarinObjects.dll cannot be created (E_FAIL)."},
+        {L"ObjectRack", L"SetObject", L"The command could not be completed (E_FAIL)."},
+    };
+    for (const auto& [object, operation, text] : kFaults) {
+        FailCall(object, operation);
+        User user([&](UserScreen& screen) { EXPECT_EQ(screen.AnswerBox(IDOK), text); });
+        EXPECT_EQ(tovarin::RunHost({}), 1);
+    }
+}
+
+TEST_F(HostTest, TheTestOfTheCommandLineIsOpened) {
+    const std::wstring path = folder / L"Basket.tvt";
+    for (const bool there : {false, true}) {
+        User user([&](UserScreen& screen) {
+            if (!there) {
+                EXPECT_EQ(screen.AnswerBox(IDOK),
+                          L"The test " + path + L" could not be opened (STG_E_FILENOTFOUND).");
+            }
+            screen.Close(screen.WaitForWindow(there ? L"Basket.tvt - Tovarin" : L"Untitled - Tovarin",
+                                              tovarin::kMainWindowClass));
+        });
+        tovarin::HostOptions options;
+        options.testFile = path;
+        EXPECT_EQ(tovarin::RunHost(options), 0);
+        EXPECT_EQ(New<ITestFile>(L"Tovarin.TestOptions")->SaveTest(com::Bstr(path).Get()), S_OK);
+    }
 }
 
 TEST_F(HostTest, TheJournalIsShownCopiedAndWrittenToAFile) {
