@@ -2,9 +2,30 @@
 
 #include "HostInterfaces.h"
 #include "com/Bstr.h"
-#include "com/Ptr.h"
+#include "com/SafeArray.h"
 
 namespace recoveryui::model {
+namespace {
+
+IUnknown* ObjectIn(const com::Variant& element) {
+    return element.Object();
+}
+IUnknown* ObjectIn(const com::Ptr<IUnknown>& element) {
+    return element.Get();
+}
+
+template <class Element>
+HRESULT Append(const com::CVtlSafeArray<Element>& array, std::vector<com::Ptr<IUnknown>>& elements) {
+    HRESULT hr = array.Verify();
+    for (LONG index = array.LowerBound(); SUCCEEDED(hr) && index <= array.UpperBound(); ++index) {
+        typename com::CVtlSafeArray<Element>::Owner element;
+        hr = array.GetElement(index, &element);
+        if (SUCCEEDED(hr)) elements.emplace_back(ObjectIn(element));
+    }
+    return hr;
+}
+
+}  // namespace
 
 std::wstring DescriptionOf(IUnknown* object) {
     const auto scenario = com::Query<IRecoveryScenario>(object);
@@ -21,6 +42,15 @@ std::optional<TriggerKind> TriggerKindOf(IUnknown* object) {
     long kind = -1;
     if (!trigger || FAILED(trigger->GetTriggerKind(&kind))) return std::nullopt;
     return TriggerKindFrom(static_cast<std::int32_t>(kind));
+}
+
+HRESULT ReadOperationElements(IRecoveryScenario& scenario, std::vector<com::Ptr<IUnknown>>& elements) {
+    com::CVtlSafeArray<IUnknown*> array;
+    const HRESULT hr = scenario.GetOperations(array.Put());
+    if (FAILED(hr) || array.IsNull()) return hr;
+    VARTYPE type = VT_EMPTY;
+    if (FAILED(SafeArrayGetVartype(array.Get(), &type)) || type != VT_VARIANT) return Append(array, elements);
+    return Append(com::CVtlSafeArray<VARIANT>(array.Detach()), elements);
 }
 
 }  // namespace recoveryui::model

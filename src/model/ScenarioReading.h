@@ -1,4 +1,4 @@
-// What a list of scenarios shows of each.
+// What windows show of a scenario.
 #pragma once
 
 #include <windows.h>
@@ -7,7 +7,10 @@
 
 #include <optional>
 #include <string>
+#include <vector>
 
+#include "HostInterfaces.h"
+#include "com/Ptr.h"
 #include "model/Kinds.h"
 
 namespace recoveryui::model {
@@ -16,5 +19,9 @@ namespace recoveryui::model {
 std::wstring DescriptionOf(IUnknown* scenario);
 // Nothing when the trigger is missing or of no known kind.
 std::optional<TriggerKind> TriggerKindOf(IUnknown* scenario);
+// The elements of the scenario's array of operations in order, empty ones included; which of them count is
+// the reader's rule. No array is an empty one.
+[[nodiscard]] HRESULT ReadOperationElements(IRecoveryScenario& scenario,
+                                            std::vector<com::Ptr<IUnknown>>& elements);
 
 }  // namespace recoveryui::model

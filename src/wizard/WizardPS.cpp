@@ -1,14 +1,17 @@
 #include "wizard/WizardPS.h"
 
+#include "model/ScenarioReading.h"
 #include "resources/ids.h"
 #include "ui/Strings.h"
 #include "wizard/CrashTriggerPP.h"
+#include "wizard/ObjectPropsPP.h"
 #include "wizard/OperationClickPP.h"
 #include "wizard/OperationFuncPP.h"
 #include "wizard/OperationListPP.h"
 #include "wizard/ProcessCtrlActionPP.h"
 #include "wizard/ScenDescriptionPP.h"
 #include "wizard/SelectErrorPP.h"
+#include "wizard/SelectObjectPP.h"
 #include "wizard/SelectOperationPP.h"
 #include "wizard/SelectPopupPP.h"
 #include "wizard/SelectScenPP.h"
@@ -21,11 +24,9 @@ namespace {
 
 // The walk ends at the first element that is no operation; what came before counts.
 void ReadOperations(IRecoveryScenario& scenario, std::vector<com::Ptr<IRecoveryAction>>& operations) {
-    com::CVtlSafeArray<IUnknown*> array;
-    if (FAILED(scenario.GetOperations(array.Put())) || FAILED(array.Verify())) return;
-    for (LONG index = array.LowerBound(); index <= array.UpperBound(); ++index) {
-        com::Ptr<IUnknown> element;
-        if (FAILED(array.GetElement(index, &element))) return;
+    std::vector<com::Ptr<IUnknown>> elements;
+    if (FAILED(model::ReadOperationElements(scenario, elements))) return;
+    for (const auto& element : elements) {
         auto operation = com::Query<IRecoveryAction>(element.Get());
         if (!operation) return;
         operations.push_back(std::move(operation));
@@ -38,6 +39,8 @@ WizardPS::WizardPS() : PropertySheet(Kind::Wizard, ui::LoadText(IDS_WIZARD_TITLE
     AddPage(std::make_unique<WelcomePP>(*this));
     AddPage(std::make_unique<SelectScenPP>(*this));
     AddPage(std::make_unique<SelectPopupPP>(*this));
+    AddPage(std::make_unique<SelectObjectPP>(*this));
+    AddPage(std::make_unique<ObjectPropsPP>(*this));
     AddPage(std::make_unique<SelectErrorPP>(*this));
     AddPage(std::make_unique<CrashTriggerPP>(*this));
     AddPage(std::make_unique<OperationListPP>(*this));
@@ -48,6 +51,12 @@ WizardPS::WizardPS() : PropertySheet(Kind::Wizard, ui::LoadText(IDS_WIZARD_TITLE
     AddPage(std::make_unique<TestFlowPP>(*this));
     AddPage(std::make_unique<ScenDescriptionPP>(*this));
     AddPage(std::make_unique<SummaryPP>(*this));
+}
+
+bool WizardPS::Run(HWND owner) {
+    const bool finished = ShowModal(owner);
+    if (!finished) state_.originalIdentification.Restore();
+    return finished;
 }
 
 HRESULT WizardPS::Load(IRecoveryScenario* scenario, std::wstring name) {

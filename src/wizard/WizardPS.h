@@ -14,8 +14,8 @@ public:
     // Takes trigger, operations, option, name and description over from an existing scenario. The restart
     // flag is not derived from the option. E_FAIL when the scenario cannot be edited.
     [[nodiscard]] HRESULT Load(IRecoveryScenario* scenario, std::wstring name);
-    // True after Finish.
-    bool Run(HWND owner) { return ShowModal(owner); }
+    // True after Finish. After Cancel the scenario is as it was.
+    bool Run(HWND owner);
 
 private:
     WizardState state_;

@@ -8,6 +8,7 @@
 #include "RecoveryUI.h"
 #include "com/Ptr.h"
 #include "com/SafeArray.h"
+#include "wizard/IdentificationSnapshot.h"
 #include "wizard/NewFunctions.h"
 
 namespace recoveryui::wizard {
@@ -28,6 +29,8 @@ struct WizardState {
 
     // From the top-level parent down to the object that was clicked.
     com::CVtlSafeArray<VARIANT> objectHierarchy;
+    // That of the scenario being edited, for Cancel.
+    IdentificationSnapshot originalIdentification;
 
     bool addToCurrent = false;
     bool addToDefault = false;
