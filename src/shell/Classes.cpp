@@ -4,6 +4,7 @@
 #include "manager/RecoveryDlg.h"
 #include "settings/RecoveryAddDlg.h"
 #include "settings/RecoveryPP.h"
+#include "settings/ScenarioProperties.h"
 #include "shell/RecoveryPPSpecifier.h"
 #include "shell/RecoveryUIAddin.h"
 #include "wizard/RecoveryWizard.h"
@@ -20,6 +21,8 @@ std::span<const com::ClassEntry> Classes() noexcept {
         {&CLSID_RecoveryUIAddin, L"Vantrel.RecoveryUIAddin", L"RecoveryUIAddin Class", &CreateRecoveryUIAddin},
         {&CLSID_RecoveryPPSpecifier, L"Vantrel.RecoveryPPSpecifier", L"RecoveryPPSpecifier Class",
          &CreateRecoveryPPSpecifier},
+        {&CLSID_ScenarioProperties, L"Vantrel.ScenarioProperties", L"ScenarioProperties Class",
+         &settings::CreateScenarioProperties},
     };
     return kClasses;
 }
