@@ -35,7 +35,7 @@ void PropertyGrid::Show(ITestObject* object, Rows rows) {
             ShowTick(row);
         }
     }
-    properties_.empty() ? list_.FitColumnToHeader(kNameColumn) : list_.FitColumnToContents(kNameColumn);
+    list_.FitColumn(kNameColumn);
     list_.FitColumnToHeader(kValueColumn);
 }
 

@@ -113,6 +113,13 @@ int ListView::HeaderWidth(int column) const {
     return ListView_GetStringWidth(window_, title) + margin;
 }
 
+void ListView::FitColumn(int column) const {
+    FitColumnToContents(column);
+    const int contents = ListView_GetColumnWidth(window_, column);
+    FitColumnToHeader(column);
+    if (ListView_GetColumnWidth(window_, column) < contents) ListView_SetColumnWidth(window_, column, contents);
+}
+
 // Inserting into a visible list without this costs a repaint a row.
 ListView::Filling::Filling(const ListView& list) : window_(list.Window()) {
     SendMessageW(window_, WM_SETREDRAW, FALSE, 0);

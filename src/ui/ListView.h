@@ -36,6 +36,8 @@ public:
 
     void FitColumnToContents(int column) const;
     void FitColumnToHeader(int column) const;
+    // To the wider of the two.
+    void FitColumn(int column) const;
 
     // Filling many rows without redrawing each: a scope.
     class Filling {
