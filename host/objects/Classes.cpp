@@ -4,7 +4,9 @@
 #include "objects/ClassIds.h"
 #include "objects/Journal.h"
 #include "objects/ObjectRack.h"
+#include "objects/screen/ObjectSelection.h"
 #include "objects/screen/RecordMgr.h"
+#include "objects/screen/VtlFinger.h"
 #include "objects/script/VBScriptParser.h"
 #include "objects/services/FileLocator.h"
 #include "objects/services/HostApplication.h"
@@ -37,6 +39,8 @@ constexpr com::ClassEntry kClasses[] = {
     Row<ObjectRack>(kClsidObjectRack, L"Object rack"),
     Row<TovCommonFileDialog>(kClsidTovCommonFileDialog, L"Common file dialog"),
     Row<RecordMgr>(kClsidRecordMgr, L"Record manager"),
+    Row<VtlFinger>(kClsidVtlFinger, L"Pointing hand"),
+    Row<ObjectSelection>(kClsidObjectSelection, L"Object selection"),
     Row<FileLocator>(kClsidFileLocator, L"File locator"),
     Row<PluginMgr>(kClsidPluginMgr, L"Plug-in manager"),
     Row<TestOptions>(kClsidTestOptions, L"Test options"),

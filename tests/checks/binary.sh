@@ -3,7 +3,7 @@
 set -eu
 objdump=$1 file=$2
 shift 2
-windows=' advapi32 comctl32 comdlg32 gdi32 imm32 kernel32 msimg32 msvcrt ntdll ole32 oleacc oleaut32 psapi
+windows=' advapi32 comctl32 comdlg32 dwmapi gdi32 imm32 kernel32 msimg32 msvcrt ntdll ole32 oleacc oleaut32 psapi
  rpcrt4 shell32 shlwapi user32 uxtheme version windowscodecs '
 
 wrong=0

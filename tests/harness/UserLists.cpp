@@ -158,6 +158,9 @@ void UserScreen::ClickRow(HWND list, int index, bool twice) {
                 SetFocus(list);
                 TreeView_SelectItem(list, item);
             });
+            RECT place{};
+            if (!twice || !TreeView_GetItemRect(list, item, &place, TRUE)) return;
+            ClickAt(list, {place.left + 6, (place.top + place.bottom) / 2}, true);
             return;
         }
         default: break;

@@ -1,10 +1,16 @@
 #include "objects/screen/RecordMgr.h"
 
+#include <vector>
+
+#include "com/SafeArray.h"
+#include "objects/screen/ScreenWindows.h"
+#include "objects/screen/TestObject.h"
+
 namespace tovarin {
 
 HRESULT RecordMgr::IsActive(VARIANT_BOOL* active) noexcept {
-    return Call(L"IsActive").Give(
-        [&] { *active = active_ && suspensions_ == 0 ? VARIANT_TRUE : VARIANT_FALSE; }, active);
+    return Call(L"IsActive")
+        .Give([&] { *active = active_ && suspensions_ == 0 ? VARIANT_TRUE : VARIANT_FALSE; }, active);
 }
 
 HRESULT RecordMgr::Suspend() noexcept {
@@ -20,7 +26,23 @@ HRESULT RecordMgr::Resume() noexcept {
 }
 
 HRESULT RecordMgr::GetObjectsAtPoint(SAFEARRAY** objects, long x, long y) noexcept {
-    return Call(L"GetObjectsAtPoint", x, y).Give([] { return E_NOTIMPL; }, objects);
+    return Call(L"GetObjectsAtPoint", x, y)
+        .Give(
+            [&] {
+                std::vector<HWND> windows;  // outwards
+                for (HWND window = InnermostWindowAt({x, y}); window; window = ParentOf(window))
+                    windows.push_back(window);
+                com::CVtlSafeArray<VARIANT> list;
+                com::Check(list.Create(static_cast<ULONG>(windows.size())));
+                com::Ptr<TestObject> object;
+                for (size_t index = windows.size(); index-- > 0;) {
+                    object = TestObject::Make(windows[index], std::move(object));
+                    const com::Variant element(static_cast<IDispatch*>(object.Get()));
+                    com::Check(list.PutElement(static_cast<LONG>(index), element));
+                }
+                *objects = list.Detach();
+            },
+            objects);
 }
 
 HRESULT RecordMgr::SetActive(VARIANT_BOOL active) noexcept {

@@ -16,6 +16,7 @@ public:
     // Suspensions nest. S_FALSE for a resume that nothing was suspended for.
     HRESULT STDMETHODCALLTYPE Suspend() noexcept override;
     HRESULT STDMETHODCALLTYPE Resume() noexcept override;
+    // Empty over the bare desktop.
     HRESULT STDMETHODCALLTYPE GetObjectsAtPoint(SAFEARRAY** objects, long x, long y) noexcept override;
 
     // The host's own side is not written down.

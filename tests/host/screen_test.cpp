@@ -1,0 +1,377 @@
+// Objects on the screen: pointed at, chosen, identified and stored.
+#include <gtest/gtest.h>
+
+#include "HostInterfaces.h"
+#include "com/Automation.h"
+#include "com/Object.h"
+#include "com/SafeArray.h"
+#include "harness/ComTest.h"
+#include "harness/ProcessWindows.h"
+#include "host/temp_folder.h"
+#include "objects/ids.h"
+
+namespace tovarin {
+namespace {
+
+using namespace recoveryui;
+using com::Bstr;
+using com::Variant;
+using recoveryui::test::ComTest;
+using recoveryui::test::Rows;
+using recoveryui::test::User;
+using recoveryui::test::UserScreen;
+
+constexpr const wchar_t* kHandClass = L"TovarinPointingHand";
+
+// An application under test: a group box in front of a disabled edit box, a panel with a label and a button.
+class Application {
+public:
+    Application() {
+        WNDCLASSW kind{};
+        kind.lpfnWndProc = Procedure;
+        kind.lpszClassName = L"Application";
+        kind.hInstance = GetModuleHandleW(nullptr);
+        kind.hbrBackground = GetSysColorBrush(COLOR_3DFACE);
+        RegisterClassW(&kind);
+        clicks = 0;
+        window = CreateWindowW(L"Application", L"Main Window", WS_OVERLAPPEDWINDOW | WS_VISIBLE, 100, 100,
+                               500, 400, nullptr, nullptr, nullptr, nullptr);
+        Add(L"Button", L"Group", BS_GROUPBOX, window, 0, {10, 10, 200, 150});
+        edit = Add(L"Edit", L"typed", WS_DISABLED, window, 7, {20, 40, 100, 30});
+        panel = Add(L"Static", L"Panel", 0, window, 0, {10, 200, 300, 100});
+        Add(L"Static", L"First line\r\nand second", 0, window, 0, {320, 10, 150, 40});
+        button = Add(L"Button", L"OK", 0, panel, 1, {10, 30, 80, 30});
+        bare = Add(L"ScrollBar", L"", 0, window, 0, {10, 320, 100, 20});
+    }
+    ~Application() { Close(); }
+    void Close() {
+        if (window) DestroyWindow(std::exchange(window, nullptr));
+    }
+    static POINT MiddleOf(HWND control) {
+        RECT place{};
+        GetWindowRect(control, &place);
+        return {(place.left + place.right) / 2, (place.top + place.bottom) / 2};
+    }
+
+    HWND window, edit, panel, button, bare;
+    static inline int clicks = 0;
+
+private:
+    static HWND Add(const wchar_t* kind, const wchar_t* text, DWORD style, HWND parent, int id, RECT place) {
+        return CreateWindowW(kind, text, style | WS_CHILD | WS_VISIBLE, place.left, place.top, place.right,
+                             place.bottom, parent, reinterpret_cast<HMENU>(static_cast<INT_PTR>(id)), nullptr,
+                             nullptr);
+    }
+    static LRESULT CALLBACK Procedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
+        if (message == WM_PARENTNOTIFY || message == WM_LBUTTONDOWN || message == WM_LBUTTONUP ||
+            message == WM_RBUTTONDOWN || message == WM_MOUSEACTIVATE)
+            clicks += message != WM_PARENTNOTIFY || LOWORD(wParam) == WM_LBUTTONDOWN;
+        return DefWindowProcW(window, message, wParam, lParam);
+    }
+};
+
+class HostScreen : public ComTest {
+protected:
+    std::vector<com::Ptr<IDispatch>> ObjectsAt(POINT point) {
+        com::CVtlSafeArray<VARIANT> list;
+        EXPECT_EQ(recorder_->GetObjectsAtPoint(list.Put(), point.x, point.y), S_OK);
+        EXPECT_EQ(list.Verify(), S_OK);
+        std::vector<com::Ptr<IDispatch>> objects;
+        for (LONG index = 0; index <= list.UpperBound(); ++index) {
+            Variant element;
+            EXPECT_EQ(list.GetElement(index, &element), S_OK);
+            EXPECT_EQ(element.Type(), VT_DISPATCH);
+            objects.push_back(com::Query<IDispatch>(element.Object()));
+        }
+        return objects;
+    }
+    static Variant Get(IDispatch* object, const wchar_t* name) {
+        Variant value;
+        EXPECT_EQ(com::GetProperty(object, name, &value), S_OK) << test::Utf8(name);
+        return value;
+    }
+    static std::wstring Name(IUnknown* object) {
+        Bstr name;
+        EXPECT_EQ(com::Query<ITestObject>(object)->GetDisplayName(name.Put()), S_OK);
+        return name.Text();
+    }
+    static std::wstring Names(const std::vector<com::Ptr<IDispatch>>& objects) {
+        std::wstring names;
+        for (const auto& object : objects) names += Name(object.Get()) + L";";
+        return names;
+    }
+
+    com::Ptr<IRecordMgr> recorder_ = New<IRecordMgr>(L"Tovarin.RecordMgr");
+    Application application_;
+};
+
+TEST_F(HostScreen, TheObjectsUnderAPointComeFromTheInnermostOutwards) {
+    EXPECT_EQ(Names(ObjectsAt(Application::MiddleOf(application_.button))),
+              L"Button \"OK\";Static \"Panel\";Application \"Main Window\";");
+    EXPECT_EQ(Names(ObjectsAt(Application::MiddleOf(application_.edit))),
+              L"Edit \"typed\";Application \"Main Window\";");
+    EXPECT_EQ(Names(ObjectsAt({130, 275})), L"Button \"Group\";Application \"Main Window\";");
+    EXPECT_EQ(ObjectsAt({-30'000, -30'000}).size(), 0u);
+}
+
+TEST_F(HostScreen, AnObjectAnswersByNameWhatItsWindowSaysNow) {
+    const auto objects = ObjectsAt(Application::MiddleOf(application_.button));
+    ASSERT_EQ(objects.size(), 3u);
+    IDispatch* const button = objects[0].Get();
+    EXPECT_EQ(Get(button, L"objectid").Get().lVal,
+              static_cast<long>(reinterpret_cast<LONG_PTR>(application_.button)));
+    EXPECT_EQ(com::Query<IUnknown>(Get(button, L"Parent").Object()), com::Query<IUnknown>(objects[1].Get()));
+    EXPECT_EQ(Get(objects[2].Get(), L"parent").Type(), VT_EMPTY);
+    EXPECT_EQ(Get(button, L"class").Text(), L"Button");
+    EXPECT_EQ(Get(button, L"window id").Get().lVal, 1);
+    EXPECT_EQ(Get(button, L"x").Get().lVal, 10);
+    EXPECT_EQ(Get(button, L"width").Get().lVal, 80);
+    EXPECT_EQ(Get(objects[2].Get(), L"y").Get().lVal, 100);
+    EXPECT_EQ(Get(button, L"enabled").Get().boolVal, VARIANT_TRUE);
+    EXPECT_EQ(Get(button, L"process name").Text(), L"recoveryui_tests.exe");
+    SetWindowTextW(application_.button, L"Cancel");
+    EnableWindow(application_.button, FALSE);
+    EXPECT_EQ(Get(button, L"text").Text(), L"Cancel");
+    EXPECT_EQ(Get(button, L"enabled").Get().boolVal, VARIANT_FALSE);
+    Variant value;
+    EXPECT_EQ(com::GetProperty(button, L"colour", &value), DISP_E_UNKNOWNNAME);
+    application_.Close();
+    EXPECT_EQ(com::GetProperty(button, L"text", &value), HRESULT_FROM_WIN32(ERROR_INVALID_WINDOW_HANDLE));
+}
+
+TEST_F(HostScreen, AWindowWithTextGivesItWithItsLabelsLineByLine) {
+    const auto text = [](IDispatch* object) -> std::wstring {
+        const auto source = com::Query<IWindowTextSource>(object);
+        Bstr given;
+        if (!source) return L"none";
+        EXPECT_EQ(source->GetText(given.Put()), S_OK);
+        return given.Text();
+    };
+    const auto objects = ObjectsAt(Application::MiddleOf(application_.button));
+    EXPECT_EQ(text(objects[0].Get()), L"OK");
+    EXPECT_EQ(text(objects[2].Get()), L"Main Window\nPanel\nFirst line\nand second");
+    EXPECT_EQ(text(ObjectsAt(Application::MiddleOf(application_.bare))[0].Get()), L"none");
+}
+
+TEST_F(HostScreen, AStoredObjectKeepsItsIdentificationAndItsParentsWithoutAWindow) {
+    TempFolder folder;
+    const std::wstring path = folder / L"objects.trs";
+    {
+        const auto object =
+            com::Query<ITestObject>(ObjectsAt(Application::MiddleOf(application_.button))[0].Get());
+        EXPECT_EQ(object->SetPropertyValue(1, Variant(L"O.*").Get(), 1), S_OK);
+        EXPECT_EQ(object->SetPropertyChecked(0, 0), S_OK);
+        const auto parent =
+            com::Query<ITestObject>(Get(com::Query<IDispatch>(object.Get()).Get(), L"parent").Object());
+        EXPECT_EQ(parent->SetPropertyChecked(4, 1), S_OK);
+        EXPECT_EQ(parent->SetPropertyChecked(99, 1), E_INVALIDARG);
+        const auto trigger = New<IObjectStateRecoveryTrigger>(L"Vantrel.ObjectStateRecoveryTrigger");
+        EXPECT_EQ(trigger->SetTestObject(object.Get()), S_OK);
+        const auto scenario = New<IRecoveryScenario>(L"Vantrel.ReplayRecoveryScenario");
+        EXPECT_EQ(scenario->SetTrigger(trigger.Get()), S_OK);
+        const auto file = New<IRecoveryRepository>(L"Vantrel.RecoveryRepository");
+        EXPECT_EQ(file->Load(nullptr, VARIANT_FALSE), S_OK);
+        EXPECT_EQ(file->AddScenario(scenario.Get(), Bstr(L"one").Get(), 0), S_OK);
+        EXPECT_EQ(file->Save(Bstr(path).Get()), S_OK);
+    }
+    application_.Close();
+
+    const auto file = New<IRecoveryRepository>(L"Vantrel.RecoveryRepository");
+    ASSERT_EQ(file->Load(Bstr(path).Get(), VARIANT_TRUE), S_OK);
+    com::Ptr<IUnknown> scenario, trigger;
+    ASSERT_EQ(file->GetScenario(Bstr(L"one").Get(), scenario.GetAddressOf()), S_OK);
+    ASSERT_EQ(com::Query<IRecoveryScenario>(scenario.Get())->GetTrigger(trigger.GetAddressOf()), S_OK);
+    com::Ptr<ITestObject> object;
+    ASSERT_EQ(com::Query<IObjectStateRecoveryTrigger>(trigger.Get())->GetTestObject(object.GetAddressOf()),
+              S_OK);
+
+    const auto property = [](ITestObject* owner, long index) {
+        Bstr name;
+        Variant value, text;
+        long regular = -1, checked = -1;
+        EXPECT_EQ(owner->GetProperty(index, name.Put(), value.Put(), &regular, &checked), S_OK);
+        EXPECT_EQ(
+            VariantChangeType(text.Put(), const_cast<VARIANT*>(&value.Get()), VARIANT_ALPHABOOL, VT_BSTR),
+            S_OK);
+        return name.Text() + L"=" + std::wstring(text.Text()) + (regular ? L" regular" : L"") +
+               (checked ? L" checked" : L"");
+    };
+    EXPECT_EQ(property(object.Get(), 0), L"class=Button");
+    EXPECT_EQ(property(object.Get(), 1), L"text=O.* regular");
+    EXPECT_EQ(property(object.Get(), 2), L"window id=1 checked");
+    auto members = com::Query<IDispatch>(object.Get());
+    EXPECT_EQ(Get(members.Get(), L"text").Text(), L"O.*");
+    Variant value;
+    EXPECT_EQ(com::GetProperty(members.Get(), L"objectid", &value), DISP_E_UNKNOWNNAME);
+    members = com::Query<IDispatch>(Get(members.Get(), L"parent").Object());
+    EXPECT_EQ(Name(members.Get()), L"Static \"Panel\"");
+    EXPECT_EQ(property(com::Query<ITestObject>(members.Get()).Get(), 4), L"enabled=True checked");
+    members = com::Query<IDispatch>(Get(members.Get(), L"parent").Object());
+    EXPECT_EQ(Name(members.Get()), L"Application \"Main Window\"");
+    EXPECT_EQ(Get(members.Get(), L"parent").Type(), VT_EMPTY);
+}
+
+// The hand, moved by the mouse of the machine.
+class HostPointingHand : public HostScreen {
+protected:
+    struct Answer {
+        HRESULT hr;
+        POINT point;
+        bool cancelled;
+    };
+    Answer Point(User::Script script, long wait = 0) {
+        const auto finger = New<IVtlFinger>(L"Vantrel.VtlFinger");
+        EXPECT_EQ(finger->SetWaitTime(wait), S_OK);
+        const User user(std::move(script));
+        long x = -1, y = -1, cancelled = -1;
+        const HRESULT hr = finger->CapturePoint(&x, &y, &cancelled);
+        return {hr, {x, y}, cancelled != 0};
+    }
+    static void MoveTo(UserScreen& screen, POINT point, HWND framed) {
+        SetCursorPos(point.x, point.y);
+        screen.WaitUntil("the window is framed", [&] {
+            RECT wanted{}, place{};
+            GetWindowRect(framed, &wanted);
+            for (const HWND window : test::TopLevelWindows()) {
+                if (test::ClassOf(window) != kHandClass || !IsWindowVisible(window)) continue;
+                GetWindowRect(window, &place);
+                if (EqualRect(&wanted, &place)) return true;
+            }
+            return false;
+        });
+    }
+    static void RunMessages() {
+        MSG message;
+        while (PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE)) DispatchMessageW(&message);
+    }
+    static void Mouse(UserScreen& screen, std::initializer_list<DWORD> events) {
+        for (const DWORD event : events) mouse_event(event, 0, 0, 0, 0);
+        screen.Do([] {});
+    }
+};
+
+TEST_F(HostPointingHand, AClickGivesThePointAndNeverReachesTheWindow) {
+    const POINT target = Application::MiddleOf(application_.button);
+    const Answer answer = Point([&](UserScreen& screen) {
+        MoveTo(screen, Application::MiddleOf(application_.edit), application_.edit);
+        MoveTo(screen, target, application_.button);
+        Mouse(screen, {MOUSEEVENTF_LEFTDOWN, MOUSEEVENTF_LEFTUP});
+    });
+    EXPECT_EQ(answer.hr, S_OK);
+    EXPECT_FALSE(answer.cancelled);
+    EXPECT_EQ(answer.point.x, target.x);
+    EXPECT_EQ(answer.point.y, target.y);
+    RunMessages();
+    EXPECT_EQ(Application::clicks, 0);
+    // Without the hand it does: the test would notice.
+    for (const DWORD event : {MOUSEEVENTF_LEFTDOWN, MOUSEEVENTF_LEFTUP}) mouse_event(event, 0, 0, 0, 0);
+    RunMessages();
+    EXPECT_NE(Application::clicks, 0);
+}
+
+TEST_F(HostPointingHand, TheRightButtonAndEscapeGiveUp) {
+    Answer answer = Point([&](UserScreen& screen) {
+        MoveTo(screen, Application::MiddleOf(application_.edit), application_.edit);
+        Mouse(screen, {MOUSEEVENTF_RIGHTDOWN, MOUSEEVENTF_RIGHTUP});
+    });
+    EXPECT_EQ(answer.hr, S_OK);
+    EXPECT_TRUE(answer.cancelled);
+    answer = Point([&](UserScreen& screen) {
+        MoveTo(screen, Application::MiddleOf(application_.button), application_.button);
+        keybd_event(VK_ESCAPE, 0, 0, 0);
+        keybd_event(VK_ESCAPE, 0, KEYEVENTF_KEYUP, 0);
+    });
+    EXPECT_TRUE(answer.cancelled);
+    EXPECT_EQ(Application::clicks, 0);
+}
+
+TEST_F(HostPointingHand, TheHandWaitsAndThereIsOnlyOne) {
+    const ULONGLONG start = GetTickCount64();
+    HRESULT second = S_OK;
+    const Answer answer = Point(
+        [&](UserScreen& screen) {
+            MoveTo(screen, Application::MiddleOf(application_.button), application_.button);
+            screen.Do([&] {
+                long x, y, cancelled;
+                second = New<IVtlFinger>(L"Vantrel.VtlFinger")->CapturePoint(&x, &y, &cancelled);
+            });
+            Mouse(screen, {MOUSEEVENTF_RIGHTDOWN, MOUSEEVENTF_RIGHTUP});
+        },
+        300);
+    EXPECT_TRUE(answer.cancelled);
+    EXPECT_GE(GetTickCount64() - start, 300u);
+    EXPECT_EQ(second, E_UNEXPECTED);
+    EXPECT_EQ(New<IVtlFinger>(L"Vantrel.VtlFinger")->SetWaitTime(-1), E_INVALIDARG);
+}
+
+class HostSelection : public HostScreen {
+protected:
+    Variant Choose(User::Script script, HRESULT expected) {
+        com::CVtlSafeArray<VARIANT> candidates;
+        const POINT point = Application::MiddleOf(application_.button);
+        EXPECT_EQ(recorder_->GetObjectsAtPoint(candidates.Put(), point.x, point.y), S_OK);
+        selection_->SetCaption(Bstr(L"Object Selection - Object State Trigger").Get());
+        const User user(std::move(script));
+        Variant chosen;
+        EXPECT_EQ(selection_->Choose(candidates.Get(), chosen.Put()), expected);
+        return chosen;
+    }
+    static HWND Open(UserScreen& screen) {
+        return screen.WaitForWindow(L"Object Selection - Object State Trigger");
+    }
+
+    com::Ptr<IObjectSelection> selection_ = New<IObjectSelection>(L"Vantrel.ObjectSelection");
+};
+
+constexpr int kTree = IDC_OBJECT_SELECTION_TREE;
+
+TEST_F(HostSelection, TheUserChoosesAnObjectFromTheTree) {
+    selection_->SetHelpTopic(Bstr(L"OS_Object_State.htm").Get());
+    Variant chosen = Choose(
+        [&](UserScreen& screen) {
+            const HWND window = Open(screen);
+            EXPECT_EQ(screen.RowsOf(window, kTree),
+                      (Rows{L"Application \"Main Window\"", L"  Static \"Panel\"", L"    Button \"OK\""}));
+            EXPECT_EQ(screen.Chosen(window, kTree), Rows{L"    Button \"OK\""});
+            EXPECT_EQ(screen.FocusId(), kTree);
+            screen.Picture(window, L"object-selection");
+            screen.Choose(window, kTree, L"Static \"Panel\"");
+            screen.Press(window, IDOK);
+        },
+        S_OK);
+    EXPECT_EQ(Name(chosen.Object()), L"Static \"Panel\"");
+    chosen = Choose(
+        [&](UserScreen& screen) { screen.DoubleClick(Open(screen), kTree, L"Application \"Main Window\""); },
+        S_OK);
+    EXPECT_EQ(Name(chosen.Object()), L"Application \"Main Window\"");
+    chosen = Choose([&](UserScreen& screen) { screen.Press(Open(screen), IDCANCEL); }, S_FALSE);
+    EXPECT_EQ(chosen.Type(), VT_EMPTY);
+}
+
+TEST_F(HostSelection, HelpOpensTheGivenTopicInTheHostsViewer) {
+    struct Viewer final : com::Object<Viewer, IHelpViewer> {
+        HRESULT STDMETHODCALLTYPE ShowTopic(long, BSTR topic) noexcept override {
+            shown = com::ViewOf(topic);
+            return S_OK;
+        }
+        std::wstring shown;
+    };
+    const auto viewer = Viewer::Make();
+    test::Rack().Put(L"HelpViewer", viewer.Get()).GiveTo(selection_.Get());
+    const User::Script script = [&](UserScreen& screen) {
+        const HWND window = Open(screen);
+        if (screen.IsEnabled(window, IDC_OBJECT_SELECTION_HELP))
+            screen.Press(window, IDC_OBJECT_SELECTION_HELP);
+        screen.Press(window, IDCANCEL);
+    };
+    Choose(script, S_FALSE);
+    EXPECT_EQ(viewer->shown, L"");
+    selection_->SetHelpTopic(Bstr(L"OS_Object_State.htm").Get());
+    Choose(script, S_FALSE);
+    EXPECT_EQ(viewer->shown, L"OS_Object_State.htm");
+    Variant chosen;
+    EXPECT_EQ(selection_->Choose(nullptr, chosen.Put()), E_INVALIDARG);
+}
+
+}  // namespace
+}  // namespace tovarin
