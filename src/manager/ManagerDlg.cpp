@@ -16,14 +16,14 @@ namespace {
 
 using Kind = ui::IconButton::Kind;
 
-struct ButtonSpec {
+struct ButtonRow {
     int control;
     Command command;
     int icon;
     int tip;
     Kind kind = Kind::Plain;
 };
-constexpr ButtonSpec kButtons[] = {
+constexpr ButtonRow kButtons[] = {
     {IDC_MANAGER_NEW, Command::New, IDI_FILE_NEW, IDS_TIP_NEW_FILE},
     {IDC_MANAGER_OPEN, Command::Open, IDI_FILE_OPEN, IDS_TIP_OPEN_FILE, Kind::Split},
     {IDC_MANAGER_SAVE, Command::Save, IDI_FILE_SAVE, IDS_TIP_SAVE_FILE, Kind::Split},
@@ -61,9 +61,9 @@ void ManagerDlg::OnInit() {
 void ManagerDlg::PrepareButtons() {
     static_assert(std::size(kButtons) == std::tuple_size_v<decltype(buttons_)>);
     for (size_t i = 0; i < buttons_.size(); ++i) {
-        const ButtonSpec& spec = kButtons[i];
-        buttons_[i].Attach(Item(spec.control), spec.icon, spec.kind);
-        tips_.Add(Window(), Item(spec.control), spec.tip);
+        const ButtonRow& row = kButtons[i];
+        buttons_[i].Attach(Item(row.control), row.icon, row.kind);
+        tips_.Add(Window(), Item(row.control), row.tip);
     }
 }
 
@@ -83,9 +83,9 @@ bool ManagerDlg::OnCommand(const ui::Command& command) {
         Run(Command::Close);
         return true;
     }
-    for (const ButtonSpec& spec : kButtons) {
-        if (spec.control != command.id) continue;
-        Run(spec.command);
+    for (const ButtonRow& row : kButtons) {
+        if (row.control != command.id) continue;
+        Run(row.command);
         return true;
     }
     return Dialog::OnCommand(command);
@@ -156,11 +156,11 @@ void ManagerDlg::UpdateFile() {
 
 void ManagerDlg::UpdateStates() {
     const ManagerState state = State();
-    for (const ButtonSpec& spec : kButtons) {
+    for (const ButtonRow& row : kButtons) {
         // With nothing to save the save button still offers its menu.
-        const Command command = spec.command == Command::Save ? Command::SaveAs : spec.command;
+        const Command command = row.command == Command::Save ? Command::SaveAs : row.command;
         const bool enabled = IsEnabled(command, state);
-        const HWND button = Item(spec.control);
+        const HWND button = Item(row.control);
         if (enabled != (IsWindowEnabled(button) != FALSE)) ui::Enable(button, enabled);
     }
 }

@@ -1,3 +1,4 @@
+// What every list with a Delete or Remove command has in common.
 #pragma once
 
 #include <algorithm>

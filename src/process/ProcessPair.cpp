@@ -1,8 +1,8 @@
 #include "process/ProcessPair.h"
 
+#include "model/RowRules.h"
 #include "process/RunningProcesses.h"
 #include "resources/ids.h"
-#include "support/ListRows.h"
 #include "ui/Messages.h"
 #include "ui/Window.h"
 
@@ -162,10 +162,9 @@ void ProcessPair::Remove() {
         for (auto row = selected.rbegin(); row != selected.rend(); ++row) Chosen().DeleteRow(*row);
     }
     RowsChanged();
-    const auto next = support::RowAfterRemoval(static_cast<size_t>(selected.front()),
-                                               static_cast<size_t>(Chosen().Count()));
-    if (!next) return;
-    Chosen().Select(static_cast<int>(*next));
+    const int next = model::RowAfterRemoval(selected.front(), Chosen().Count());
+    if (next == model::kNoRow) return;
+    Chosen().Select(next);
     SetFocus(Chosen().Window());
 }
 

@@ -3,6 +3,7 @@
 #include <windows.h>
 
 #include "com/Module.h"
+#include "support/Text.h"
 
 namespace recoveryui::ui {
 
@@ -15,16 +16,7 @@ std::wstring LoadText(int id) {
 }
 
 std::wstring FormatText(int id, std::initializer_list<std::wstring_view> arguments) {
-    const std::wstring format = LoadText(id);
-    std::wstring result;
-    size_t done = 0;
-    for (std::wstring_view argument : arguments) {
-        const size_t place = format.find(L"%s", done);
-        if (place == std::wstring::npos) break;
-        result.append(format, done, place - done).append(argument);
-        done = place + 2;
-    }
-    return result.append(format, done);
+    return support::Fill(LoadText(id), arguments);
 }
 
 }  // namespace recoveryui::ui

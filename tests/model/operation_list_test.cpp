@@ -3,7 +3,6 @@
 #include "harness/FakeStrings.h"
 #include "model/OperationOrder.h"
 #include "model/OperationRows.h"
-#include "support/ListRows.h"
 
 namespace recoveryui::model {
 namespace {
@@ -67,9 +66,6 @@ TEST(OperationListTest, TheRestartStaysLastWhateverIsMoved) {
         EXPECT_EQ(SwapDown(row.list, row.selected), row.down);
         EXPECT_EQ(DeletionOf(row.list, row.selected), row.deletion);
     }
-    EXPECT_EQ(support::RowAfterRemoval(0, 0), Row{});
-    EXPECT_EQ(support::RowAfterRemoval(1, 3), Row{1});
-    EXPECT_EQ(support::RowAfterRemoval(3, 3), Row{2});
 }
 
 }  // namespace
