@@ -1,5 +1,7 @@
 #include "tour/Tour.h"
 
+#include <fstream>
+
 #include "app/Host.h"
 #include "com/Bstr.h"
 #include "com/Create.h"
@@ -26,6 +28,23 @@ std::wstring Folder() {
 }
 
 std::wstring FileIn(const wchar_t* name) { return Folder() + name; }
+
+std::wstring WriteText(const wchar_t* file, const std::string& text) {
+    std::ofstream(FileIn(file).c_str(), std::ios::binary) << text;
+    return FileIn(file);
+}
+
+std::string RecoveryFileOf(const std::vector<std::string>& names) {
+    std::string text = R"({"formatVersion": 1, "scenarios": [)";
+    for (const std::string& name : names) {
+        text += &name == &names.front() ? "" : ",";
+        text += R"({"name": ")" + name + R"(", "description": "About )" + name +
+                R"(.", "postRecoveryOption": 2, "trigger": {"kind": "popUp", "windowTitle": {"text": ")" + name +
+                R"(", "regularExpression": 0}, "windowText": {"text": "", "regularExpression": 0}, "option": 0},)" +
+                R"( "operations": [{"kind": "pressKeys", "keys": [65549, 196621]}]})";
+    }
+    return text + "]}";
+}
 
 void Tour::Play(const wchar_t* journal, const Story& story) {
     const std::wstring journalFile = FileIn(journal);

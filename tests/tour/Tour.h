@@ -5,6 +5,7 @@
 
 #include <functional>
 #include <string>
+#include <vector>
 
 #include "HostInterfaces.h"
 #include "com/Ptr.h"
@@ -19,6 +20,11 @@ using test::UserScreen;
 // The folder for pictures and files, ending in a backslash.
 std::wstring Folder();
 std::wstring FileIn(const wchar_t* name);
+
+// Makes a file in the folder; gives its full path.
+std::wstring WriteText(const wchar_t* file, const std::string& text);
+// A recovery file of pop-up scenarios, each described as "About <name>.".
+std::string RecoveryFileOf(const std::vector<std::string>& names);
 
 class Tour : public testing::Test {
 protected:

@@ -1,9 +1,6 @@
 // A tester's afternoon in the Recovery Scenario Manager: two files, a locked one, a damaged one, a full disk.
 #include <windows.h>
 
-#include <cstdio>
-#include <fstream>
-
 #include "HostObjects.h"
 #include "com/Bstr.h"
 #include "com/Create.h"
@@ -14,26 +11,10 @@ namespace {
 
 constexpr int kManyScenarios = 100'000;
 
-void WriteText(const wchar_t* file, const std::string& text) {
-    std::ofstream(FileIn(file).c_str(), std::ios::binary) << text;
-}
-
-std::string ScenarioText(const std::string& name, const std::string& title) {
-    return R"({"name": ")" + name + R"(", "description": "About )" + name +
-           R"(.", "postRecoveryOption": 2, "trigger": {"kind": "popUp", "windowTitle": {"text": ")" + title +
-           R"(", "regularExpression": 0}, "windowText": {"text": "", "regularExpression": 0}, "option": 0},)" +
-           R"( "operations": [{"kind": "pressKeys", "keys": [65549, 196621]}]})";
-}
-
-std::string FileText(const std::string& scenarios) {
-    return R"({"formatVersion": 1, "scenarios": [)" + scenarios + "]}";
-}
-
-std::string ManyScenarios() {
-    std::string all;
-    for (int i = 0; i < kManyScenarios; ++i)
-        all += (i ? "," : "") + ScenarioText("scenario " + std::to_string(i), "Window " + std::to_string(i));
-    return all;
+std::vector<std::string> ManyNames() {
+    std::vector<std::string> names;
+    for (int i = 0; i < kManyScenarios; ++i) names.push_back("scenario " + std::to_string(i));
+    return names;
 }
 
 class Afternoon : public Tour {
@@ -44,11 +25,11 @@ protected:
     }
 
     Afternoon() {
-        WriteText(L"first.trs", FileText(ScenarioText("Error message", "Error") + "," + ScenarioText("Crash", "Oops")));
-        WriteText(L"second.trs", FileText(ScenarioText("Error message", "Another error")));
-        WriteText(L"locked.trs", FileText(ScenarioText("Somebody else's", "Question")));
-        WriteText(L"damaged.trs", FileText(ScenarioText("Cut off", "x")).substr(0, 150));
-        WriteText(L"many.trs", FileText(ManyScenarios()));
+        WriteText(L"first.trs", RecoveryFileOf({"Error message", "Crash"}));
+        WriteText(L"second.trs", RecoveryFileOf({"Error message"}));
+        WriteText(L"locked.trs", RecoveryFileOf({"Somebody else's"}));
+        WriteText(L"damaged.trs", RecoveryFileOf({"Cut off"}).substr(0, 150));
+        WriteText(L"many.trs", RecoveryFileOf(ManyNames()));
     }
 };
 
