@@ -56,12 +56,12 @@ void JournalView::Place(const RECT& place) {
     StretchLastColumn();
 }
 
-// To the right edge, but never narrower than its own width.
+// To the scroll bar, whether it is there yet or not, but never narrower than its own width.
 void JournalView::StretchLastColumn() {
     constexpr int kLast = JournalRow::kColumns - 1;
-    RECT client{};
-    GetClientRect(list_, &client);
-    int width = client.right;
+    RECT place{};
+    GetWindowRect(list_, &place);
+    int width = place.right - place.left - GetSystemMetrics(SM_CXVSCROLL);
     for (int column = 0; column < kLast; ++column) width -= ListView_GetColumnWidth(list_, column);
     ListView_SetColumnWidth(list_, kLast, std::max(width, MulDiv(kColumns[kLast].width, dpi_, 96)));
 }

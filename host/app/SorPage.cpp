@@ -19,6 +19,10 @@ LPOLESTR TaskText(std::wstring_view text) {
     return copy;
 }
 
+INT_PTR CALLBACK NoProcedure(HWND, UINT, WPARAM, LPARAM) noexcept {
+    return FALSE;
+}
+
 SIZE TemplateSize(HWND page) {
     RECT place{};
     GetWindowRect(page, &place);
@@ -46,9 +50,8 @@ HRESULT SorPage::GetPageInfo(PROPPAGEINFO* info) noexcept {
     info->pszTitle = info->pszDocString = info->pszHelpFile = nullptr;
     info->dwHelpContext = 0;
     return com::Guarded([&] {
-        const HWND probe = CreateDialogParamW(
-            com::Module::Instance(), MAKEINTRESOURCEW(IDD_SOR), GetDesktopWindow(),
-            [](HWND, UINT, WPARAM, LPARAM) -> INT_PTR { return FALSE; }, 0);
+        const HWND probe = CreateDialogParamW(com::Module::Instance(), MAKEINTRESOURCEW(IDD_SOR),
+                                              GetDesktopWindow(), &NoProcedure, 0);
         info->size = TemplateSize(probe);
         DestroyWindow(probe);
         info->pszTitle = TaskText(LoadText(IDS_SOR_TITLE));
