@@ -1,0 +1,172 @@
+// Every kind of trigger and operation, made with the mouse on a real window, stored, and read back.
+#include <windows.h>
+
+#include <commctrl.h>
+
+#include "tour/Application.h"
+
+namespace recoveryui::tour {
+namespace {
+
+constexpr int kEditOfCombo = 1001;
+
+class EveryKind : public Tour {
+protected:
+    EveryKind() : file_(FileIn(L"every kind.trs")), library_(WriteText(L"library.vbs", "Function Log(Object)\r\nEnd Function\r\n")) {
+        DeleteFileW(file_.c_str());
+    }
+
+    static HWND NewScenario(UserScreen& screen, HWND manager, int trigger) {
+        screen.Press(manager, IDC_MANAGER_NEW_SCENARIO);
+        const HWND wizard = screen.WaitForWindow(L"Recovery Scenario Wizard");
+        screen.Next(wizard);
+        screen.Check(wizard, trigger);
+        screen.Next(wizard);
+        return wizard;
+    }
+    // From the list of operations to the page of one type.
+    static void AddOperation(UserScreen& screen, HWND wizard, int type) {
+        screen.Next(wizard);
+        screen.Check(wizard, type);
+        screen.Next(wizard);
+    }
+    static void FinishAs(UserScreen& screen, HWND wizard, const wchar_t* name, const wchar_t* operation) {
+        EXPECT_EQ(screen.RowsOf(wizard, IDC_OPERATION_LIST_ROWS), Rows{operation});
+        screen.Check(wizard, IDC_OPERATION_LIST_ANOTHER, false);
+        screen.Next(wizard);
+        screen.Next(wizard);
+        screen.Enter(wizard, IDC_SCEN_NAME, name);
+        screen.Next(wizard);
+        screen.Finish(wizard);
+    }
+    static HWND Edit(UserScreen& screen, HWND manager, const wchar_t* name) {
+        screen.Choose(manager, IDC_MANAGER_LIST, name);
+        screen.Press(manager, IDC_MANAGER_EDIT);
+        const HWND wizard = screen.WaitForWindow(L"Recovery Scenario Wizard");
+        screen.Next(wizard);
+        screen.Next(wizard);
+        return wizard;
+    }
+    static void PictureProperties(UserScreen& screen, HWND manager, const std::wstring& picture) {
+        screen.Press(manager, IDC_MANAGER_PROPERTIES);
+        const HWND sheet = screen.WaitForWindow(L"Recovery Scenario Properties");
+        screen.Do([sheet] { PostMessageW(sheet, PSM_SETCURSEL, 1, 0); });
+        screen.Picture(sheet, picture);
+        screen.Press(sheet, IDCANCEL);
+        screen.WaitUntilClosed(sheet);
+    }
+
+    const std::wstring file_, library_;
+};
+
+TEST_F(EveryKind, IsMadeStoredAndReadBack) {
+    const std::wstring functionRow = L"Function call | " + library_ + L"::Restore";
+    Play(L"every-kind-journal.txt", [&](UserScreen& screen, HWND host) {
+        const HWND manager = OpenManager(screen, host);
+        const Application application(screen);
+
+        HWND wizard = NewScenario(screen, manager, IDC_SELECT_TRIGGER_POPUP);
+        application.PointAt(screen, wizard, IDC_POPUP_HAND, Application::kMessage);
+        EXPECT_EQ(screen.Text(wizard, IDC_POPUP_TITLE), Application::kTitle);
+        EXPECT_EQ(screen.Text(wizard, IDC_POPUP_TEXT), L"The order could not be saved.");
+        screen.Picture(wizard, L"40-popup-pointed-at");
+        screen.Next(wizard);
+        AddOperation(screen, wizard, IDC_SELECT_OPERATION_CLICK);
+        screen.Check(wizard, IDC_CLICK_LABEL);
+        application.PointAt(screen, wizard, IDC_CLICK_HAND, Application::kMessage);
+        EXPECT_EQ(screen.RowsOf(wizard, IDC_CLICK_LABEL_LIST), (Rows{L"Try Again", L"Discard"}));
+        screen.Picture(wizard, L"41-button-labels");
+        screen.Next(wizard);
+        FinishAs(screen, wizard, L"1 Pop-up", L"Keyboard click | Click button with label: Try Again ");
+
+        wizard = NewScenario(screen, manager, IDC_SELECT_TRIGGER_OBJECT_STATE);
+        application.PointAt(screen, wizard, IDC_SELECT_OBJECT_HAND, Application::kTryAgain);
+        const HWND selection = screen.WaitForWindow(L"Object Selection - Object State Trigger");
+        screen.Picture(selection, L"42-object-selection");
+        screen.Press(selection, IDOK);
+        screen.Picture(wizard, L"43-object-hierarchy");
+        screen.Next(wizard);
+        screen.Picture(wizard, L"44-object-properties");
+        screen.Next(wizard);
+        AddOperation(screen, wizard, IDC_SELECT_OPERATION_PROCESS);
+        screen.Press(wizard, IDC_PROCESSES_NEW);
+        screen.Type(L"order entry.exe");
+        screen.Keys({VK_RETURN});
+        screen.Picture(wizard, L"45-close-processes");
+        screen.Next(wizard);
+        FinishAs(screen, wizard, L"2 Object state", L"Close process | order entry.exe");
+
+        wizard = NewScenario(screen, manager, IDC_SELECT_TRIGGER_ERROR);
+        screen.Choose(wizard, IDC_SELECT_ERROR_LIST, L"Object not found");
+        screen.Picture(wizard, L"46-test-run-error");
+        screen.Next(wizard);
+        AddOperation(screen, wizard, IDC_SELECT_OPERATION_FUNCTION);
+        screen.Enter(wizard, kEditOfCombo, library_);
+        screen.Keys({VK_RETURN});
+        screen.Check(wizard, IDC_FUNC_DEFINE);
+        screen.Enter(wizard, IDC_FUNC_NAME, L"Restore");
+        screen.Picture(wizard, L"47-new-function");
+        screen.Next(wizard);
+        FinishAs(screen, wizard, L"3 Error", functionRow.c_str());
+
+        wizard = NewScenario(screen, manager, IDC_SELECT_TRIGGER_CRASH);
+        screen.Choose(wizard, IDC_PROCESSES_RUNNING, L"target.exe");
+        screen.Press(wizard, IDC_PROCESSES_ADD_SELECTED);
+        EXPECT_EQ(screen.RowsOf(wizard, IDC_PROCESSES_CHOSEN), Rows{L"target.exe"});
+        screen.Picture(wizard, L"48-application-crash");
+        screen.Next(wizard);
+        AddOperation(screen, wizard, IDC_SELECT_OPERATION_CLICK);
+        screen.Next(wizard);
+        FinishAs(screen, wizard, L"4 Crash", L"Keyboard click | Enter");
+
+        screen.Press(manager, IDC_MANAGER_SAVE);
+        GiveFile(screen, L"Save Recovery File", file_);
+        screen.Press(screen.WaitForWindow(L"Recovery Scenario Manager - every kind.trs"), IDCANCEL);
+        screen.WaitUntilClosed(manager);
+    });
+
+    // Another run of the host: nothing is left but the file and the library.
+    Play(L"every-kind-read-journal.txt", [&](UserScreen& screen, HWND host) {
+        const HWND manager = OpenManager(screen, host);
+        screen.Press(manager, IDC_MANAGER_OPEN);
+        GiveFile(screen, L"Open Recovery File", file_);
+        EXPECT_EQ(screen.RowsOf(manager, IDC_MANAGER_LIST),
+                  (Rows{L"1 Pop-up", L"2 Object state", L"3 Error", L"4 Crash"}));
+        screen.Choose(manager, IDC_MANAGER_LIST, L"1 Pop-up");
+        screen.Picture(manager, L"50-every-kind");
+        PictureProperties(screen, manager, L"51-properties-popup");
+
+        HWND wizard = Edit(screen, manager, L"1 Pop-up");
+        EXPECT_EQ(screen.Text(wizard, IDC_POPUP_TITLE), Application::kTitle);
+        EXPECT_EQ(screen.Text(wizard, IDC_POPUP_TEXT), L"The order could not be saved.");
+        screen.Cancel(wizard);
+        wizard = Edit(screen, manager, L"2 Object state");
+        const Rows hierarchy = screen.RowsOf(wizard, IDC_SELECT_OBJECT_TREE);
+        EXPECT_EQ(hierarchy.size(), 2u) << "the window and its button";
+        screen.Cancel(wizard);
+        PictureProperties(screen, manager, L"52-properties-object-state");
+        wizard = Edit(screen, manager, L"3 Error");
+        EXPECT_EQ(screen.Chosen(wizard, IDC_SELECT_ERROR_LIST), Rows{L"Object not found"});
+        screen.Next(wizard);
+        EXPECT_EQ(screen.RowsOf(wizard, IDC_OPERATION_LIST_ROWS), Rows{functionRow});
+        screen.Cancel(wizard);
+        PictureProperties(screen, manager, L"53-properties-error");
+        wizard = Edit(screen, manager, L"4 Crash");
+        EXPECT_EQ(screen.RowsOf(wizard, IDC_PROCESSES_CHOSEN), Rows{L"target.exe"});
+        screen.Cancel(wizard);
+        PictureProperties(screen, manager, L"54-properties-crash");
+        screen.Press(manager, IDCANCEL);
+        screen.WaitUntilClosed(manager);
+    });
+
+    std::string library(512, '\0');
+    FILE* const file = _wfopen(library_.c_str(), L"rb");
+    ASSERT_NE(file, nullptr);
+    library.resize(fread(library.data(), 1, library.size(), file));
+    fclose(file);
+    EXPECT_EQ(library, "Function Log(Object)\r\nEnd Function\r\n\r\n"
+                       "Function Restore(Object, Method, Arguments, retVal)\r\n\r\nEnd Function");
+}
+
+}  // namespace
+}  // namespace recoveryui::tour
