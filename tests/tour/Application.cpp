@@ -52,6 +52,8 @@ void Application::PointAt(UserScreen& screen, HWND wizard, int hand, int control
         GetWindowRect(wizard, &aside);
         return EqualRect(&aside, &before) != FALSE;
     });
+    // It is back before it has filled its page.
+    screen.Do([] {});
 }
 
 }  // namespace recoveryui::tour
