@@ -7,6 +7,9 @@
 namespace recoveryui::test {
 namespace {
 
+constexpr DISPID kParent = 1;
+constexpr DISPID kWindow = 2;
+
 com::Variant Complex() {
     com::CVtlSafeArray<VARIANT> array;
     EXPECT_EQ(array.Create(2), S_OK);
@@ -55,6 +58,16 @@ std::wstring FakeTestObject::Identification() const {
     return all;
 }
 
+HRESULT FakeTestObject::QueryInterface(REFIID iid, void** object) noexcept {
+    if (!hasText && IsEqualIID(iid, __uuidof(IWindowTextSource))) return *object = nullptr, E_NOINTERFACE;
+    return Object::QueryInterface(iid, object);
+}
+
+HRESULT FakeTestObject::GetText(BSTR* out) noexcept {
+    *out = nullptr;
+    return text ? com::CopyTo(out, text) : S_OK;
+}
+
 HRESULT FakeTestObject::GetPropertyCount(long* count) noexcept {
     *count = static_cast<long>(properties.size());
     return S_OK;
@@ -83,11 +96,14 @@ HRESULT FakeTestObject::SetPropertyChecked(long index, long isChecked) noexcept 
 }
 
 DISPID FakeTestObject::FindMember(const wchar_t* name) const noexcept {
-    return parent_ && SameName(name, L"parent") ? 1 : DISPID_UNKNOWN;
+    if (window && SameName(name, L"objectid")) return kWindow;
+    return parent_ && SameName(name, L"parent") ? kParent : DISPID_UNKNOWN;
 }
 
-HRESULT FakeTestObject::InvokeMember(DISPID, WORD, DISPPARAMS&, VARIANT* result) noexcept {
-    *result = com::Variant(static_cast<IDispatch*>(parent_.Get())).Detach();
+HRESULT FakeTestObject::InvokeMember(DISPID member, WORD, DISPPARAMS&, VARIANT* result) noexcept {
+    *result = (member == kParent ? com::Variant(static_cast<IDispatch*>(parent_.Get()))
+                                 : com::Variant(static_cast<long>(reinterpret_cast<INT_PTR>(window))))
+                  .Detach();
     return S_OK;
 }
 

@@ -11,7 +11,8 @@
 
 namespace recoveryui::test {
 
-class FakeTestObject final : public com::Object<FakeTestObject, ITestObject, tovarin::NamedMembers> {
+class FakeTestObject final
+    : public com::Object<FakeTestObject, ITestObject, tovarin::NamedMembers, IWindowTextSource> {
 public:
     struct Property {
         std::wstring name;
@@ -33,8 +34,13 @@ public:
 
     std::vector<Property> properties;
     HRESULT writing = S_OK;  // what changing a property answers
+    HWND window = nullptr;   // its "objectid", if it has one
+    bool hasText = false;    // whether it offers its text, which may be none at all
+    const wchar_t* text = nullptr;
     FakeTestObject* Parent() const { return parent_.Get(); }
 
+    HRESULT STDMETHODCALLTYPE QueryInterface(REFIID iid, void** object) noexcept override;
+    HRESULT STDMETHODCALLTYPE GetText(BSTR* out) noexcept override;
     HRESULT STDMETHODCALLTYPE GetDisplayName(BSTR* name) noexcept override {
         return com::CopyTo(name, name_);
     }
