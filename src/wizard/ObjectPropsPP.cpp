@@ -32,7 +32,7 @@ void ObjectPropsPP::OnInit() {
 
 void ObjectPropsPP::OnActivate() {
     auto chain = model::FromArray(State().objectHierarchy);
-    if (!chain.empty() && !members_.empty() && chain.back() == members_.back()) return;
+    if (!chain.empty() && !members_.empty() && chain.back().Get() == members_.back().Get()) return;
     editPending_ = false;
     members_ = std::move(chain);
     {

@@ -55,7 +55,7 @@ protected:
         EXPECT_LT(place.left, kBesideTheScreen);
         if (target) {
             GetWindowRect(target, &place);
-            SetCursorPos(place.left + 30, place.bottom - 12);
+            SetCursorPos((place.left + place.right) / 2, place.bottom - 8);
             Mouse(MOUSEEVENTF_LEFTDOWN);
             Mouse(MOUSEEVENTF_LEFTUP);
         } else {
@@ -202,6 +202,31 @@ TEST_F(PointingHandTest, TheOnlyObjectAtThePointIsTakenAndNothingElseIs) {
                          screen.Next(wizard);
                          EXPECT_EQ(screen.RowsOf(wizard, IDC_OBJECT_PROPS_TREE), Rows{L"Login"});
                          EXPECT_EQ(screen.RowsOf(wizard, IDC_OBJECT_PROPS_GRID), Rows{L"text | Log in"});
+                     }),
+              S_FALSE);
+}
+
+TEST_F(PointingHandTest, SeveralObjectsAtThePointAreOfferedForAChoice) {
+    constexpr const wchar_t* kSelection = L"Object Selection - Object State Trigger";
+    rack_.Put(L"RecordMgr", L"Tovarin.RecordMgr");
+    const HWND button = FindWindowExW(target_.Login(), nullptr, L"Button", L"Cancel");
+    EXPECT_EQ(OnPage(IDC_SELECT_TRIGGER_OBJECT_STATE,
+                     [&](UserScreen& screen, HWND wizard) {
+                         Point(screen, wizard, IDC_SELECT_OBJECT_HAND, button);
+                         screen.Press(screen.WaitForWindow(kSelection), IDCANCEL);
+                         EXPECT_TRUE(screen.RowsOf(wizard, IDC_SELECT_OBJECT_TREE).empty());
+                         Point(screen, wizard, IDC_SELECT_OBJECT_HAND, button);
+                         const HWND selection = screen.WaitForWindow(kSelection);
+                         EXPECT_TRUE(Called(L"ObjectSelection.SetHelpTopic(\"OS_Object_State.htm\")"));
+                         screen.Picture(selection, L"hand-selection");
+                         screen.Press(selection, IDOK);
+                         EXPECT_EQ(screen.RowsOf(wizard, IDC_SELECT_OBJECT_TREE).size(), 2u);
+                         screen.Picture(wizard, L"hand-object");
+                         screen.Next(wizard);
+                         EXPECT_FALSE(screen.RowsOf(wizard, IDC_OBJECT_PROPS_GRID).empty());
+                         screen.Picture(wizard, L"hand-props");
+                         screen.Next(wizard);
+                         EXPECT_EQ(screen.PageTitle(wizard), L"Recovery Operations");
                      }),
               S_FALSE);
 }
