@@ -100,7 +100,7 @@ TEST_F(Tour, AFirstScenarioIsMadeStoredFoundAgainAndRenamed) {
         screen.Picture(manager, L"15-manager-unsaved");
 
         screen.Press(manager, IDC_MANAGER_SAVE);
-        GiveFile(screen, L"Save Recovery File", FileIn(L"scenarios"), L"16-save");
+        GiveFile(screen, L"Save Recovery File", FileIn(kFile), L"16-save");
         manager = screen.WaitForWindow(L"Recovery Scenario Manager - scenarios.trs");
         EXPECT_EQ(screen.Text(manager, IDC_MANAGER_FILE), FileIn(kFile));
         screen.Picture(manager, L"17-manager-saved");
