@@ -124,6 +124,9 @@ TEST_F(AddDialogTest, ACancelledDialogRemembersFourFiles) {
 
 TEST_F(AddDialogTest, AFileIsBrowsedFor) {
     const std::wstring file = MakeFile(L"f.trs", {{L"A"}});
+    const auto host = New<IHostApplicationControl>(L"Tovarin.HostApplication");
+    host->SetHostMode(VARIANT_TRUE);
+    rack_.Put(L"HostApplication", host.Get());
     ForgetCalls();
     Run([&](UserScreen& screen, HWND dialog) {
         screen.Press(dialog, IDC_ADD_SCENARIO_BROWSE);
@@ -140,7 +143,9 @@ TEST_F(AddDialogTest, AFileIsBrowsedFor) {
         EXPECT_EQ(screen.Text(dialog, IDC_ADD_SCENARIO_FILE), file);
         EXPECT_EQ(screen.RowsOf(dialog, kList), Rows{L"A"});
     });
-    EXPECT_NE(Calls().find(L"Scenario Files (*.trs)|*.trs|All Files (*.*)|*.*||"), std::wstring::npos);
+    for (const wchar_t* given : {L"FileFilter(\"Scenario Files (*.trs)|*.trs|All Files (*.*)|*.*||\")",
+                                 L"ShowFileSystemButton(true)"})
+        EXPECT_NE(Calls().find(given), std::wstring::npos) << Utf8(Calls());
 }
 
 TEST_F(AddDialogTest, NeedsARackAndWorksWithAnEmptyOne) {

@@ -20,9 +20,7 @@ protected:
             states += screen.IsEnabled(frame, id) ? letters[states.size()] : '.';
         return states;
     }
-    static void AltKey(UserScreen& screen, WORD key) {
-        screen.Do([=] { PostMessageW(GetFocus(), WM_SYSKEYDOWN, key, 0x20000001); });
-    }
+    static void AltKey(UserScreen& screen, WORD key) { screen.RealKeys({VK_MENU, key}); }
     static int IconOf(UserScreen& screen, HWND frame, int row) {
         LVITEMW item{};
         item.mask = LVIF_IMAGE;
@@ -54,23 +52,24 @@ TEST_F(RecoveryTabTest, ScenariosOfTwoFilesAreAddedOrderedSwitchedOffAndFoundAga
         EXPECT_EQ(Global(L"g_bDirty"), 1);
         EXPECT_EQ(Global(L"g_bAllowApply"), 0);
 
-        Add(screen, frame, common, {L"Popup"});
+        Add(screen, frame, common, {L"Error", L"Popup"});
         EXPECT_EQ(screen.AnswerBox(IDOK), L"The 'Popup' scenario is already associated with your test.");
         Add(screen, frame, other, {L"Popup"});
         EXPECT_EQ(screen.AnswerBox(IDOK),
                   L"You have selected a different file path for the Popup scenario.  Confirm that the Popup "
                   L"scenario is "
                   L"defined in this file before you run your test.");
-        EXPECT_EQ(screen.RowsOf(frame, kList).size(), 3u);
+        EXPECT_EQ(screen.RowsOf(frame, kList).size(), 4u);
+        EXPECT_EQ(IconOf(screen, frame, 2), 2);
         EXPECT_EQ(screen.FocusId(), kList);
 
         AltKey(screen, VK_UP);
-        screen.Press(frame, IDC_RECOVERY_UP);
-        screen.Press(frame, IDC_RECOVERY_UP);  // it is the first one: only the focus moves
+        for (int i = 0; i < 3; ++i)
+            screen.Press(frame, IDC_RECOVERY_UP);  // it is the first one: only the focus moves
         EXPECT_EQ(screen.Chosen(frame, kList), Rows{row(L"Popup", other)});
         AltKey(screen, VK_DOWN);
-        EXPECT_EQ(screen.RowsOf(frame, kList),
-                  (Rows{row(L"Crash", common), row(L"Popup", other), row(L"Popup", common)}));
+        EXPECT_EQ(screen.RowsOf(frame, kList), (Rows{row(L"Crash", common), row(L"Popup", other),
+                                                     row(L"Popup", common), row(L"Error", common)}));
         screen.Keys({VK_SPACE});
         screen.ToggleRow(frame, kList, row(L"Crash", common));
         screen.ToggleRow(frame, kList, row(L"Crash", common));
@@ -78,7 +77,7 @@ TEST_F(RecoveryTabTest, ScenariosOfTwoFilesAreAddedOrderedSwitchedOffAndFoundAga
         EXPECT_FALSE(screen.IsRowChecked(frame, kList, row(L"Popup", other)));
 
         screen.Choose(frame, IDC_RECOVERY_ACTIVATION, L"Never");
-        screen.Press(frame, IDC_RECOVERY_SET_DEFAULT);
+        screen.Mnemonic(L'd');
         EXPECT_EQ(Buttons(screen, frame).back(), '.');
         screen.Choose(frame, IDC_RECOVERY_ACTIVATION, L"On every step");
         EXPECT_EQ(Buttons(screen, frame).back(), 'S');
@@ -89,14 +88,16 @@ TEST_F(RecoveryTabTest, ScenariosOfTwoFilesAreAddedOrderedSwitchedOffAndFoundAga
     });
     EXPECT_EQ(seen, (std::vector<std::string>{"Apply", "Cancel"}));
     EXPECT_EQ(Stored(L"RecoveryScenarios"),
-              L"common.trs;Crash;1;ffffffff*other.trs;Popup;0;ffffffff*common.trs;Popup;1;ffffffff*");
+              L"common.trs;Crash;1;ffffffff*other.trs;Popup;0;ffffffff*common.trs;Popup;1;ffffffff*common."
+              L"trs;Error;1;"
+              L"ffffffff*");
     EXPECT_EQ(Stored(L"RecoveryDefScenarios"),
-              L"common.trs;Crash;1;1*other.trs;Popup;0;1*common.trs;Popup;1;1*");
+              L"common.trs;Crash;1;1*other.trs;Popup;0;1*common.trs;Popup;1;1*common.trs;Error;1;1*");
     EXPECT_EQ(Stored(L"Enabled"), L"1");
 
     OpenSettings([&](UserScreen& screen, HWND frame) {
-        EXPECT_EQ(screen.RowsOf(frame, kList),
-                  (Rows{row(L"Crash", common), row(L"Popup", other), row(L"Popup", common)}));
+        EXPECT_EQ(screen.RowsOf(frame, kList), (Rows{row(L"Crash", common), row(L"Popup", other),
+                                                     row(L"Popup", common), row(L"Error", common)}));
         EXPECT_EQ(screen.Chosen(frame, kList), Rows{row(L"Crash", common)});
         EXPECT_FALSE(screen.IsRowChecked(frame, kList, row(L"Popup", other)));
         EXPECT_EQ(screen.Chosen(frame, IDC_RECOVERY_ACTIVATION), Rows{L"On every step"});

@@ -1,0 +1,140 @@
+// The Recovery tab as a settings frame of any making meets it.
+#include <windows.h>
+
+#include <olectl.h>
+
+#include "settings/SettingsTest.h"
+
+namespace recoveryui::test {
+namespace {
+
+class RecoveryPageTest : public SettingsTest {
+protected:
+    RecoveryPageTest()
+        : frame_(CreateWindowExW(0, L"#32770", L"Frame", WS_OVERLAPPEDWINDOW | WS_VISIBLE, 0, 0, 600, 500,
+                                 nullptr, nullptr, GetModuleHandleW(nullptr), nullptr)),
+          page_(New<IPropertyPage>(L"Vantrel.RecoveryPP")) {
+        rack_.GiveTo(page_.Get());
+    }
+    ~RecoveryPageTest() override {
+        if (IsWindow(frame_)) DestroyWindow(frame_);
+    }
+    HWND Tab() const { return GetWindow(frame_, GW_CHILD); }
+    HRESULT Activate() { return page_->Activate(frame_, &kPlace, FALSE); }
+    void ClickCheckBox() const { SendMessageW(Tab(), WM_COMMAND, IDC_RECOVERY_TOGGLE, 0); }
+
+    static constexpr RECT kPlace{10, 20, 510, 400};
+    HWND frame_;
+    com::Ptr<IPropertyPage> page_;
+};
+
+TEST_F(RecoveryPageTest, SaysWhatItIsAndGoesWhereItIsPut) {
+    PROPPAGEINFO info{};
+    info.cb = 0xDEAD;
+    EXPECT_EQ(page_->GetPageInfo(&info), S_OK);
+    EXPECT_STREQ(info.pszTitle, L"Recovery");
+    EXPECT_STREQ(info.pszHelpFile, L"Test_Settings_-_Recovery_tab.htm");
+    RECT units{0, 0, 300, 203};
+    EXPECT_EQ(Activate(), S_OK);
+    MapDialogRect(Tab(), &units);
+    EXPECT_EQ(info.size.cx, units.right);
+    EXPECT_EQ(info.size.cy, units.bottom);
+    CoTaskMemFree(info.pszTitle);
+    CoTaskMemFree(info.pszHelpFile);
+
+    const auto place = [&] {
+        RECT rect{};
+        GetWindowRect(Tab(), &rect);
+        MapWindowPoints(nullptr, frame_, reinterpret_cast<POINT*>(&rect), 2);
+        return rect;
+    };
+    const RECT second{0, 0, 580, 450};
+    const RECT first = place();
+    EXPECT_TRUE(EqualRect(&first, &kPlace));
+    EXPECT_FALSE(IsWindowVisible(Tab()));
+    EXPECT_EQ(page_->Move(&second), S_OK);
+    EXPECT_EQ(page_->Show(SW_SHOW), S_OK);
+    const RECT moved = place();
+    EXPECT_TRUE(EqualRect(&moved, &second));
+    EXPECT_TRUE(IsWindowVisible(Tab()));
+    EXPECT_EQ(page_->Show(SW_HIDE), S_OK);
+    EXPECT_FALSE(IsWindowVisible(Tab()));
+    EXPECT_EQ(page_->Deactivate(), S_OK);
+    EXPECT_EQ(Tab(), nullptr);
+}
+
+TEST_F(RecoveryPageTest, RefusesWhatCannotBe) {
+    MSG message{};
+    const struct {
+        const char* call;
+        HRESULT answer, expected;
+    } cases[] = {
+        {"GetPageInfo", page_->GetPageInfo(nullptr), E_POINTER},
+        {"Activate nowhere", page_->Activate(frame_, nullptr, FALSE), E_POINTER},
+        {"Activate in nothing", page_->Activate(nullptr, &kPlace, FALSE), E_UNEXPECTED},
+        {"Deactivate", page_->Deactivate(), E_UNEXPECTED},
+        {"Show", page_->Show(SW_SHOW), E_UNEXPECTED},
+        {"Show somehow", page_->Show(SW_MAXIMIZE), E_INVALIDARG},
+        {"Move", page_->Move(&kPlace), E_UNEXPECTED},
+        {"Move nowhere", page_->Move(nullptr), E_POINTER},
+        {"SetObjects", page_->SetObjects(1, nullptr), E_POINTER},
+        {"SetObjects none", page_->SetObjects(0, nullptr), S_OK},
+        {"TranslateAccelerator", page_->TranslateAccelerator(nullptr), E_POINTER},
+        {"TranslateAccelerator other", page_->TranslateAccelerator(&message), S_FALSE},
+        {"IsPageDirty", page_->IsPageDirty(), S_FALSE},
+        {"Apply", page_->Apply(), S_OK},
+        {"Activate", Activate(), S_OK},
+        {"Activate twice", Activate(), E_UNEXPECTED},
+    };
+    for (const auto& c : cases) EXPECT_EQ(c.answer, c.expected) << c.call;
+    EXPECT_EQ(Stored(L"RecoveryScenarios"), L"-") << "a page that was never open wrote something";
+    EXPECT_EQ(page_->Deactivate(), S_OK);
+}
+
+TEST_F(RecoveryPageTest, ChangesOutliveTheWindow) {
+    Store(L"RecoveryScenarios", com::Variant(L"f.trs;A;1;1*"));
+    EXPECT_EQ(Activate(), S_OK);
+    ClickCheckBox();
+    EXPECT_EQ(page_->IsPageDirty(), S_OK);
+    EXPECT_EQ(page_->Deactivate(), S_OK);
+    EXPECT_EQ(Activate(), S_OK);
+    EXPECT_EQ(page_->Apply(), S_OK);
+    EXPECT_EQ(page_->IsPageDirty(), S_FALSE);
+    EXPECT_EQ(Stored(L"RecoveryScenarios"), L"f.trs;A;0;1*");
+    EXPECT_EQ(page_->Deactivate(), S_OK);
+}
+
+TEST_F(RecoveryPageTest, TheModuleStaysAsLongAsTheFrameThatItWatches) {
+    const auto canUnload = [] {
+        const auto ask = GetProcAddress(GetModuleHandleW(L"RecoveryUI.dll"), "DllCanUnloadNow");
+        return reinterpret_cast<HRESULT(STDAPICALLTYPE*)()>(reinterpret_cast<void*>(ask))();
+    };
+    EXPECT_EQ(Activate(), S_OK);
+    EXPECT_EQ(page_->Deactivate(), S_OK);
+    page_.Reset();
+    EXPECT_EQ(canUnload(), S_FALSE);
+    DestroyWindow(frame_);
+    EXPECT_EQ(canUnload(), S_OK);
+}
+
+TEST_F(RecoveryPageTest, AFrameThatGoesUnderTheOpenDialogTakesEverythingAlong) {
+    EXPECT_EQ(Activate(), S_OK);
+    EXPECT_EQ(page_->Show(SW_SHOW), S_OK);
+    {
+        User user([&](UserScreen& screen) {
+            screen.Press(frame_, IDC_RECOVERY_ADD);
+            screen.WaitForWindow(L"Add Recovery Scenario");
+            screen.Do([&] {
+                EXPECT_EQ(page_->Deactivate(), S_OK);
+                page_.Reset();
+                DestroyWindow(frame_);
+            });
+        });
+        MSG message;
+        while (IsWindow(frame_) && GetMessageW(&message, nullptr, 0, 0)) DispatchMessageW(&message);
+    }
+    EXPECT_EQ(Stored(L"RecoveryScenarios"), L"-");
+}
+
+}  // namespace
+}  // namespace recoveryui::test
