@@ -80,7 +80,7 @@ build() {
   shift
   say "building $preset"
   mkdir -p build
-  if ! { configure "$preset" && bounded 1200 cmake --build --preset "$preset" ${1:+--target "$@"}; } \
+  if ! { configure "$preset" && bounded 1800 cmake --build --preset "$preset" ${1:+--target "$@"}; } \
       >"$log" 2>&1; then
     { grep -A5 -E '(: |CMake )(fatal )?[Ee]rror|undefined reference' "$log" || tail -40 "$log"; } | cut -c1-400 |
       head -60 >&2
