@@ -43,6 +43,8 @@ public:
         if (!parameters) return E_POINTER;
         const HRESULT hr = LoadInfo();
         if (FAILED(hr)) return hr;
+        // A script puts an object by reference; the interfaces know one way to put.
+        if (flags & DISPATCH_PROPERTYPUTREF) flags = DISPATCH_PROPERTYPUT;
         return DispInvoke(static_cast<Interface*>(this), info_.Get(), id, flags, parameters, result, exception,
                           argument);
     }

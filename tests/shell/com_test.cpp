@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "com/Create.h"
+#include "com/Variant.h"
 #include "harness/ComTest.h"
 #include "harness/ProcessWindows.h"
 #include "shell/Classes.h"
@@ -112,6 +113,18 @@ TEST_F(CitizenTest, DualInterfacesDescribeThemselves) {
     DISPID id = 0;
     EXPECT_EQ(dispatch->GetIDsOfNames(IID_NULL, &member, 1, 0, &id), S_OK);
     EXPECT_EQ(id, 2);
+
+    constexpr DISPID kRepository = 3;
+    const com::Variant repository(New<IUnknown>(L"Vantrel.RecoveryRepository").Get());
+    for (const WORD way : {WORD{DISPATCH_PROPERTYPUT}, WORD{DISPATCH_PROPERTYPUTREF}}) {
+        const auto wizard = New<IRecoveryWizard>(L"Vantrel.RecoveryWizard");
+        DISPID named = DISPID_PROPERTYPUT;
+        DISPPARAMS parameters{const_cast<VARIANT*>(&repository.Get()), &named, 1, 1};
+        EXPECT_EQ(wizard->Invoke(kRepository, IID_NULL, 0, way, &parameters, nullptr, nullptr, nullptr), S_OK);
+        com::Ptr<IUnknown> held;
+        wizard->get_Repository(held.GetAddressOf());
+        EXPECT_EQ(held.Get(), repository.Object()) << "as scripts put objects, " << way;
+    }
 }
 
 TEST(Module, LoadsAndUnloadsForEver) {
