@@ -68,6 +68,7 @@ void ManagerDlg::Paste() {
     file_.MarkDirty();
     Refill();
     SelectRow(RowAfterPaste(list_.Count()));
+    SetFocus(list_.Window());
 }
 
 void ManagerDlg::Delete() {

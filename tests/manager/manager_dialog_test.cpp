@@ -133,6 +133,7 @@ TEST_F(ManagerTest, PastingOverAnExistingNameAsksFirst) {
         screen.Press(manager, IDC_MANAGER_PASTE);
         EXPECT_EQ(screen.AnswerBox(IDYES), kReplaceQuestion);
         EXPECT_EQ(Chosen(screen, manager), L"two");
+        EXPECT_EQ(screen.FocusId(), IDC_MANAGER_LIST);
         EXPECT_EQ(Names(screen, manager), (Rows{L"one", L"two"}));
         screen.Press(manager, IDCANCEL);
         EXPECT_EQ(screen.AnswerBox(IDYES), kSaveQuestion);
