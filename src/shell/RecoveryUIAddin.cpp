@@ -50,7 +50,8 @@ public:
     }
 
     HRESULT STDMETHODCALLTYPE QueryStatus(const GUID* group, ULONG count, OLECMD* commands,
-                                          OLECMDTEXT*) noexcept override {
+                                          OLECMDTEXT* text) noexcept override {
+        if (text) text->cwActual = 0;  // the host has the texts from the registration
         if (!commands) return E_POINTER;
         if (!connection_.IsGroup(group)) return OLECMDERR_E_UNKNOWNGROUP;
         for (OLECMD& command : std::span(commands, count)) {

@@ -119,7 +119,9 @@ TEST_F(AddInTest, TheCommandOpensTheManagerWhileARackIsHeld) {
     const com::Ptr<IOleCommandTarget> target = manager_->target_;
     const auto status = [&](ULONG id) {
         OLECMD command{id, 0};
-        EXPECT_EQ(target->QueryStatus(&kGroup, 1, &command, nullptr), S_OK);
+        OLECMDTEXT text{OLECMDTEXTF_NAME, 1, 1, L""};
+        EXPECT_EQ(target->QueryStatus(&kGroup, 1, &command, &text), S_OK);
+        EXPECT_EQ(text.cwActual, 0u) << "no text of its own";
         return command.cmdf;
     };
     EXPECT_EQ(status(kCommand), DWORD{OLECMDF_SUPPORTED | OLECMDF_ENABLED});
