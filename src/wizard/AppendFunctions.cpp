@@ -1,7 +1,7 @@
 #include "wizard/AppendFunctions.h"
 
 #include "HostInterfaces.h"
-#include "model/FileLocator.h"
+#include "model/FileNames.h"
 #include "shell/Rack.h"
 #include "support/LibraryAppend.h"
 #include "support/RepositoryPath.h"
@@ -24,8 +24,9 @@ std::string ToCodePage(const std::wstring& text) {
 
 // Never creates the file. False when it cannot be opened.
 bool Append(const std::wstring& path, const std::string& bytes) {
-    const HANDLE file = CreateFileW(path.c_str(), FILE_APPEND_DATA, FILE_SHARE_READ | FILE_SHARE_WRITE, nullptr,
-                                    OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr);
+    const HANDLE file = CreateFileW(model::ExtendedLengthPath(path).c_str(), FILE_APPEND_DATA,
+                                    FILE_SHARE_READ | FILE_SHARE_WRITE, nullptr, OPEN_EXISTING,
+                                    FILE_ATTRIBUTE_NORMAL, nullptr);
     if (file == INVALID_HANDLE_VALUE) return false;
     DWORD written = 0;
     WriteFile(file, bytes.data(), static_cast<DWORD>(bytes.size()), &written, nullptr);
