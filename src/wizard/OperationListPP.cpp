@@ -74,7 +74,9 @@ void OperationListPP::Move(bool up) {
     const int selected = Rows().Selected();
     if (selected < 0) return;
     const auto row = static_cast<size_t>(selected);
-    if (const auto other = up ? model::SwapUp(Order(), row) : model::SwapDown(Order(), row)) {
+    const auto other = up ? model::SwapUp(Order(), row) : model::SwapDown(Order(), row);
+    // Rows end before an operation of unknown kind: nothing changes places with what is not shown.
+    if (other && static_cast<int>(*other) < Rows().Count()) {
         std::swap(State().operations[row], State().operations[*other]);
         Fill(static_cast<int>(*other));
     }

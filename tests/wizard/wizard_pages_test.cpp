@@ -1,0 +1,310 @@
+// The wizard's pages one by one: what they start with, what they refuse, and what hosts can do to them.
+#include <windows.h>
+
+#include <commctrl.h>
+
+#include "com/Object.h"
+#include "com/SafeArray.h"
+#include "wizard/WizardTest.h"
+
+namespace recoveryui::test {
+namespace {
+
+// A host that shows help topics itself.
+class HelpReader final : public com::Object<HelpReader, IHelpViewer> {
+public:
+    HRESULT STDMETHODCALLTYPE ShowTopic(long, BSTR topic) noexcept override {
+        last_ = com::ViewOf(topic);
+        return S_OK;
+    }
+    std::wstring last_;
+};
+
+// An operation that a later host invented.
+class NewerOperation final : public com::Object<NewerOperation, IRecoveryAction> {
+public:
+    HRESULT STDMETHODCALLTYPE GetOperationKind(long* kind) noexcept override {
+        *kind = 4;
+        return S_OK;
+    }
+};
+
+class WizardPagesTest : public WizardTest {
+protected:
+    com::Ptr<IPopUpRecoveryTrigger> PopUp(const std::wstring& title, long titleIsRegex = 0,
+                                          const std::wstring& text = {}, long textIsRegex = 0) const {
+        const auto trigger = New<IPopUpRecoveryTrigger>(L"Vantrel.PopUpRecoveryTrigger");
+        EXPECT_EQ(trigger->SetWindowTitle(com::Bstr(title).Get(), titleIsRegex), S_OK);
+        EXPECT_EQ(trigger->SetWindowText(com::Bstr(text).Get(), textIsRegex), S_OK);
+        return trigger;
+    }
+    static void GoToOperations(UserScreen& screen, HWND wizard) {
+        NextUntil(screen, wizard, L"Specify Pop-up Window Conditions");
+        screen.Enter(wizard, IDC_POPUP_TITLE, L"Error");
+        screen.Next(wizard);
+    }
+    // An operation of the type page is chosen and done as it stands; then on to the options.
+    static void GoToOptions(UserScreen& screen, HWND wizard, int radio) {
+        AddOperation(screen, wizard, radio);
+        if (radio == IDC_SELECT_OPERATION_CLICK) screen.Next(wizard);
+        screen.Check(wizard, IDC_OPERATION_LIST_ANOTHER, false);
+        screen.Next(wizard);
+    }
+    static void GoToSummary(UserScreen& screen, HWND wizard, const wchar_t* name) {
+        NextUntil(screen, wizard, L"Name and Description");
+        screen.Enter(wizard, IDC_SCEN_NAME, name);
+        screen.Next(wizard);
+    }
+    // Of the six options: "-" hidden, "o" offered, "X" chosen.
+    static std::wstring Options(UserScreen& screen, HWND wizard) {
+        std::wstring options;
+        for (int id = IDC_TEST_FLOW_FIRST; id <= IDC_TEST_FLOW_LAST; ++id)
+            options += !screen.IsVisible(wizard, id) ? L'-' : screen.IsChecked(wizard, id) ? L'X' : L'o';
+        return options;
+    }
+    // Of title and text: checked, value, "r" for a regular expression; in brackets when disabled.
+    static std::wstring Conditions(UserScreen& screen, HWND wizard) {
+        std::wstring shown;
+        for (const int check : {IDC_POPUP_TITLE_CHECK, IDC_POPUP_TEXT_CHECK}) {
+            const std::wstring value =
+                screen.Text(wizard, check + 1) + (screen.IsChecked(wizard, check + 2) ? L"~r" : L"~");
+            EXPECT_EQ(screen.IsEnabled(wizard, check + 1), screen.IsEnabled(wizard, check + 2));
+            shown += screen.IsChecked(wizard, check) ? L"x" : L"-";
+            shown += screen.IsEnabled(wizard, check + 1) ? value : L"[" + value + L"]";
+        }
+        return shown;
+    }
+};
+
+TEST_F(WizardPagesTest, EveryPageHasABoldTitleAndOpensItsOwnHelpTopic) {
+    const auto help = HelpReader::Make();
+    rack_.Put(L"HelpViewer", help.Get());
+    Run([&](UserScreen& screen, HWND wizard) {
+        const auto expectTopic = [&](const wchar_t* topic) {
+            screen.Press(wizard, IDHELP);
+            EXPECT_EQ(help->last_, std::wstring(L"Recovery_Scenario_Wizard_") + topic + L".htm");
+            LOGFONTW page{}, title{};
+            const auto fontOf = [&](HWND window, LOGFONTW& font) {
+                GetObjectW(reinterpret_cast<HFONT>(screen.Ask(window, WM_GETFONT)), sizeof font, &font);
+            };
+            fontOf(screen.Page(wizard), page);
+            fontOf(screen.Control(wizard, IDC_PAGE_TITLE), title);
+            EXPECT_EQ(title.lfWeight, 700) << topic;
+            EXPECT_STREQ(title.lfFaceName, page.lfFaceName);
+            const HDC device = GetDC(wizard);
+            EXPECT_EQ(title.lfHeight, MulDiv(-10, GetDeviceCaps(device, LOGPIXELSY), 72));
+            ReleaseDC(wizard, device);
+        };
+        expectTopic(L"Welcome");
+        screen.Next(wizard);
+        expectTopic(L"Select_Trigger");
+        const struct {
+            int radio;
+            const wchar_t* topic;
+        } triggers[] = {{IDC_SELECT_TRIGGER_OBJECT_STATE, L"Object_State"},
+                        {IDC_SELECT_TRIGGER_ERROR, L"Test_Run"},
+                        {IDC_SELECT_TRIGGER_CRASH, L"Application_Crash"},
+                        {IDC_SELECT_TRIGGER_POPUP, L"Popup"}},
+          operations[] = {{IDC_SELECT_OPERATION_PROCESS, L"Close_Processes"},
+                          {IDC_SELECT_OPERATION_FUNCTION, L"Function"},
+                          {IDC_SELECT_OPERATION_CLICK, L"Click_Button"}};
+        for (const auto& trigger : triggers) {
+            screen.Check(wizard, trigger.radio);
+            screen.Next(wizard);
+            expectTopic(trigger.topic);
+            if (trigger.radio != IDC_SELECT_TRIGGER_POPUP) screen.Back(wizard);
+        }
+        screen.Enter(wizard, IDC_POPUP_TITLE, L"Error");
+        screen.Next(wizard);
+        expectTopic(L"Recovery_Ops");
+        screen.Next(wizard);
+        expectTopic(L"Recovery_Op");
+        for (const auto& operation : operations) {
+            screen.Check(wizard, operation.radio);
+            screen.Next(wizard);
+            expectTopic(operation.topic);
+            if (operation.radio != IDC_SELECT_OPERATION_CLICK) screen.Back(wizard);
+        }
+        screen.Next(wizard);
+        screen.Check(wizard, IDC_OPERATION_LIST_ANOTHER, false);
+        for (const wchar_t* topic : {L"Post_Recovery", L"Name_Description"}) {
+            screen.Next(wizard);
+            expectTopic(topic);
+        }
+        GoToSummary(screen, wizard, L"Popup");
+        expectTopic(L"Finish");
+        screen.Cancel(wizard);
+    });
+}
+
+TEST_F(WizardPagesTest, APopUpTriggerIsShownAsFarAsItCanBeRead) {
+    const struct {
+        com::Ptr<IPopUpRecoveryTrigger> trigger;
+        const wchar_t *failing, *shown;
+        bool canGoOn;
+    } cases[] = {
+        {PopUp(L"", 1, L"", 1), nullptr, L"-[~]-[~]", false},
+        {PopUp(L"", 1, L"a\nb\r\nc", 2), nullptr, L"-[~]xa\r\nb\r\r\nc~r", true},
+        {PopUp(L"Error", 2), nullptr, L"xError~r-[~]", true},
+        {PopUp(L"Error", 0, L"text"), L"GetWindowText", L"xError~-[~]", true},
+        {PopUp(L"Error", 0, L"text"), L"GetWindowTitle", L"-~-[~]", false},
+        {PopUp(L"Error", 0, L"text"), L"GetTriggerKind", L"-~-[~]", false},
+    };
+    for (const auto& c : cases) {
+        Edit(c.trigger.Get());
+        Run([&](UserScreen& screen, HWND wizard) {
+            screen.Next(wizard);
+            if (c.failing) FailCall(L"PopUpRecoveryTrigger", c.failing);
+            screen.Next(wizard);
+            EXPECT_EQ(Conditions(screen, wizard), c.shown);
+            EXPECT_EQ(screen.IsEnabled(wizard, 0x3024), c.canGoOn) << Utf8(c.shown);
+            screen.Cancel(wizard);
+        });
+    }
+}
+
+TEST_F(WizardPagesTest, ATriggerThatDoesNotSayWhatItIsChoosesNothing) {
+    Edit(PopUp(L"Error").Get());
+    Run([&](UserScreen& screen, HWND wizard) {
+        FailCall(L"PopUpRecoveryTrigger", L"GetTriggerKind");
+        screen.Next(wizard);
+        for (int radio = IDC_SELECT_TRIGGER_POPUP; radio <= IDC_SELECT_TRIGGER_CRASH; ++radio)
+            EXPECT_FALSE(screen.IsChecked(wizard, radio));
+        screen.Next(wizard);
+        EXPECT_EQ(screen.PageTitle(wizard), L"Select Trigger Event");
+        screen.Check(wizard, IDC_SELECT_TRIGGER_POPUP);
+        NextUntil(screen, wizard, L"Recovery Operations");
+        FailCall(L"PopUpRecoveryTrigger", L"GetTriggerKind");
+        screen.Back(wizard);
+        EXPECT_EQ(screen.PageTitle(wizard), L"Select Trigger Event");
+        screen.Cancel(wizard);
+    });
+}
+
+TEST_F(WizardPagesTest, ARestartAloneIsAScenarioAndItsSummaryIsWrittenOnce) {
+    const wchar_t* const summary =
+        L"Trigger Event:\r\n\tPop-up window\r\nRecovery Operations:\r\n"
+        L"\tRestart Microsoft Windows\r\nPost-Recovery Test Run Options:\r\n"
+        L"\tRestart current test run";
+    Run([&](UserScreen& screen, HWND wizard) {
+        GoToOperations(screen, wizard);
+        screen.Next(wizard);
+        screen.Do(
+            [&] { SendMessageW(screen.Control(wizard, IDC_SELECT_OPERATION_CLICK), BM_SETCHECK, 0, 0); });
+        screen.Next(wizard);
+        EXPECT_EQ(screen.PageTitle(wizard), L"Recovery Operation") << "no type is chosen";
+        GoToOptions(screen, wizard, IDC_SELECT_OPERATION_RESTART);
+        EXPECT_EQ(Options(screen, wizard), L"----Xo");
+        screen.Next(wizard);
+        screen.Enter(wizard, IDC_SCEN_NAME, L"  ");
+        FailCall(L"RecoveryRepository", L"ScenarioExists");
+        screen.Next(wizard);
+        EXPECT_EQ(screen.PageTitle(wizard), L"Name and Description");
+        screen.Next(wizard);
+        EXPECT_EQ(screen.Text(wizard, IDC_SUMMARY_TEXT), summary);
+
+        for (int page = 0; page < 3; ++page) screen.Back(wizard);
+        screen.Choose(wizard, IDC_OPERATION_LIST_ROWS, L"Restart Microsoft Windows");
+        screen.Press(wizard, IDC_OPERATION_LIST_DELETE);
+        EXPECT_TRUE(screen.IsVisible(wizard, IDC_OPERATION_LIST_NOTE));
+        EXPECT_TRUE(screen.IsChecked(wizard, IDC_OPERATION_LIST_ANOTHER));
+        screen.Next(wizard);
+        EXPECT_TRUE(screen.IsVisible(wizard, IDC_SELECT_OPERATION_RESTART)) << "offered again";
+        GoToOptions(screen, wizard, IDC_SELECT_OPERATION_CLICK);
+        EXPECT_EQ(Options(screen, wizard), L"ooooXo") << "the choice stays";
+        screen.Next(wizard);
+        screen.Next(wizard);
+        EXPECT_EQ(screen.Text(wizard, IDC_SUMMARY_TEXT), summary) << "the first one stands";
+        ForgetCalls();
+        screen.Finish(wizard);
+    });
+    EXPECT_EQ(Calls(),
+              L"Vantrel.ReplayRecoveryScenario.Create() -> S_OK\n"
+              L"RecoveryScenario.SetPostRecoveryOption(5) -> S_OK\n"
+              L"RecoveryScenario.SetTrigger(PopUpRecoveryTrigger) -> S_OK\n"
+              L"RecoveryScenario.SetOperations([KeyBoardSimulatorRecoveryAction]) -> S_OK\n"
+              L"RecoveryScenario.SetDescription(\"\") -> S_OK\n"
+              L"ObjectRack.GetObject(\"RACK_FILE_LOCATOR\", IFileLocator) -> E_FAIL\n");
+}
+
+TEST_F(WizardPagesTest, AScenarioThatGetsARestartGivesUpTheOptionThatIsHidden) {
+    const auto other = New<IRecoveryScenario>(L"Vantrel.ReplayRecoveryScenario");
+    ASSERT_EQ(repository_->AddScenario(other.Get(), com::Bstr(L"taken").Get(), 0), S_OK);
+    Edit(PopUp(L"Error").Get());
+    wizard_->put_ScenarioName(com::Bstr(L"Own").Get());
+    Run([&](UserScreen& screen, HWND wizard) {
+        NextUntil(screen, wizard, L"Recovery Operations");
+        GoToOptions(screen, wizard, IDC_SELECT_OPERATION_RESTART);
+        EXPECT_EQ(Options(screen, wizard), L"----Xo");
+        screen.Check(wizard, IDC_TEST_FLOW_LAST);
+        ForgetCalls();
+        GoToSummary(screen, wizard, L"OWN");
+        EXPECT_FALSE(Called(L"ScenarioExists")) << "its own name needs no check";
+        screen.Back(wizard);
+        screen.Enter(wizard, IDC_SCEN_NAME, L"TAKEN");
+        screen.Next(wizard);
+        screen.AnswerBox(IDOK);
+        EXPECT_EQ(screen.FocusId(), IDC_SCEN_NAME);
+        EXPECT_EQ(screen.Ask(screen.Control(wizard, IDC_SCEN_NAME), EM_GETSEL), MAKELRESULT(0, 5));
+        screen.Type(L"Other");
+        screen.Next(wizard);
+        ForgetCalls();
+        screen.Finish(wizard);
+    });
+    EXPECT_TRUE(Called(L"SetPostRecoveryOption(8)"));
+    EXPECT_TRUE(Called(L"SetOperations([])"));
+}
+
+TEST_F(WizardPagesTest, TheHostDecidesWhetherTheDefaultSettingsAreOffered) {
+    const auto application = New<IHostApplicationControl>(L"Tovarin.HostApplication");
+    rack_.Put(L"HostApplication", application.Get());
+    application->SetHostMode(VARIANT_TRUE);
+    for (const bool answers : {true, false}) {
+        if (!answers) FailCall(L"HostApplication", L"HostModeQuery");
+        Run([&](UserScreen& screen, HWND wizard) {
+            GoToOperations(screen, wizard);
+            GoToOptions(screen, wizard, IDC_SELECT_OPERATION_CLICK);
+            GoToSummary(screen, wizard, L"Popup");
+            EXPECT_TRUE(screen.IsVisible(wizard, IDC_SUMMARY_ADD_CURRENT));
+            EXPECT_EQ(screen.IsVisible(wizard, IDC_SUMMARY_ADD_DEFAULT), !answers);
+            screen.Cancel(wizard);
+        });
+    }
+}
+
+TEST_F(WizardPagesTest, AnUnknownOperationEndsTheListAndChangesPlacesWithNothing) {
+    const auto scenario = New<IRecoveryScenario>(L"Vantrel.ReplayRecoveryScenario");
+    const auto keys = New<IRecoveryAction>(L"Vantrel.KeyBoardSimulatorRecoveryAction");
+    const auto processes = New<IRecoveryAction>(L"Vantrel.ProcessControlRecoveryAction");
+    const com::Ptr<IRecoveryAction> operations[] = {keys, NewerOperation::Make().Get(), processes};
+    com::CVtlSafeArray<VARIANT> array;
+    ASSERT_EQ(array.Create(3), S_OK);
+    for (LONG i = 0; i < 3; ++i)
+        ASSERT_EQ(array.PutElement(i, com::Variant(static_cast<IUnknown*>(operations[i].Get()))), S_OK);
+    ASSERT_EQ(scenario->SetOperations(array.Get()), S_OK);
+    ASSERT_EQ(scenario->SetPostRecoveryOption(9), S_OK);
+    ASSERT_EQ(scenario->SetTrigger(PopUp(L"Error").Get()), S_OK);
+    wizard_->put_Scenario(scenario.Get());
+    Run([&](UserScreen& screen, HWND wizard) {
+        NextUntil(screen, wizard, L"Recovery Operations");
+        const Rows rows = {L"Keyboard click | "};
+        EXPECT_EQ(screen.RowsOf(wizard, IDC_OPERATION_LIST_ROWS), rows);
+        screen.Choose(wizard, IDC_OPERATION_LIST_ROWS, L"Keyboard click");
+        screen.Press(wizard, IDC_OPERATION_LIST_DOWN);
+        EXPECT_EQ(screen.RowsOf(wizard, IDC_OPERATION_LIST_ROWS), rows);
+        screen.Next(wizard);
+        EXPECT_EQ(Options(screen, wizard), L"oooooo") << "an option that is none";
+        screen.Next(wizard);
+        EXPECT_EQ(screen.PageTitle(wizard), L"Post-Recovery Test Run Options");
+        screen.Check(wizard, IDC_TEST_FLOW_LAST);
+        GoToSummary(screen, wizard, L"Own");
+        EXPECT_EQ(screen.Text(wizard, IDC_SUMMARY_TEXT), L"") << "nothing is said rather than half";
+        EXPECT_EQ(screen.WizardButtons(wizard), L"B n F*");
+        screen.Finish(wizard);
+    });
+    EXPECT_TRUE(
+        Called(L"SetOperations([KeyBoardSimulatorRecoveryAction, object, ProcessControlRecoveryAction])"));
+}
+
+}  // namespace
+}  // namespace recoveryui::test
