@@ -42,7 +42,8 @@ void DrawBox(HDC device, HWND window, HTHEME theme, int size, bool checked) {
 HIMAGELIST CheckImages(HWND window) {
     const int size = ui::ScaleForWindow(window, kImageSize);
     const HIMAGELIST images = ImageList_Create(size, size, ILC_COLOR24, 2, 0);
-    const Theme theme(OpenThemeData(window, L"BUTTON"));
+    // For no window: the list would draw its own border with the theme that was opened for it last.
+    const Theme theme(OpenThemeData(nullptr, L"BUTTON"));
     const HDC screen = GetDC(window);
     const HDC memory = CreateCompatibleDC(screen);
     for (const bool checked : {false, true}) {

@@ -2,8 +2,10 @@
 #include <windows.h>
 
 #include <commctrl.h>
+#include <uxtheme.h>
 
 #include "harness/ProcessorTime.h"
+#include "settings/CheckImages.h"
 #include "settings/SettingsTest.h"
 
 namespace recoveryui::test {
@@ -228,6 +230,15 @@ TEST_F(RecoveryTabTest, ChangesOfReadOnlySettingsCannotBeApplied) {
         EXPECT_FALSE(screen.IsEnabled(frame, kFrameApply));
         EXPECT_FALSE(screen.IsRowChecked(frame, kList, L"A"));
     });
+}
+
+TEST_F(RecoveryTabTest, CheckBoxesLeaveTheListItsBorder) {
+    const HWND list =
+        CreateWindowW(WC_LISTVIEWW, nullptr, WS_POPUP, 0, 0, 9, 9, nullptr, nullptr, nullptr, nullptr);
+    const HTHEME own = GetWindowTheme(list);
+    ImageList_Destroy(settings::CheckImages(list));
+    EXPECT_EQ(GetWindowTheme(list), own);
+    DestroyWindow(list);
 }
 
 TEST_F(RecoveryTabTest, TenThousandScenariosAreThereAtOnceAndTheirFileIsReadOnce) {
