@@ -66,15 +66,17 @@ bool AddScenarioDlg::OnCommand(const ui::Command& command) {
 }
 
 bool AddScenarioDlg::OnNotify(NMHDR& header, LRESULT&) {
-    if (header.idFrom != IDC_ADD_SCENARIO_LIST || header.code != NM_DBLCLK) return false;
+    if (header.idFrom != IDC_ADD_SCENARIO_LIST) return false;
+    if (header.code == NM_SETFOCUS) PostMessageW(Window(), kFileLeft, FALSE, 0);
+    if (header.code != NM_DBLCLK) return false;
     if (reinterpret_cast<const NMITEMACTIVATE&>(header).iItem >= 0 && IsWindowEnabled(Item(IDOK))) Accept();
     return true;
 }
 
-bool AddScenarioDlg::OnMessage(UINT message, WPARAM, LPARAM, LRESULT&) {
+bool AddScenarioDlg::OnMessage(UINT message, WPARAM wParam, LPARAM, LRESULT&) {
     switch (message) {
         case kFileChosen: LoadFile(); return true;
-        case kFileLeft: OnLeftFile(); return true;
+        case kFileLeft: OnLeftFile(wParam != FALSE); return true;
         default: return false;
     }
 }
@@ -88,14 +90,14 @@ void AddScenarioDlg::OnFileCommand(int code) {
     const bool isPicked = code == CBN_SELENDOK ||
                           (code == CBN_SELCHANGE && !SendMessageW(file_.Window(), CB_GETDROPPEDSTATE, 0, 0));
     if (isPicked && !std::exchange(isPickPending_, true)) PostMessageW(Window(), kFileChosen, 0, 0);
-    if (code == CBN_KILLFOCUS) PostMessageW(Window(), kFileLeft, 0, 0);
+    if (code == CBN_KILLFOCUS) PostMessageW(Window(), kFileLeft, GetKeyState(VK_TAB) < 0, 0);
 }
 
-// A path that was typed counts once the user goes on to the list or to "Add Scenario". Whoever cancels, asks
-// for help, browses or turns to another program does not mean it yet.
-void AddScenarioDlg::OnLeftFile() {
+// A path that was typed counts once the user goes on by the keyboard, to the list or to "Add Scenario".
+// Whoever clicks to cancel, to get help or to browse, or turns to another program, does not mean it yet.
+void AddScenarioDlg::OnLeftFile(bool byTab) {
     const HWND focus = GetFocus();
-    if (focus != list_.Window() && focus != Item(IDOK)) return;
+    if (focus != list_.Window() && focus != Item(IDOK) && !(byTab && IsChild(Window(), focus))) return;
     if (ui::TextOf(file_.Window()) != triedPath_) LoadFile();
 }
 

@@ -30,7 +30,7 @@ private:
     void OnHelp() override;
 
     void OnFileCommand(int code);
-    void OnLeftFile();
+    void OnLeftFile(bool byTab);
     void Browse();
     void ShowAsRecent(const std::wstring& path);
     // Shows the scenarios of the combo's file.

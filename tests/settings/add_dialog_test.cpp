@@ -94,6 +94,16 @@ TEST_F(AddDialogTest, AFileThatCannotBeOpenedLeavesTheListAndTakesTheButton) {
                   screen.Enter(dialog, 1001, L"f.trs");
                   screen.Do([=] { SetFocus(GetDlgItem(dialog, kList)); });
                   EXPECT_EQ(screen.RowsOf(dialog, kList), Rows{L"A"});
+                  // So does the Tab key, and the list after a look at the button between.
+                  screen.Enter(dialog, 1001, L"empty.trs");
+                  screen.RealKeys({VK_TAB});
+                  EXPECT_EQ(screen.RowsOf(dialog, kList), Rows{});
+                  screen.Enter(dialog, 1001, L"f.trs");
+                  for (const int next : {IDC_ADD_SCENARIO_BROWSE, kList}) {
+                      EXPECT_EQ(screen.RowsOf(dialog, kList), Rows{});
+                      screen.Do([=] { SetFocus(GetDlgItem(dialog, next)); });
+                  }
+                  EXPECT_EQ(screen.RowsOf(dialog, kList), Rows{L"A"});
                   // Cancelling does not.
                   screen.Enter(dialog, 1001, L"nowhere.trs");
                   screen.Do([=] { SetFocus(GetDlgItem(dialog, IDCANCEL)); });
