@@ -29,6 +29,38 @@ public:
     }
 };
 
+// A scenario of another maker: its operations are variants.
+class ForeignScenario final : public com::Object<ForeignScenario, IRecoveryScenario> {
+public:
+    ForeignScenario(std::vector<com::Variant> operations, IUnknown* trigger)
+        : operations_(std::move(operations)), trigger_(trigger) {}
+
+    HRESULT STDMETHODCALLTYPE GetPostRecoveryOption(long* option) noexcept override {
+        *option = 9;
+        return S_OK;
+    }
+    HRESULT STDMETHODCALLTYPE GetTrigger(IUnknown** trigger) noexcept override {
+        return trigger_.CopyTo(trigger);
+    }
+    HRESULT STDMETHODCALLTYPE GetOperations(SAFEARRAY** operations) noexcept override {
+        com::CVtlSafeArray<VARIANT> array;
+        HRESULT hr = array.Create(static_cast<ULONG>(operations_.size()));
+        for (LONG index = 0; SUCCEEDED(hr) && index < static_cast<LONG>(operations_.size()); ++index)
+            hr = array.PutElement(index, operations_[static_cast<size_t>(index)]);
+        *operations = array.Detach();
+        return hr;
+    }
+    HRESULT STDMETHODCALLTYPE GetDescription(BSTR*) noexcept override { return E_FAIL; }
+    HRESULT STDMETHODCALLTYPE SetPostRecoveryOption(long) noexcept override { return E_NOTIMPL; }
+    HRESULT STDMETHODCALLTYPE SetTrigger(IUnknown*) noexcept override { return E_NOTIMPL; }
+    HRESULT STDMETHODCALLTYPE SetOperations(SAFEARRAY*) noexcept override { return E_NOTIMPL; }
+    HRESULT STDMETHODCALLTYPE SetDescription(BSTR) noexcept override { return E_NOTIMPL; }
+
+private:
+    std::vector<com::Variant> operations_;
+    com::Ptr<IUnknown> trigger_;
+};
+
 class WizardPagesTest : public WizardTest {
 protected:
     com::Ptr<IPopUpRecoveryTrigger> PopUp(const std::wstring& title, long titleIsRegex = 0,
@@ -272,18 +304,14 @@ TEST_F(WizardPagesTest, TheHostDecidesWhetherTheDefaultSettingsAreOffered) {
     }
 }
 
-TEST_F(WizardPagesTest, AnUnknownOperationEndsTheListAndChangesPlacesWithNothing) {
-    const auto scenario = New<IRecoveryScenario>(L"Vantrel.ReplayRecoveryScenario");
-    const auto keys = New<IRecoveryAction>(L"Vantrel.KeyBoardSimulatorRecoveryAction");
-    const auto processes = New<IRecoveryAction>(L"Vantrel.ProcessControlRecoveryAction");
-    const com::Ptr<IRecoveryAction> operations[] = {keys, NewerOperation::Make().Get(), processes};
-    com::CVtlSafeArray<VARIANT> array;
-    ASSERT_EQ(array.Create(3), S_OK);
-    for (LONG i = 0; i < 3; ++i)
-        ASSERT_EQ(array.PutElement(i, com::Variant(static_cast<IUnknown*>(operations[i].Get()))), S_OK);
-    ASSERT_EQ(scenario->SetOperations(array.Get()), S_OK);
-    ASSERT_EQ(scenario->SetPostRecoveryOption(9), S_OK);
-    ASSERT_EQ(scenario->SetTrigger(PopUp(L"Error").Get()), S_OK);
+TEST_F(WizardPagesTest, AForeignScenarioIsReadAsFarAsItGoesAndItsUnknownOperationStaysInItsPlace) {
+    const auto keys = New<IUnknown>(L"Vantrel.KeyBoardSimulatorRecoveryAction");
+    const auto processes = New<IUnknown>(L"Vantrel.ProcessControlRecoveryAction");
+    const auto newer = NewerOperation::Make();
+    const auto scenario = ForeignScenario::Make(
+        std::vector{com::Variant(keys.Get()), com::Variant(static_cast<IUnknown*>(newer.Get())),
+                    com::Variant(processes.Get()), com::Variant(), com::Variant(keys.Get())},
+        PopUp(L"Error").Get());
     wizard_->put_Scenario(scenario.Get());
     Run([&](UserScreen& screen, HWND wizard) {
         NextUntil(screen, wizard, L"Recovery Operations");
