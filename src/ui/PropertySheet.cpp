@@ -1,8 +1,29 @@
 #include "ui/PropertySheet.h"
 
+#include <commctrl.h>
+
 #include "com/Guard.h"
 
 namespace recoveryui::ui {
+namespace {
+
+constexpr UINT_PTR kHelpSubclass = 1;
+
+// F1 on a button of the sheet's own asks the sheet, which leaves it to nobody: it is to do what Help does.
+LRESULT CALLBACK HelpProcedure(HWND sheet, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR id,
+                               DWORD_PTR) noexcept {
+    if (message == WM_NCDESTROY) RemoveWindowSubclass(sheet, &HelpProcedure, id);
+    if (message != WM_HELP) return DefSubclassProc(sheet, message, wParam, lParam);
+    SendMessageW(sheet, WM_COMMAND, IDHELP, 0);
+    return TRUE;
+}
+
+int CALLBACK OnSheet(HWND sheet, UINT event, LPARAM) noexcept {
+    if (event == PSCB_INITIALIZED) SetWindowSubclass(sheet, &HelpProcedure, kHelpSubclass, 0);
+    return 0;
+}
+
+}  // namespace
 
 bool PropertySheet::ShowModal(HWND owner) {
     std::vector<HPROPSHEETPAGE> handles;
@@ -18,7 +39,8 @@ bool PropertySheet::ShowModal(HWND owner) {
 
     PROPSHEETHEADERW header{};
     header.dwSize = sizeof header;
-    header.dwFlags = PSH_HASHELP | PSH_NOCONTEXTHELP;
+    header.dwFlags = PSH_HASHELP | PSH_NOCONTEXTHELP | PSH_USECALLBACK;
+    header.pfnCallback = &OnSheet;
     // With HASFINISH the three buttons stay visible and each can be disabled on its own.
     header.dwFlags |= kind_ == Kind::Wizard ? PSH_WIZARD | PSH_WIZARDHASFINISH : PSH_NOAPPLYNOW;
     header.hwndParent = owner;

@@ -7,6 +7,7 @@
 #include "com/Create.h"
 #include "com/SafeArray.h"
 #include "harness/ComTest.h"
+#include "harness/HelpViewer.h"
 #include "harness/ProcessWindows.h"
 #include "model/FakeTestObject.h"
 #include "resources/ids.h"
@@ -16,15 +17,6 @@ namespace {
 
 constexpr const wchar_t* kTitle = L"Recovery Scenario Properties";
 constexpr int kHelpButton = 9;
-
-class HelpViewer final : public com::Object<HelpViewer, IHelpViewer> {
-public:
-    HRESULT STDMETHODCALLTYPE ShowTopic(long, BSTR topic) noexcept override {
-        topics += L" " + std::wstring(com::ViewOf(topic));
-        return S_OK;
-    }
-    std::wstring topics;
-};
 
 Rows Tabs(UserScreen& screen, HWND sheet) {
     Rows names;
@@ -133,7 +125,7 @@ TEST_F(PropertiesSheetTest, AReaderLeafsThroughAPopUpScenarioAndChangesNothing) 
                   screen.Picture(sheet, L"properties-popup");
                   ExpectReadOnly(screen, sheet);
                   screen.Press(sheet, kHelpButton);
-                  EXPECT_EQ(help_->topics, L" Und_Recovery_Scenario_Properties_Dialog_Box.htm");
+                  EXPECT_EQ(help_->Take(), L"Und_Recovery_Scenario_Properties_Dialog_Box.htm");
               }),
               S_OK);
 
