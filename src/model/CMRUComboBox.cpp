@@ -37,9 +37,8 @@ std::optional<std::wstring> ReadValue(HKEY key, const std::wstring& name) {
     if (RegQueryValueExW(key, name.c_str(), nullptr, nullptr, reinterpret_cast<BYTE*>(value.data()), &size) !=
         ERROR_SUCCESS)
         return std::nullopt;
-    // Stored with its terminator, or by somebody else without one.
-    value.resize(value.find(L'\0'));
-    return value;
+    // Stored with its terminator, or by somebody else without one, or with half a character at its end.
+    return std::wstring(value.c_str());
 }
 
 }  // namespace
@@ -65,6 +64,7 @@ bool CMRUComboBox::LoadMRU(HKEY parent, const std::wstring& keyPath, const std::
     key_ = ui::Owned<HKEY, RegistryKeyCloser>(key);
     const auto value = ReadValue(key, valueName);
     if (!value) return false;
+    SendMessageW(combo_, CB_RESETCONTENT, 0, 0);
     for (const std::wstring& entry : SplitEntries(*value, maximum)) {
         if (SendMessageW(combo_, CB_ADDSTRING, 0, Text(entry)) < 0) return false;
     }

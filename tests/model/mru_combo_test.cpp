@@ -76,14 +76,22 @@ TEST_F(MruComboTest, AValueThatSomebodyElseWroteIsReadAsFarAsItGoes) {
     Store(L"one;;two;", 8);  // without its end
     ASSERT_TRUE(Load());
     EXPECT_EQ(Entries(), L"one|two|");
+    ASSERT_TRUE(Load());
+    EXPECT_EQ(Entries(), L"one|two|") << "bound once more, not filled twice";
+    RegSetKeyValueW(HKEY_CURRENT_USER, kKey, kValue, REG_BINARY, L"ab", 3);
+    ASSERT_TRUE(Load());
+    EXPECT_EQ(Entries(), L"ab|");
 }
 
 TEST_F(MruComboTest, WithoutAKeyItIsAPlainComboThatRemembersNothing) {
     Store(L"kept", 5);
+    ASSERT_TRUE(Load());  // what was bound before is so no more
     EXPECT_FALSE(combo_.LoadMRU(HKEY_CURRENT_USER, L"", kValue, 4));
     EXPECT_FALSE(combo_.LoadMRU(HKEY_CURRENT_USER, L"Software\\RecoveryUITests\\None", kValue, 4));
+    HKEY made = nullptr;
+    EXPECT_NE(RegOpenKeyW(HKEY_CURRENT_USER, L"Software\\RecoveryUITests\\None", &made), ERROR_SUCCESS);
     for (const wchar_t* path : {L"a", L"a", L"b", L"c", L"d"}) combo_.AddString(path);
-    EXPECT_EQ(Entries(), L"a|a|b|c|d|");
+    EXPECT_EQ(Entries(), L"kept|a|a|b|c|d|");
     Close();
     EXPECT_EQ(Stored(), L"kept");
 }
