@@ -67,7 +67,7 @@ void UserScreen::WaitUntilClosed(HWND window) {
     WaitUntil("the window closes", [&] { return !IsWindow(window); });
 }
 
-std::wstring UserScreen::AnswerBox(WORD button, const wchar_t* caption) {
+HWND UserScreen::WaitForBox() {
     HWND box = nullptr;
     WaitUntil("a message box", [&] {
         for (const HWND window : TopLevelWindows()) {
@@ -76,6 +76,38 @@ std::wstring UserScreen::AnswerBox(WORD button, const wchar_t* caption) {
         }
         return box != nullptr;
     });
+    return box;
+}
+
+std::wstring UserScreen::BoxLook() {
+    const struct {
+        LPWSTR icon;
+        const wchar_t* name;
+    } icons[] = {{IDI_ERROR, L"error:"},
+                 {IDI_QUESTION, L"question:"},
+                 {IDI_WARNING, L"warning:"},
+                 {IDI_INFORMATION, L"information:"}};
+    constexpr std::pair<int, const wchar_t*> kButtons[] = {
+        {IDYES, L"Yes"}, {IDNO, L"No"}, {IDOK, L"OK"}, {IDCANCEL, L"Cancel"}};
+    const HWND box = WaitForBox();
+    std::wstring look;
+    for (const HWND child : Descendants(box)) {
+        const bool isIcon = (GetWindowLongW(child, GWL_STYLE) & SS_TYPEMASK) == SS_ICON;
+        if (ClassOf(child) != L"Static" || !isIcon) continue;
+        const auto shown = reinterpret_cast<HICON>(Ask(child, STM_GETICON));
+        for (const auto& icon : icons)
+            if (LoadIconW(nullptr, icon.icon) == shown) look = icon.name;
+    }
+    const int standard = FocusId();
+    for (const auto& [id, name] : kButtons) {
+        if (!IsWindowVisible(GetDlgItem(box, id))) continue;
+        look += id == standard ? L" [" + std::wstring(name) + L"]" : L" " + std::wstring(name);
+    }
+    return look;
+}
+
+std::wstring UserScreen::AnswerBox(WORD button, const wchar_t* caption) {
+    const HWND box = WaitForBox();
     if (TextOf(box) != caption) Fail("the message box is called " + Name(box));
     const std::wstring text = TextOf(GetDlgItem(box, kBoxText));
     Press(box, button);

@@ -30,6 +30,8 @@ public:
     void WaitUntil(const char* what, const std::function<bool()>& condition);
     // Waits for a message box of the product, answers it, and gives its text.
     std::wstring AnswerBox(WORD button, const wchar_t* caption = L"Tovarin");
+    // The open message box: its icon and its buttons, the default one in brackets ("question: Yes [No]").
+    std::wstring BoxLook();
     void Close(HWND window);
     // Leaves "<name>.bmp" in the folder RECOVERYUI_SHOTS, when that is set.
     void Picture(HWND window, const std::wstring& name);
@@ -87,6 +89,7 @@ public:
     LRESULT Ask(HWND window, UINT message, WPARAM wParam = 0, LPARAM lParam = 0);
 
 private:
+    HWND WaitForBox();
     HWND Usable(HWND window, int id);
     int RowIndex(HWND list, const std::wstring& row);
     void ClickRow(HWND list, int index, bool twice);

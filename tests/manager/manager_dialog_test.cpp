@@ -124,6 +124,7 @@ TEST_F(ManagerTest, PastingOverAnExistingNameAsksFirst) {
         screen.RealKeys({VK_CONTROL, 'C'});
         screen.RealKeys({VK_CONTROL, 'V'});
         screen.Picture(screen.WaitForWindow(L"Tovarin"), L"manager-paste-question");
+        EXPECT_EQ(screen.BoxLook(), L"question: Yes [No]");
         EXPECT_EQ(screen.AnswerBox(IDNO), kReplaceQuestion);
         screen.Choose(manager, IDC_MANAGER_LIST, L"one");
         screen.Press(manager, IDC_MANAGER_SAVE);
@@ -136,6 +137,7 @@ TEST_F(ManagerTest, PastingOverAnExistingNameAsksFirst) {
         EXPECT_EQ(screen.FocusId(), IDC_MANAGER_LIST);
         EXPECT_EQ(Names(screen, manager), (Rows{L"one", L"two"}));
         screen.Press(manager, IDCANCEL);
+        EXPECT_EQ(screen.BoxLook(), L"question: [Yes] No Cancel");
         EXPECT_EQ(screen.AnswerBox(IDYES), kSaveQuestion);
     });
 }
@@ -209,6 +211,8 @@ TEST_F(ManagerTest, KeysMenusAndDroppedFilesDoWhatTheButtonsDo) {
         screen.Do([&] { SetFocus(GetDlgItem(manager, IDC_MANAGER_LIST)); });
         screen.Type(L"tw");
         EXPECT_EQ(Chosen(screen, manager), L"two");
+        screen.RealKeys({VK_MENU, VK_RETURN});
+        screen.Press(screen.WaitForWindow(L"Recovery Scenario Properties"), IDCANCEL);
 
         screen.Do([&] {
             PostMessageW(manager, WM_CONTEXTMENU,

@@ -61,6 +61,7 @@ TEST_F(ManagerTest, WhatCannotBeOpenedOrSavedChangesNothing) {
         }
         FailCall(L"RecoveryRepository", L"Save", E_FAIL);
         SaveAs(screen, manager, Path(L"other.trs"));
+        EXPECT_EQ(screen.BoxLook(), L"warning: [OK]");
         screen.AnswerBox(IDOK);
         expectUnchanged();
 

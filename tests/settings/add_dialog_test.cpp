@@ -83,6 +83,7 @@ TEST_F(AddDialogTest, AFileThatCannotBeOpenedLeavesTheListAndTakesTheButton) {
                   EnterFile(screen, dialog, L"f.trs");
                   EXPECT_TRUE(screen.IsEnabled(dialog, IDOK));
                   EnterFile(screen, dialog, L"C:\\no\\such.trs");
+                  EXPECT_EQ(screen.BoxLook(), L"warning: [OK]");
                   EXPECT_EQ(screen.AnswerBox(IDOK), L"C:\\no\\such.trs\nFilename or path not found.");
                   EXPECT_EQ(screen.RowsOf(dialog, kList), Rows{L"A"});
                   EXPECT_FALSE(screen.IsEnabled(dialog, IDOK));

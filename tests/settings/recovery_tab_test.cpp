@@ -56,8 +56,10 @@ TEST_F(RecoveryTabTest, ScenariosOfTwoFilesAreAddedOrderedSwitchedOffAndFoundAga
         EXPECT_EQ(Global(L"g_bAllowApply"), 0);
 
         Add(screen, frame, common, {L"Error", L"Popup"});
+        EXPECT_EQ(screen.BoxLook(), L"warning: [OK]");
         EXPECT_EQ(screen.AnswerBox(IDOK), L"The 'Popup' scenario is already associated with your test.");
         Add(screen, frame, other, {L"Popup"});
+        EXPECT_EQ(screen.BoxLook(), L"information: [OK]");
         EXPECT_EQ(screen.AnswerBox(IDOK),
                   L"You have selected a different file path for the Popup scenario.  Confirm that the Popup "
                   L"scenario is defined in this file before you run your test.");
@@ -152,6 +154,7 @@ TEST_F(RecoveryTabTest, AScenarioIsLookedForByItsLettersAndShownInItsSheet) {
         screen.Do([=] { SetFocus(list); });
         screen.Type(L"sto");
         EXPECT_EQ(screen.Chosen(frame, kList), Rows{L"Stop | " + file});
+        screen.Press(frame, IDC_RECOVERY_DOWN);  // nowhere to go: nothing is changed
         screen.Press(frame, IDC_RECOVERY_PROPERTIES);
         const HWND sheet = screen.WaitForWindow(L"Recovery Scenario Properties");
         EXPECT_EQ(screen.Text(sheet, IDC_GENERAL_NAME), L"Stop");
@@ -208,6 +211,7 @@ TEST_F(RecoveryTabTest, WhatIsRefusedStaysToBeWritten) {
     const auto seen = OpenSettings([&](UserScreen& screen, HWND frame) {
         FailCall(L"TestOptions.ReplayRecovery", L"SetOptionValue", E_FAIL, 1, 2);
         screen.Press(frame, IDC_RECOVERY_SET_DEFAULT);
+        EXPECT_EQ(screen.BoxLook(), L"error: [OK]");
         EXPECT_EQ(screen.AnswerBox(IDOK),
                   L"Failed to set your Recovery Scenarios settings as the default for new tests.");
         EXPECT_EQ(Buttons(screen, frame).back(), 'S');

@@ -44,6 +44,7 @@ TEST_F(FrameProtocolTest, OkAndApplyWaitForAForcedConfiguration) {
                 SetGlobal(L"g_bAllowApply", com::Variant(7L));
                 screen.Press(frame, button);
                 if (isRefused) {
+                    EXPECT_EQ(screen.BoxLook(), L"error: [OK]");
                     EXPECT_EQ(screen.AnswerBox(IDOK), L"Configure first.");
                 }
                 EXPECT_EQ(Global(L"g_bAllowApply"), 1);
@@ -64,6 +65,7 @@ TEST_F(FrameProtocolTest, CancelAndTheCloseBoxAskWhileAForcedConfigurationIsMiss
                 const auto leave = [&] { isCloseBox ? screen.Close(frame) : screen.Press(frame, IDCANCEL); };
                 leave();
                 if (forced && !done) {
+                    EXPECT_EQ(screen.BoxLook(), L"warning: [OK] Cancel");
                     EXPECT_EQ(screen.AnswerBox(IDCANCEL), L"Leave it incomplete?");
                     EXPECT_TRUE(IsWindow(frame));
                     leave();
