@@ -2,7 +2,6 @@
 #include <gtest/gtest.h>
 
 #include <cstdio>
-#include <cstring>
 
 #include "harness/ProcessWindows.h"
 
@@ -15,13 +14,6 @@ class WatchdogPerTest : public testing::EmptyTestEventListener {
 }  // namespace
 
 int main(int count, char** arguments) {
-    // Wine closes a desktop that nobody uses and takes a second for it, in which the next test waits.
-    if (count == 2 && std::strcmp(arguments[1], "--hold-desktop") == 0) {
-        GetDesktopWindow();
-        std::puts("held");
-        std::fflush(stdout);
-        Sleep(INFINITE);
-    }
     // What a killed test had to say is not lost.
     std::setvbuf(stdout, nullptr, _IONBF, 0);
     recoveryui::test::ReportCrashes();
