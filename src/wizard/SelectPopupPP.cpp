@@ -36,7 +36,7 @@ com::Ptr<IWindowTextSource> TextSourceAmong(const std::vector<com::Ptr<IDispatch
     return nullptr;
 }
 
-void EnableCondition(HWND page, const Controls& controls, bool enabled) {
+void Enable(HWND page, const Controls& controls, bool enabled) {
     ui::Enable(GetDlgItem(page, controls.value), enabled);
     ui::Enable(GetDlgItem(page, controls.regex), enabled);
 }
@@ -55,6 +55,8 @@ void SelectPopupPP::OnInit() {
     const bool isPopup = State().trigger && model::TriggerKindFrom(kind) == model::TriggerKind::PopUp;
     const auto popup = isPopup ? com::Query<IPopUpRecoveryTrigger>(State().trigger.Get()) : nullptr;
     Show(popup ? ReadTrigger(*popup.Get()) : FreshConditions());
+    // A title that was never set is ready to be typed, before its box is checked.
+    if (popup) Enable(Window(), kTitle, true);
 }
 
 // A title that cannot be read ends the initialisation; a text that cannot be read only leaves its condition out.
@@ -78,14 +80,19 @@ void SelectPopupPP::Show(const PopupConditions& conditions) {
     Muted muted(*this);
     ShowCondition(Window(), kTitle, conditions.title);
     ShowCondition(Window(), kText, conditions.text);
-    Refresh();
+    Enable(Window(), kTitle, conditions.title.checked);
+    Enable(Window(), kText, conditions.text.checked);
+    Validate();
 }
 
-void SelectPopupPP::Refresh() {
-    const PopupConditions conditions = Read();
-    EnableCondition(Window(), kTitle, conditions.title.checked);
-    EnableCondition(Window(), kText, conditions.text.checked);
-    SetCanAdvance(conditions.Complete());
+void SelectPopupPP::Validate() {
+    SetCanAdvance(Read().Complete());
+}
+
+// Only a click enables or disables: nobody is to lose the box he types in.
+void SelectPopupPP::OnChecked(int check) {
+    Enable(Window(), check == kTitle.check ? kTitle : kText, ui::IsChecked(Item(check)));
+    Validate();
 }
 
 bool SelectPopupPP::OnCommand(const ui::Command& command) {
@@ -95,11 +102,11 @@ bool SelectPopupPP::OnCommand(const ui::Command& command) {
             return true;
         case IDC_POPUP_TITLE_CHECK:
         case IDC_POPUP_TEXT_CHECK:
-            if (command.code == BN_CLICKED) Refresh();
+            if (command.code == BN_CLICKED) OnChecked(command.id);
             return true;
         case IDC_POPUP_TITLE:
         case IDC_POPUP_TEXT:
-            if (command.code == EN_CHANGE) Refresh();
+            if (command.code == EN_CHANGE) Validate();
             return true;
         default:
             return WizardPPBase::OnCommand(command);

@@ -20,7 +20,8 @@ private:
     PopupConditions ReadTrigger(IPopUpRecoveryTrigger& trigger) const;
     PopupConditions Read() const;
     void Show(const PopupConditions& conditions);
-    void Refresh();  // enabling and Next, after every change
+    void Validate();  // Next, after every change
+    void OnChecked(int check);
     void OnPointingHand();
 
     PointingHand hand_;

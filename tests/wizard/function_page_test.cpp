@@ -44,6 +44,12 @@ protected:
         std::ofstream(folder_ / name, std::ios::binary) << text;
     }
 
+    std::string Read(const wchar_t* name) const {
+        std::ostringstream text;
+        text << std::ifstream(folder_ / name, std::ios::binary).rdbuf();
+        return text.str();
+    }
+
     static void OpenPage(UserScreen& screen, HWND wizard) {
         AddOperation(screen, wizard, IDC_SELECT_OPERATION_FUNCTION);
         EXPECT_EQ(screen.PageTitle(wizard), kPage);
@@ -158,9 +164,7 @@ TEST_F(FunctionPageTest, ANewFunctionTakesItsNameForItselfAndReachesTheLibraryAt
                   screen.Finish(wizard);
               }),
               S_OK);
-    std::ostringstream library;
-    library << std::ifstream(folder_ / L"lib.vbs", std::ios::binary).rdbuf();
-    EXPECT_EQ(library.str(), std::string(kLibrary) + "\r\nFunction Fix(Object)\r\n\r\nEnd Function");
+    EXPECT_EQ(Read(L"lib.vbs"), std::string(kLibrary) + "\r\nFunction Fix(Object)\r\n\r\nEnd Function");
 }
 
 TEST_F(FunctionPageTest, ALibraryIsLoadedOnLeavingItsBoxAndRefusedWithAReason) {
@@ -281,6 +285,45 @@ TEST_F(FunctionPageTest, AFileIsFoundWithTheHostsDialog) {
                   screen.Cancel(wizard);
               }),
               S_FALSE);
+}
+
+// Deleted with its operation, its library gone or no longer to be found: only what is left is written.
+TEST_F(FunctionPageTest, FinishWritesInOrderUntilALibraryCannotBeFound) {
+    rack_.Put(L"TovPluginMgrObject", L"Tovarin.PluginMgr");
+    Write(L"gone.vbs", "");
+    Write(L"late.vbs", "");
+    const std::pair<std::wstring, const wchar_t*> functions[] = {{L"lib.vbs", L"Deleted"},
+                                                                 {Path(L"gone.vbs"), L"Skipped"},
+                                                                 {L"LIB.VBS", L"Written"},
+                                                                 {L"late.vbs", L"Last"},
+                                                                 {L"lib.vbs", L"Dropped"}};
+    EXPECT_EQ(Run([&](UserScreen& screen, HWND wizard) {
+                  for (const auto& [library, name] : functions) {
+                      OpenPage(screen, wizard);
+                      Load(screen, wizard, library);
+                      screen.Check(wizard, IDC_FUNC_DEFINE);
+                      screen.Enter(wizard, IDC_FUNC_NAME, name);
+                      screen.Next(wizard);
+                      screen.Check(wizard, IDC_OPERATION_LIST_ANOTHER);
+                  }
+                  screen.Choose(wizard, IDC_OPERATION_LIST_ROWS, L"Function call");
+                  screen.Press(wizard, IDC_OPERATION_LIST_DELETE);
+                  EXPECT_EQ(screen.RowsOf(wizard, IDC_OPERATION_LIST_ROWS).size(), 4u);
+                  screen.Check(wizard, IDC_OPERATION_LIST_ANOTHER, false);
+                  NextUntil(screen, wizard, L"Name and Description");
+                  screen.Enter(wizard, IDC_SCEN_NAME, L"scenario");
+                  screen.Next(wizard);
+                  fs::remove(folder_ / L"gone.vbs");
+                  fs::remove(folder_ / L"late.vbs");
+                  ForgetCalls();
+                  screen.Finish(wizard);
+              }),
+              S_OK);
+    EXPECT_EQ(Read(L"lib.vbs"), std::string(kLibrary) + "\r\nFunction Written(Object)\r\n\r\nEnd Function");
+    EXPECT_FALSE(fs::exists(folder_ / L"gone.vbs"));
+    const std::wstring calls = Calls();
+    EXPECT_EQ(calls.find(L"LibraryChanged"), calls.rfind(L"LibraryChanged")) << Utf8(calls);
+    EXPECT_NE(calls.find(L"LibraryChanged"), std::wstring::npos);
 }
 
 TEST_F(FunctionPageTest, ALargeLibraryIsShownWithinABlink) {

@@ -165,6 +165,23 @@ TEST_F(PointingHandTest, PointingAtADialogOffersTheLabelsOfItsButtons) {
                                    L"The dialog box or window you clicked does not contain any buttons");
                          EXPECT_TRUE(screen.RowsOf(wizard, IDC_CLICK_LABEL_LIST).empty());
                          EXPECT_FALSE(next(screen, wizard));
+
+                         object->window = target_.Login();
+                         Point(screen, wizard, IDC_CLICK_HAND, target_.Login());
+                         screen.Choose(wizard, IDC_CLICK_LABEL_LIST, L"Cancel");
+                         ForgetCalls();
+                         screen.Next(wizard);
+                         EXPECT_EQ(screen.RowsOf(wizard, IDC_OPERATION_LIST_ROWS),
+                                   Rows{L"Keyboard click | Click button with label: Cancel "});
+                         const std::wstring calls = Calls();
+                         size_t place = 0;
+                         for (const wchar_t* call :
+                              {L".SetTargetKind(2)",
+                               L".SetMethodName(\"PseudoMethod_SubButton_EC782BF2-CCE6-4d77-AC31-14EC4C8AF2AC\")",
+                               L".SetMethodArguments([\"Cancel\", \"Click\"])"}) {
+                             place = calls.find(call, place);
+                             EXPECT_NE(place, std::wstring::npos) << Utf8(call) << Utf8(calls);
+                         }
                      }),
               S_FALSE);
 }

@@ -1,4 +1,8 @@
 // The two pages that ask for process names.
+#include <windows.h>
+
+#include <prsht.h>
+
 #include "com/SafeArray.h"
 #include "harness/ProcessorTime.h"
 #include "process/RunningProcesses.h"
@@ -165,6 +169,33 @@ TEST_F(ProcessPagesTest, ACrashTriggersNamesComeBackAndItsButtonsExplainThemselv
                   S_FALSE);
     }
     EXPECT_TRUE(Called(L"CrashRecoveryTrigger.SetProcesses([\"a.exe\", \"A.exe\", \"b.exe\"])"));
+}
+
+// The buttons are explained unless a trigger of the page's own kind, or of none, gives nothing to show.
+TEST_F(ProcessPagesTest, WhatCannotBeReadOfATriggerEndsThePagesInitialisation) {
+    const struct {
+        const wchar_t* trigger;
+        const wchar_t* failing;
+        bool tips;
+    } cases[] = {
+        {L"Vantrel.CrashRecoveryTrigger", L"GetTriggerKind", false},
+        {L"Vantrel.CrashRecoveryTrigger", L"GetProcesses", false},
+        {L"Vantrel.ErrorRecoveryTrigger", nullptr, true},
+    };
+    for (const auto& each : cases) {
+        Edit(New<IRecoveryTrigger>(each.trigger).Get());
+        if (each.failing) FailCall(L"CrashRecoveryTrigger", each.failing, E_FAIL, 1, 0);
+        EXPECT_EQ(Run([&](UserScreen& screen, HWND wizard) {
+                      screen.Do([&] { SendMessageW(wizard, PSM_SETCURSELID, 0, IDD_CRASH); });
+                      EXPECT_EQ(screen.PageTitle(wizard), L"Select Processes");
+                      EXPECT_FALSE(CanGoOn(screen, wizard));
+                      for (const int button : {IDC_PROCESSES_NEW, IDC_PROCESSES_REMOVE})
+                          EXPECT_EQ(!screen.Tip(wizard, button).empty(), each.tips) << button;
+                      screen.Cancel(wizard);
+                  }),
+                  S_FALSE);
+        ClearFaults();
+    }
 }
 
 TEST_F(ProcessPagesTest, HundredsOfNamesAreShownWithinABlink) {
