@@ -249,7 +249,9 @@ Leave OperationFuncPP::OnNext() {
     com::Ptr<IFunctionCallRecoveryAction> operation;
     com::Check(com::Create(L"Vantrel.FunctionCallRecoveryAction", operation));
     com::Check(operation->SetFunctionName(com::Bstr(function.name).Get()));
-    com::Check(operation->SetLibraryPath(com::Bstr(fullPath_).Get()));
+    // The file may have moved since it was loaded.
+    function.fullPath = model::FullPath(State().rack.Get(), function.typedPath);
+    com::Check(operation->SetLibraryPath(com::Bstr(function.fullPath).Get()));
     com::Check(operation->SetPrototypeMode(prototype_.mode));
     const Leave leave = AddOperation(operation.Get());
     if (defining) State().newFunctions.Add(std::move(function));

@@ -43,4 +43,15 @@ testing::AssertionResult WizardTest::Called(const std::wstring& call) {
     return testing::AssertionFailure() << Utf8(call) << " is not among\n" << Utf8(calls);
 }
 
+testing::AssertionResult WizardTest::CalledInOrder(std::initializer_list<const wchar_t*> order) {
+    const std::wstring calls = Calls();
+    size_t place = 0;
+    for (const wchar_t* call : order) {
+        place = calls.find(call, place);
+        if (place == std::wstring::npos)
+            return testing::AssertionFailure() << Utf8(call) << " is not in its place among\n" << Utf8(calls);
+    }
+    return testing::AssertionSuccess();
+}
+
 }  // namespace recoveryui::test

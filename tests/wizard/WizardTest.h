@@ -22,6 +22,8 @@ protected:
     static void AddOperation(UserScreen& screen, HWND wizard, int radio);
     // Whether the stand-ins were called so since the test began.
     testing::AssertionResult Called(const std::wstring& call);
+    // The same, one after the other.
+    testing::AssertionResult CalledInOrder(std::initializer_list<const wchar_t*> order);
 
     Rack rack_;
     com::Ptr<IRecoveryRepository> repository_;

@@ -88,11 +88,8 @@ TEST_F(ObjectPagesTest, WhatIsTypedReachesTheObjectAndNextMakesATriggerOfIt) {
             screen.Next(wizard);
             EXPECT_EQ(screen.PageTitle(wizard), kOperationsTitle);
             EXPECT_EQ(object_->Identification(), L"*text='Your .*'/ *x='wide' items=? visible=True");
-            const std::wstring calls = Calls();
-            const size_t rack = calls.find(L"ObjectStateRecoveryTrigger.SetRack");
-            const size_t object = calls.find(L"ObjectStateRecoveryTrigger.SetTestObject");
-            const size_t option = calls.find(L"ObjectStateRecoveryTrigger.SetObjectStateOption(0)");
-            EXPECT_TRUE(rack < object && object < option && option != std::wstring::npos) << Utf8(calls);
+            EXPECT_TRUE(CalledInOrder({L"ObjectStateRecoveryTrigger.SetRack", L".SetTestObject",
+                                       L".SetObjectStateOption(0)"}));
 
             // The page is as it was left; what a failing host keeps from being made stays here.
             screen.Back(wizard);

@@ -2,7 +2,6 @@
 #include <windows.h>
 
 #include <commctrl.h>
-#include <prsht.h>
 
 #include "com/SafeArray.h"
 #include "wizard/WizardTest.h"
@@ -227,46 +226,6 @@ TEST_F(WizardWalkTest, StaysOnThePageWhenAHostCallFails) {
         screen.Finish(wizard);
     });
     EXPECT_EQ(result, S_OK);
-}
-
-TEST_F(WizardWalkTest, APopUpTriggerShowsWhatCanBeReadOfIt) {
-    const struct {
-        const wchar_t* title;
-        const wchar_t* text;
-        const wchar_t* failing;
-        bool titleChecked, textChecked, canGoOn;
-    } cases[] = {
-        {L"", L"a\nb", nullptr, false, true, true},
-        {L"", L"", nullptr, false, false, false},
-        {L"Error", L"a", L"GetTriggerKind", false, false, false},
-        {L"Error", L"a", L"GetWindowTitle", false, false, false},
-        {L"Error", L"a", L"GetWindowText", true, false, true},
-    };
-    for (const auto& each : cases) {
-        const auto trigger = New<IPopUpRecoveryTrigger>(L"Vantrel.PopUpRecoveryTrigger");
-        trigger->SetWindowTitle(com::Bstr(each.title).Get(), 0);
-        trigger->SetWindowText(com::Bstr(each.text).Get(), 1);
-        Edit(trigger.Get());
-        if (each.failing) FailCall(L"PopUpRecoveryTrigger", each.failing, E_FAIL, 1, 0);
-        EXPECT_EQ(Run([&](UserScreen& screen, HWND wizard) {
-                      screen.Do([&] { SendMessageW(wizard, PSM_SETCURSELID, 0, IDD_POPUP); });
-                      EXPECT_EQ(screen.IsChecked(wizard, IDC_POPUP_TITLE_CHECK), each.titleChecked);
-                      EXPECT_EQ(screen.IsChecked(wizard, IDC_POPUP_TEXT_CHECK), each.textChecked);
-                      EXPECT_EQ(screen.IsEnabled(wizard, IDC_POPUP_TEXT), each.textChecked);
-                      EXPECT_EQ(screen.IsChecked(wizard, IDC_POPUP_TEXT_REGEX), each.textChecked);
-                      EXPECT_EQ(screen.IsEnabled(wizard, 0x3024), each.canGoOn);
-                      screen.Enter(wizard, IDC_POPUP_TITLE, L"typed");
-                      EXPECT_TRUE(screen.IsEnabled(wizard, IDC_POPUP_TITLE)) << "while it is typed in";
-                      ForgetCalls();
-                      if (each.canGoOn) screen.Next(wizard);
-                      const std::wstring calls = Calls();
-                      EXPECT_EQ(calls.find(L".SetWindowTitle(") != calls.npos, each.titleChecked);
-                      EXPECT_EQ(calls.find(L".SetWindowText(") != calls.npos, each.textChecked);
-                      screen.Cancel(wizard);
-                  }),
-                  S_FALSE);
-        ClearFaults();
-    }
 }
 
 TEST_F(WizardWalkTest, RefusesANameThatTheFileHasAlready) {
