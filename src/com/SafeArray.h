@@ -109,24 +109,28 @@ public:
     // Elements of the first dimension; 0 for no array.
     ULONG Count() const noexcept { return array_ ? static_cast<ULONG>(UpperBound() - LowerBound() + 1) : 0; }
 
-    // A copy of the element at an index counted from the lower bound.
-    [[nodiscard]] HRESULT GetElement(LONG index, Owner* element) const {
-        CheckIndex(index);
-        return SafeArrayGetElement(array_, &index, Traits::Receive(*element));
+    // A copy of the element at an index; the second one is for an array of two dimensions.
+    [[nodiscard]] HRESULT GetElement(LONG index, Owner* element, LONG second = 0) const {
+        LONG place[] = {index, second};
+        CheckIndex(index, second);
+        return SafeArrayGetElement(array_, place, Traits::Receive(*element));
     }
     // Stores a copy of the element.
-    [[nodiscard]] HRESULT PutElement(LONG index, const Owner& element) {
-        CheckIndex(index);
-        return SafeArrayPutElement(array_, &index, Traits::Address(element));
+    [[nodiscard]] HRESULT PutElement(LONG index, const Owner& element, LONG second = 0) {
+        LONG place[] = {index, second};
+        CheckIndex(index, second);
+        return SafeArrayPutElement(array_, place, Traits::Address(element));
     }
 
     // Keeps the first elements.
     [[nodiscard]] HRESULT Resize(ULONG count) {
         if (!array_) return Create(count);
+        if (SafeArrayGetDim(array_) != 1) return DISP_E_BADINDEX;
         SAFEARRAYBOUND bound = {count, LowerBound()};
         return SafeArrayRedim(array_, &bound);
     }
     [[nodiscard]] HRESULT Reverse() {
+        if (array_ && SafeArrayGetDim(array_) != 1) return DISP_E_BADINDEX;
         for (LONG low = LowerBound(), high = UpperBound(); low < high; ++low, --high) {
             Owner first{}, last{};
             HRESULT hr = GetElement(low, &first);
@@ -139,8 +143,15 @@ public:
     }
 
 private:
-    void CheckIndex(LONG index) const {
-        if (!array_ || index < LowerBound() || index > UpperBound()) throw std::runtime_error("CVtlSafeArray");
+    void CheckIndex(LONG index, LONG second) const {
+        if (!array_ || index < LowerBound() || index > UpperBound() || !HasSecond(second))
+            throw std::runtime_error("CVtlSafeArray");
+    }
+    bool HasSecond(LONG second) const noexcept {
+        LONG low = 0, high = 0;
+        if (SafeArrayGetDim(array_) == 1) return second == 0;
+        return SafeArrayGetDim(array_) == 2 && SUCCEEDED(SafeArrayGetLBound(array_, 2, &low)) &&
+               SUCCEEDED(SafeArrayGetUBound(array_, 2, &high)) && second >= low && second <= high;
     }
 
     SAFEARRAY* array_ = nullptr;

@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "com/Create.h"
+#include "com/SafeArray.h"
 #include "com/Variant.h"
 #include "harness/ComTest.h"
 #include "harness/ProcessWindows.h"
@@ -125,6 +126,54 @@ TEST_F(CitizenTest, DualInterfacesDescribeThemselves) {
         wizard->get_Repository(held.GetAddressOf());
         EXPECT_EQ(held.Get(), repository.Object()) << "as scripts put objects, " << way;
     }
+}
+
+// Its elements, and what it says of an index that it does not have.
+std::wstring Elements(const com::CVtlSafeArray<BSTR>& array) {
+    std::wstring all;
+    com::Bstr element;
+    for (LONG index = array.LowerBound(); index <= array.UpperBound(); ++index) {
+        EXPECT_EQ(array.GetElement(index, &element), S_OK);
+        all += element.Text() + L";";
+    }
+    for (const LONG outside : {array.LowerBound() - 1, array.UpperBound() + 1}) {
+        try {
+            EXPECT_FALSE(array.GetElement(outside, &element)) << "given";
+        } catch (const std::runtime_error& error) {
+            all += L"!";
+            EXPECT_STREQ(error.what(), "CVtlSafeArray");
+        }
+    }
+    return all;
+}
+
+TEST(SafeArray, GrowsShrinksAndTurnsRoundAndKnowsItsBounds) {
+    com::CVtlSafeArray<BSTR> array;
+    EXPECT_EQ(Elements(array), L"!!") << "no array yet";
+    ASSERT_EQ(array.Create(3), S_OK);
+    for (LONG index = 0; index < 3; ++index)
+        ASSERT_EQ(array.PutElement(index, com::Bstr(std::wstring(1, static_cast<wchar_t>(L'a' + index)))), S_OK);
+    EXPECT_EQ(Elements(array), L"a;b;c;!!");
+    ASSERT_EQ(array.Reverse(), S_OK);
+    EXPECT_EQ(Elements(array), L"c;b;a;!!");
+    ASSERT_EQ(array.Resize(2), S_OK);
+    ASSERT_EQ(array.Reverse(), S_OK);
+    EXPECT_EQ(Elements(array), L"b;c;!!");
+    ASSERT_EQ(array.Resize(3), S_OK);
+    EXPECT_EQ(Elements(array), L"b;c;;!!");
+    SafeArrayLock(array.Get());
+    EXPECT_EQ(array.Resize(1), DISP_E_ARRAYISLOCKED) << "what else fails is answered";
+    SafeArrayUnlock(array.Get());
+
+    ASSERT_EQ(array.Create(2, 3), S_OK);
+    ASSERT_EQ(array.PutElement(1, com::Bstr(L"last"), 2), S_OK);
+    com::Bstr last;
+    ASSERT_EQ(array.GetElement(1, &last, 2), S_OK);
+    EXPECT_EQ(last.View(), L"last");
+    EXPECT_EQ(array.Count(), 2u);
+    EXPECT_EQ(Elements(array), L";;!!");
+    EXPECT_THROW((void)array.GetElement(1, &last, 3), std::runtime_error);
+    EXPECT_NE(array.Reverse(), S_OK);
 }
 
 TEST(Module, LoadsAndUnloadsForEver) {
