@@ -1,5 +1,6 @@
 #include "wizard/WindowButtons.h"
 
+#include <algorithm>
 #include <exception>
 #include <optional>
 #include <utility>
@@ -8,6 +9,7 @@ namespace recoveryui::wizard {
 namespace {
 
 constexpr UINT kPatienceMilliseconds = 500;
+constexpr size_t kLongestCaption = 4096;
 
 std::optional<DWORD_PTR> Ask(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
     DWORD_PTR answer = 0;
@@ -29,10 +31,12 @@ bool IsPushButton(HWND window, DWORD_PTR dialogCode) {
     return (dialogCode & (DLGC_DEFPUSHBUTTON | DLGC_UNDEFPUSHBUTTON)) != 0 || IsOwnerDrawn(window);
 }
 
-// GetWindowText does not read controls of other processes.
+// GetWindowText does not read controls of other processes. What those answer may be any number.
 std::wstring CaptionOf(HWND window) {
-    std::wstring text(Ask(window, WM_GETTEXTLENGTH, 0, 0).value_or(0) + 1, L'\0');
-    text.resize(Ask(window, WM_GETTEXT, text.size(), reinterpret_cast<LPARAM>(text.data())).value_or(0));
+    const size_t length = std::min<size_t>(Ask(window, WM_GETTEXTLENGTH, 0, 0).value_or(0), kLongestCaption);
+    std::wstring text(length + 1, L'\0');
+    const size_t given = Ask(window, WM_GETTEXT, text.size(), reinterpret_cast<LPARAM>(text.data())).value_or(0);
+    text.resize(given <= length ? given : 0);
     return text;
 }
 

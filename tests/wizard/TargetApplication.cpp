@@ -1,5 +1,7 @@
 #include "wizard/TargetApplication.h"
 
+#include <commctrl.h>
+
 namespace recoveryui::test {
 namespace {
 
@@ -9,8 +11,13 @@ HWND TopLevel(const wchar_t* title, int left) {
                            160, nullptr, nullptr, nullptr, nullptr);
 }
 
-void Child(HWND parent, const wchar_t* name, const wchar_t* text, DWORD style, int left, int top) {
-    CreateWindowExW(0, name, text, WS_CHILD | style, left, top, 70, 20, parent, nullptr, nullptr, nullptr);
+HWND Child(HWND parent, const wchar_t* name, const wchar_t* text, DWORD style, int left, int top) {
+    return CreateWindowExW(0, name, text, WS_CHILD | style, left, top, 70, 20, parent, nullptr, nullptr, nullptr);
+}
+
+// A control that answers every question for its text with a failure of its own.
+LRESULT CALLBACK Rude(HWND window, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR, DWORD_PTR) noexcept {
+    return message == WM_GETTEXT ? -1 : DefSubclassProc(window, message, wParam, lParam);
 }
 
 }  // namespace
@@ -37,6 +44,7 @@ void TargetApplication::Run(HANDLE ready) {
     Child(login_, L"Button", L"Cancel", WS_VISIBLE | BS_PUSHBUTTON, 80, 60);
     Child(login_, L"Button", L"Secret", BS_PUSHBUTTON, 155, 60);
     Child(login_, L"Button", L"", WS_VISIBLE | BS_PUSHBUTTON, 155, 30);
+    SetWindowSubclass(Child(login_, L"Button", L"", WS_VISIBLE | BS_PUSHBUTTON, 80, 30), &Rude, 0, 0);
     SetEvent(ready);
     MSG message;
     while (GetMessageW(&message, nullptr, 0, 0) > 0) DispatchMessageW(&message);

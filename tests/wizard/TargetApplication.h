@@ -1,4 +1,4 @@
-// The application under test: a window "Log in" on a thread of its own, with two texts, a check box and
+// The application under test: a window "Log in" on a thread of its own, with a text, a check box and
 // buttons, one of them hidden; and an empty window "Bare".
 #pragma once
 
