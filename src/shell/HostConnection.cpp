@@ -53,11 +53,15 @@ HRESULT HostConnection::AddSettingsPages(IObjectRack* rack) {
 }
 
 void HostConnection::Close() noexcept {
-    if (collector_) collector_->RemoveProvider(specifier_.Get());
-    if (commands_) commands_->UnregisterCommand(command_);
-    collector_.Reset();
-    specifier_.Reset();
-    commands_.Reset();
+    // Taken out first: the host may call back and close what is being closed.
+    com::Ptr<IMenuCommands> commands;
+    com::Ptr<ISettingsPageCollector> collector;
+    com::Ptr<IUnknown> specifier;
+    commands.Swap(commands_);
+    collector.Swap(collector_);
+    specifier.Swap(specifier_);
+    if (collector) collector->RemoveProvider(specifier.Get());
+    if (commands) commands->UnregisterCommand(command_);
 }
 
 bool HostConnection::IsGroup(const GUID* group) const noexcept {

@@ -3,6 +3,8 @@
 
 #include <docobj.h>
 
+#include <utility>
+
 #include "HostInterfaces.h"
 #include "com/Object.h"
 #include "harness/ComTest.h"
@@ -38,6 +40,8 @@ public:
     }
     HRESULT STDMETHODCALLTYPE UnregisterCommand(ULONG) noexcept override {
         target_.Reset();
+        ++unregistered_;
+        if (const auto addIn = std::exchange(disconnects_, nullptr)) addIn->OnDisconnection();
         return S_OK;
     }
     HRESULT STDMETHODCALLTYPE GetRack(IObjectRack** rack) noexcept override { return rack_.CopyTo(rack); }
@@ -48,6 +52,8 @@ public:
     std::wstring text_;
     com::Ptr<IOleCommandTarget> target_;
     com::Ptr<IObjectRack> rack_;
+    IUIAddIn* disconnects_ = nullptr;  // from within the next taking back
+    int unregistered_ = 0;
 };
 
 class AddInTest : public ComTest {
@@ -88,8 +94,11 @@ TEST_F(AddInTest, ConnectsItsCommandAndItsSettingsPageAndTakesThemBack) {
     com::Bstr name;
     EXPECT_EQ(addIn_->get_Name(name.Put()), S_OK);
     EXPECT_EQ(name.View(), L"Recovery Scenario Manager");
+    EXPECT_EQ(manager_->unregistered_, 1);
+    manager_->disconnects_ = addIn_.Get();
     EXPECT_EQ(addIn_->OnDisconnection(), S_OK);
     EXPECT_TRUE(IsUntouched());
+    EXPECT_EQ(manager_->unregistered_, 2) << "a host that disconnects meanwhile is asked once";
 }
 
 TEST_F(AddInTest, AFailingConnectionLeavesNothingBehind) {
