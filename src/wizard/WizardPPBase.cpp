@@ -32,7 +32,7 @@ ui::Font TitleFont(HWND page) {
 
 }  // namespace
 
-WizardPPBase::WizardPPBase(WizardPS& sheet, int templateId, bool canAdvance) noexcept
+WizardPPBase::WizardPPBase(WizardPS& sheet, int templateId, bool canAdvance)
     : PropertyPage(templateId, ui::LoadText(IDS_WIZARD_TITLE)),
       sheet_(sheet),
       page_(PageOf(templateId)),

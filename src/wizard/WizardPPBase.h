@@ -22,7 +22,7 @@ inline constexpr Leave Leave::Stay{-1};
 
 class WizardPPBase : public ui::PropertyPage {
 protected:
-    WizardPPBase(WizardPS& sheet, int templateId, bool canAdvance = false) noexcept;
+    WizardPPBase(WizardPS& sheet, int templateId, bool canAdvance = false);
 
     WizardState& State() const noexcept { return sheet_.State(); }
     // Nothing without a trigger, and for one that does not say what it is.
