@@ -12,13 +12,13 @@
 namespace recoveryui::settings {
 namespace {
 
-struct ButtonSpec {
+struct ButtonRow {
     int control;
     int icon;
     int tip;
     bool TabButtons::*enabled;
 };
-constexpr ButtonSpec kButtons[] = {
+constexpr ButtonRow kButtons[] = {
     {IDC_RECOVERY_ADD, IDI_ADD, IDS_TIP_ADD, &TabButtons::add},
     {IDC_RECOVERY_REMOVE, IDI_REMOVE, IDS_TIP_REMOVE, &TabButtons::remove},
     {IDC_RECOVERY_UP, IDI_MOVE_UP, IDS_TIP_MOVE_UP, &TabButtons::up},
@@ -165,9 +165,9 @@ void RecoveryTab::UpdateSelection() {
         row == kNoRow ? std::wstring() : looks_.Of(list.Items()[row], list).description;
     ui::SetText(Item(IDC_RECOVERY_DESCRIPTION), support::ToEditLineEnds(description));
     const TabButtons states = ButtonsFor(list.Size(), row, view_.IconOf(row));
-    for (const ButtonSpec& spec : kButtons) {
-        const HWND button = Item(spec.control);
-        const bool enabled = states.*spec.enabled;
+    for (const ButtonRow& row : kButtons) {
+        const HWND button = Item(row.control);
+        const bool enabled = states.*row.enabled;
         if (enabled != (IsWindowEnabled(button) != FALSE)) ui::Enable(button, enabled);
     }
 }

@@ -260,7 +260,11 @@ TEST_F(ManagerTest, AHundredThousandScenariosAreThereAtOnce) {
             screen.Do([=] { SetFocus(list); });
             screen.Keys({VK_END});
             EXPECT_EQ(ListView_GetNextItem(list, -1, LVNI_SELECTED), kCount - 1);
-            screen.Type(L"N77777");
+            // The list forgets the first letters when a busy machine takes a second for the next one.
+            for (int tries = 0; tries < 8 && ListView_GetNextItem(list, -1, LVNI_SELECTED) != 77'777; ++tries) {
+                if (tries) Sleep(2 * GetDoubleClickTime() + 500);
+                screen.Type(L"N77777");
+            }
             EXPECT_EQ(ListView_GetNextItem(list, -1, LVNI_SELECTED), 77'777);
             screen.Keys({VK_DELETE});
             EXPECT_EQ(ListView_GetNextItem(list, -1, LVNI_SELECTED), 77'777);
