@@ -45,7 +45,8 @@ TEST(RunningProcessesTest, BothWaysListThisProgramByItsFileName) {
     using process::ProcessSource;
     for (const auto source : {ProcessSource::Snapshot, ProcessSource::NativeQuery}) {
         const auto names = process::ProcessesFrom(source);
-        EXPECT_EQ(std::count(names.begin(), names.end(), kSelf), 1);
+        // Another process of the program may hold the desktop open.
+        EXPECT_GE(std::count(names.begin(), names.end(), kSelf), 1);
     }
     EXPECT_TRUE(process::EnumerateProcesses());
     EXPECT_EQ(process::SourceFor(2, 4), ProcessSource::NativeQuery);
