@@ -55,8 +55,6 @@ void SelectPopupPP::OnInit() {
     const bool isPopup = State().trigger && model::TriggerKindFrom(kind) == model::TriggerKind::PopUp;
     const auto popup = isPopup ? com::Query<IPopUpRecoveryTrigger>(State().trigger.Get()) : nullptr;
     Show(popup ? ReadTrigger(*popup.Get()) : FreshConditions());
-    // A title that was never set is ready to be typed, before its box is checked.
-    if (popup) Enable(Window(), kTitle, true);
 }
 
 // A title that cannot be read ends the initialisation; a text that cannot be read only leaves its condition out.
