@@ -20,6 +20,7 @@ bool PropertyPage::OnNotify(NMHDR& header, LRESULT& answer) {
     switch (header.code) {
         case PSN_SETACTIVE:
             answer = OnSetActive();
+            KeepFocusLater();
             return true;
         case PSN_WIZNEXT:
         case PSN_WIZBACK:
@@ -38,6 +39,19 @@ bool PropertyPage::OnNotify(NMHDR& header, LRESULT& answer) {
         default:
             return false;
     }
+}
+
+bool PropertyPage::OnMessage(UINT message, WPARAM wParam, LPARAM lParam, LRESULT& answer) {
+    if (message != kKeepFocus) return DialogBase::OnMessage(message, wParam, lParam, answer);
+    KeepFocus();
+    return true;
+}
+
+// A disabled or hidden control takes no keys.
+void PropertyPage::KeepFocus() const {
+    const HWND focus = GetFocus();
+    if (GetActiveWindow() != Sheet() || (focus && IsWindowEnabled(focus) && IsWindowVisible(focus))) return;
+    SendMessageW(Sheet(), WM_NEXTDLGCTL, reinterpret_cast<WPARAM>(NextFocus()), TRUE);
 }
 
 INT_PTR CALLBACK PropertyPage::Procedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam) noexcept {

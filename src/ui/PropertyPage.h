@@ -30,9 +30,18 @@ protected:
     // What a page answers to Next, Back or Finish when the attempt ended in an exception.
     static constexpr LRESULT kStay = -1;
 
+    // Looks after the message under way whether the control with the focus was disabled or hidden, and hands
+    // the focus on. A page that is shown does so by itself.
+    void KeepFocusLater() const { PostMessageW(Window(), kKeepFocus, 0, 0); }
+    virtual HWND NextFocus() const { return GetNextDlgTabItem(Window(), nullptr, FALSE); }
+
+    // Pages that override them ask them for the rest.
     bool OnNotify(NMHDR& header, LRESULT& answer) override;
+    bool OnMessage(UINT message, WPARAM wParam, LPARAM lParam, LRESULT& answer) override;
 
 private:
+    static constexpr UINT kKeepFocus = WM_APP;
+    void KeepFocus() const;
     static INT_PTR CALLBACK Procedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam) noexcept;
 
     std::wstring title_;

@@ -14,7 +14,6 @@ namespace {
 constexpr int kTitlePoints = 10;
 constexpr int kPointsPerInch = 72;
 
-constexpr UINT kKeepFocus = WM_APP;
 // The ids that every wizard frame gives its buttons.
 constexpr int kNextButton = 0x3024;
 constexpr int kFinishButton = 0x3025;
@@ -56,25 +55,16 @@ void WizardPPBase::UpdateWizardButtons() const {
     const auto flags = WizardButtons(page_.position, canAdvance_);
     if (!flags) return;
     PostMessageW(Sheet(), PSM_SETWIZBUTTONS, 0, static_cast<LPARAM>(*flags));
-    PostMessageW(Window(), kKeepFocus, 0, 0);
+    KeepFocusLater();
 }
 
-bool WizardPPBase::OnMessage(UINT message, WPARAM wParam, LPARAM lParam, LRESULT& answer) {
-    if (message != kKeepFocus) return PropertyPage::OnMessage(message, wParam, lParam, answer);
-    KeepFocus();
-    return true;
-}
-
-// The button that was pressed may be disabled by now, and a disabled control takes no keys.
-void WizardPPBase::KeepFocus() const {
-    const HWND focus = GetFocus();
-    if (GetActiveWindow() != Sheet() || (focus && IsWindowEnabled(focus) && IsWindowVisible(focus))) return;
-    for (const int id : {kNextButton, kFinishButton, IDCANCEL}) {
+// The button that was pressed may be disabled by now.
+HWND WizardPPBase::NextFocus() const {
+    for (const int id : {kNextButton, kFinishButton}) {
         const HWND button = GetDlgItem(Sheet(), id);
-        if (!IsWindowEnabled(button)) continue;
-        SendMessageW(Sheet(), WM_NEXTDLGCTL, reinterpret_cast<WPARAM>(button), TRUE);
-        return;
+        if (IsWindowEnabled(button)) return button;
     }
+    return GetDlgItem(Sheet(), IDCANCEL);
 }
 
 void WizardPPBase::OnInit() {

@@ -43,8 +43,6 @@ protected:
     // True lets the wizard close.
     virtual bool OnFinish() { return false; }
     void OnHelp() override;
-    // Pages that override it ask it for the rest.
-    bool OnMessage(UINT message, WPARAM wParam, LPARAM lParam, LRESULT& answer) override;
 
     // The page's own way on, for pages that decide first.
     Leave GoOn() const noexcept { return Leave::To(page_.next); }
@@ -61,7 +59,7 @@ private:
     LRESULT OnWizardBack() final { return OnBack().page; }
     LRESULT OnWizardFinish() final { return OnFinish() ? 0 : kStay; }
 
-    void KeepFocus() const;
+    HWND NextFocus() const final;
 
     WizardPS& sheet_;
     const Page& page_;

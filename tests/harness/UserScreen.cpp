@@ -1,11 +1,13 @@
 #include "harness/UserScreen.h"
 
 #include <commctrl.h>
+#include <gtest/gtest.h>
 
 #include <cstdlib>
 #include <stdexcept>
 
 #include "harness/ProcessWindows.h"
+#include "looks/checks.h"
 #include "resources/ids.h"
 
 namespace recoveryui::test {
@@ -122,6 +124,9 @@ void UserScreen::Close(HWND window) {
 }
 
 void UserScreen::Picture(HWND window, const std::wstring& name) {
+    std::wstring complaints;
+    Do([&] { complaints = looks::ComplaintsAbout(window); });
+    EXPECT_EQ(Utf8(complaints), "") << "in the window of the picture " << Utf8(name);
     const wchar_t* const folder = _wgetenv(L"RECOVERYUI_SHOTS");
     if (!folder) return;
     bool saved = false;

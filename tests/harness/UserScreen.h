@@ -33,7 +33,8 @@ public:
     // The open message box: its icon and its buttons, the default one in brackets ("question: Yes [No]").
     std::wstring BoxLook();
     void Close(HWND window);
-    // Leaves "<name>.bmp" in the folder RECOVERYUI_SHOTS, when that is set.
+    // A look at a window in its present state: whatever the checks of its looks find fails the test. Leaves
+    // "<name>.bmp" in the folder RECOVERYUI_SHOTS, when that is set.
     void Picture(HWND window, const std::wstring& name);
 
     // ---- Buttons and edit boxes

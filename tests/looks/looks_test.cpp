@@ -1,0 +1,173 @@
+// Every dialog of the product, measured at four resolutions, and proof that the checks find what is wrong.
+#include <gtest/gtest.h>
+#include <windows.h>
+
+#include <objbase.h>
+
+#include "harness/ProcessWindows.h"
+#include "looks/checks.h"
+#include "resources/ids.h"
+
+namespace recoveryui::looks {
+namespace {
+
+using test::Utf8;
+
+constexpr int kResolutions[] = {96, 120, 144, 192};
+
+struct Module {
+    explicit Module(const wchar_t* file) : handle(LoadLibraryExW(file, nullptr, LOAD_LIBRARY_AS_DATAFILE)) {}
+    ~Module() { FreeLibrary(handle); }
+    Module(const Module&) = delete;
+    Module& operator=(const Module&) = delete;
+    HMODULE handle;
+};
+
+// Where the letters of the frame around a page come from.
+std::wstring FrameLetters(const Screen& screen) {
+    if (screen.Find(IDC_PAGE_BITMAP)) return L"BN";                          // Back, Next
+    return screen.isChild && screen.size.cx == 300 ? L"A" : std::wstring();  // Apply
+}
+
+TEST(Looks, EveryTemplateIsInOrder) {
+    std::wstring found;
+    size_t count = 0;
+    for (const wchar_t* file : {L"RecoveryUI.dll", L"TovarinHost.exe", L"TovarinObjects.dll"}) {
+        const Module module(file);
+        ASSERT_NE(module.handle, nullptr) << Utf8(file);
+        for (Screen& screen : TemplatesOf(module.handle)) {
+            screen.name = file + (L" " + screen.name);
+            for (const int dpi : kResolutions) found += Clipped(screen, Ruler(dpi));
+            found += Overlapping(screen) + OutOfOrder(screen) + Ambiguous(screen, FrameLetters(screen)) +
+                     OffGrid(screen);
+            // Texts that come while it runs are in the windows' own check.
+            if (!screen.Find(IDC_TEST_FLOW_FIRST)) found += Nameless(screen);
+            ++count;
+        }
+    }
+    EXPECT_EQ(Utf8(found), "");
+    EXPECT_EQ(count, 30u) << "dialogs";
+}
+
+struct RunTimeText {
+    int dialog, control, first, last;  // strings
+};
+constexpr RunTimeText kRunTimeTexts[] = {
+    {IDD_TEST_FLOW, IDC_TEST_FLOW_FIRST, IDS_OPTION_REPEAT_STEP, IDS_OPTION_STOP_RUN},
+    {IDD_SELECT_ERROR, IDC_SELECT_ERROR_LIST, IDS_ERROR_OBJECT_NOT_FOUND, IDS_ERROR_OBJECT_NOT_FOUND},
+    {IDD_SELECT_ERROR, IDC_SELECT_ERROR_LIST, IDS_ERROR_ANY, IDS_ERROR_ANY},
+    {IDD_SELECT_ERROR, IDC_SELECT_ERROR_LIST, IDS_REPLAY_ITEM_NOT_UNIQUE, IDS_REPLAY_OBJECT_NOT_VISIBLE},
+    {IDD_SELECT_ERROR, IDC_SELECT_ERROR_DESCRIPTION, IDS_DESCRIBE_ITEM_NOT_UNIQUE,
+     IDS_DESCRIBE_OBJECT_NOT_VISIBLE},
+    {IDD_SELECT_ERROR, IDC_SELECT_ERROR_DESCRIPTION, IDS_DESCRIBE_ANY_ERROR, IDS_DESCRIBE_ANY_ERROR},
+    {IDD_RECOVERY_TAB, IDC_RECOVERY_ACTIVATION, IDS_ACTIVATE_EVERY_STEP, IDS_ACTIVATE_NEVER},
+};
+
+TEST(Looks, TextsThatCodePutsIntoControlsFit) {
+    const Module module(L"RecoveryUI.dll");
+    for (const RunTimeText& row : kRunTimeTexts) {
+        const HRSRC place = FindResourceW(module.handle, MAKEINTRESOURCEW(row.dialog), RT_DIALOG);
+        Screen screen =
+            FromTemplate(LockResource(LoadResource(module.handle, place)), std::to_wstring(row.dialog));
+        const Control* found = screen.Find(row.control);
+        ASSERT_NE(found, nullptr) << row.control;
+        for (int text = row.first; text <= row.last; ++text) {
+            wchar_t words[512] = L"";
+            ASSERT_GT(LoadStringW(module.handle, static_cast<UINT>(text), words, 512), 0) << text;
+            Screen one = screen;
+            one.controls = {*found};
+            one.controls[0].text = words;
+            for (const int dpi : kResolutions) EXPECT_EQ(Utf8(Clipped(one, Ruler(dpi))), "");
+        }
+    }
+}
+
+// ---- The checks find what is wrong
+
+Control Made(Kind kind, int id, RECT place, const wchar_t* text = L"", DWORD style = 0) {
+    const DWORD look = kind == Kind::Radio ? BS_AUTORADIOBUTTON : kind == Kind::Check ? BS_AUTOCHECKBOX : 0;
+    return {id, kind, WS_VISIBLE | look | (kind == Kind::Static ? 0 : WS_TABSTOP) | style, place, text};
+}
+Screen Planted(const std::vector<Control>& controls) {
+    return FromTemplate(MakeTemplate({200, 100}, controls).data(), L"planted");
+}
+std::wstring AtEveryResolution(const Screen& screen) {
+    std::wstring found;
+    for (const int dpi : kResolutions) found += Clipped(screen, Ruler(dpi));
+    return found;
+}
+
+TEST(Looks, APlantedFaultIsFound) {
+    const Control label = Made(Kind::Static, -1, {7, 7, 107, 15}, L"Name:");
+    const Control edit = Made(Kind::Edit, 1, {7, 18, 107, 32});
+    const Control ok = Made(Kind::Push, 2, {89, 79, 139, 93}, L"&OK");
+    const Control cancel = Made(Kind::Push, 3, {143, 79, 193, 93}, L"Cancel");
+    const Screen good = Planted({label, edit, ok, cancel});
+    EXPECT_EQ(Utf8(AtEveryResolution(good) + Overlapping(good) + OutOfOrder(good) + Ambiguous(good, L"BN") +
+                   Nameless(good) + OffGrid(good)),
+              "");
+
+    const struct {
+        std::wstring complaints;
+        const wchar_t* expected;
+    } faults[] = {
+        {AtEveryResolution(Planted({Made(Kind::Static, 5, {7, 7, 57, 15}, L"Too long for one line")})),
+         L"at 192 DPI"},
+        {AtEveryResolution(Planted({Made(Kind::Push, 5, {7, 7, 57, 21}, L"Too long for it")})), L"at 96 DPI"},
+        {AtEveryResolution(Planted({Made(Kind::Radio, 5, {7, 7, 47, 17}, L"Too long for it")})),
+         L"at 120 DPI"},
+        {AtEveryResolution(Planted({Made(Kind::Check, 5, {7, 7, 107, 14}, L"Low")})), L"at 144 DPI"},
+        {AtEveryResolution(Planted({Made(Kind::Combo, 5, {7, 7, 57, 80}, L"Too long for it")})),
+         L"at 96 DPI"},
+        {Overlapping(Planted({label, Made(Kind::Edit, 5, {7, 14, 107, 28})})), L"overlaps"},
+        {Overlapping(Planted({Made(Kind::Edit, 5, {107, 14, 207, 28})})), L"leaves the dialog"},
+        {OutOfOrder(Planted({cancel, ok})), L"3 2"},
+        {OutOfOrder(Planted({ok, cancel, label, edit})), L"2 3 1"},
+        {Ambiguous(Planted({ok, Made(Kind::Check, 5, {7, 7, 107, 17}, L"&Or this")})), L"letter of &OK"},
+        {Ambiguous(Planted({Made(Kind::Check, 5, {7, 7, 107, 17}, L"&By name")}), L"BN"),
+         L"letter of the frame"},
+        {Nameless(Planted({edit})), L"has no name"},
+        {Nameless(Planted({label, edit, Made(Kind::List, 5, {7, 40, 107, 60})})), L"5 \"\" has no name"},
+        {OffGrid(Planted({Made(Kind::Static, 5, {5, 7, 107, 15}, L"Name:")})), L"margin"},
+        {OffGrid(Planted({label, Made(Kind::Edit, 5, {7, 16, 107, 30})})), L"below its label"},
+        {OffGrid(Planted({ok, Made(Kind::Push, 5, {141, 79, 193, 93}, L"Help")})), L"beside"},
+        {OffGrid(Planted({Made(Kind::Push, 5, {7, 7, 57, 20}, L"Help")})), L"14 high"},
+    };
+    for (const auto& fault : faults)
+        EXPECT_NE(fault.complaints.find(fault.expected), std::wstring::npos)
+            << Utf8(fault.expected) << " in " << Utf8(fault.complaints);
+}
+
+// In a real window: what no key reaches, a lost focus, and what a screen reader says.
+struct Ole {
+    Ole() { CoInitialize(nullptr); }
+    ~Ole() { CoUninitialize(); }
+};
+
+TEST(Looks, APlantedWindowIsReadAsAScreenReaderReadsIt) {
+    const Ole ole;
+    const auto bytes = MakeTemplate(
+        {200, 100},
+        {Made(Kind::Static, -1, {7, 7, 107, 15}, L"&Name:"), Made(Kind::Edit, 1, {7, 18, 107, 32}),
+         Made(Kind::Static, -1, {7, 35, 107, 43}, L"List:"), Made(Kind::List, 2, {7, 46, 107, 60}),
+         Made(Kind::Combo, 6, {7, 66, 107, 80}), Made(Kind::Push, 3, {143, 79, 193, 93}, L"OK")});
+    const HWND dialog = CreateDialogIndirectParamW(
+        GetModuleHandleW(nullptr), reinterpret_cast<const DLGTEMPLATE*>(bytes.data()), nullptr,
+        [](HWND, UINT, WPARAM, LPARAM) -> INT_PTR { return FALSE; }, 0);
+    ASSERT_NE(dialog, nullptr);
+    ShowWindow(dialog, SW_SHOW);
+    const HWND edit = GetDlgItem(dialog, 1);
+    EXPECT_EQ(Utf8(Unspoken(FromWindow(dialog))), "");
+    EXPECT_EQ(Utf8(Unreachable(FromWindow(dialog), dialog)), "");
+    SetWindowLongW(edit, GWL_STYLE, GetWindowLongW(edit, GWL_STYLE) & ~WS_TABSTOP);
+    EXPECT_NE(Unreachable(FromWindow(dialog), dialog).find(L"reached by no key"), std::wstring::npos);
+    SetFocus(edit);
+    EnableWindow(edit, FALSE);
+    EXPECT_NE(Unreachable(FromWindow(dialog), dialog).find(L"no key is taken"), std::wstring::npos);
+    DestroyWindow(GetWindow(edit, GW_HWNDPREV));
+    EXPECT_NE(Unspoken(FromWindow(dialog)).find(L"by a screen reader"), std::wstring::npos);
+    DestroyWindow(dialog);
+}
+
+}  // namespace
+}  // namespace recoveryui::looks
