@@ -1,6 +1,6 @@
 #!/bin/sh
 # Renders the SVG sources of this folder into the pictures that the resource scripts include.
-# Needs rsvg-convert (librsvg2-bin), icotool (icoutils) and convert (imagemagick).
+# Needs rsvg-convert (librsvg2-bin), icotool (icoutils), convert (imagemagick), pngquant and zopflipng (zopfli).
 set -eu
 cd "$(dirname "$0")"
 component=../src/resources/art
@@ -9,17 +9,23 @@ work=$(mktemp -d)
 trap 'rm -rf "$work"' EXIT
 mkdir -p "$component" "$host"
 
+# packed SOURCE TARGET: the same picture in as few bytes as can be.
+packed() {
+    zopflipng -y --lossy_transparent "$1" "$2" >/dev/null
+}
+
 # page NUMBER SUFFIX WIDTH HEIGHT: no dithering, so the rows of the gradient stay even and pack well.
 page() {
     rsvg-convert -w "$3" -h "$4" "pages/page$1.svg" -o "$work/page.png"
-    convert "$work/page.png" -alpha off +dither -colors 256 -strip \
-        -define png:compression-level=9 -define png:compression-filter=0 \
-        -define png:exclude-chunks=all "PNG8:$component/page$1$2.png"
+    convert "$work/page.png" -alpha off "PNG24:$work/opaque.png"
+    pngquant --nofs --speed 1 --strip --force -o "$work/page.png" 64 "$work/opaque.png"
+    packed "$work/page.png" "$component/page$1$2.png"
 }
 
 # square SOURCE SIZE: one picture of an icon.
 square() {
-    rsvg-convert -w "$2" -h "$2" "$1" -o "$work/$2.png"
+    rsvg-convert -w "$2" -h "$2" "$1" -o "$work/square.png"
+    packed "$work/square.png" "$work/$2.png"
 }
 
 # icon TARGET PLAIN... -- PACKED...: plain sizes become bitmaps, packed sizes stay PNG.
@@ -54,14 +60,14 @@ for source in icons/16/*.svg; do
     square "icons/16/$name.svg" 32
     if [ "$name" = recovery_file ]; then
         square "icons/24/$name.svg" 48
-        icon "$component/$name.ico" 16 20 24 32 -- 48
+        icon "$component/$name.ico" -- 16 20 24 32 48
     else
-        icon "$component/$name.ico" 16 20 24 -- 32
+        icon "$component/$name.ico" -- 16 20 24 32
     fi
 done
 
 for size in 32 48 64; do square icons/32/pointing_hand.svg "$size"; done
-icon "$component/pointing_hand.ico" 32 -- 48 64
+icon "$component/pointing_hand.ico" -- 32 48 64
 
 for size in 16 20 24; do square host/tovarin_host_small.svg "$size"; done
 for size in 32 48 64 128 256; do square host/tovarin_host.svg "$size"; done

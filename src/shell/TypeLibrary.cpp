@@ -51,13 +51,17 @@ void TypeLibrary::RemoveInterfaces() const {
     }
 }
 
+// The registry's words for version and language are hexadecimal.
 std::wstring TypeLibrary::VersionKey() const {
-    return L"TypeLib\\" + GuidText(attributes_.guid) + L"\\" + std::to_wstring(attributes_.wMajorVerNum) + L"." +
-           std::to_wstring(attributes_.wMinorVerNum);
+    wchar_t version[16];
+    wsprintfW(version, L"\\%x.%x", attributes_.wMajorVerNum, attributes_.wMinorVerNum);
+    return L"TypeLib\\" + GuidText(attributes_.guid) + version;
 }
 
 RegistryKey TypeLibrary::OpenPlatformKey() const {
-    return OpenKey(HKEY_CLASSES_ROOT, VersionKey() + L"\\" + std::to_wstring(attributes_.lcid) + L"\\Win32");
+    wchar_t platform[32];
+    wsprintfW(platform, L"\\%x\\Win32", attributes_.lcid);
+    return OpenKey(HKEY_CLASSES_ROOT, VersionKey() + platform);
 }
 
 }  // namespace recoveryui::shell
