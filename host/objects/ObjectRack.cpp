@@ -1,5 +1,7 @@
 #include "objects/ObjectRack.h"
 
+#include "com/Create.h"
+
 namespace tovarin {
 
 HRESULT ObjectRack::SetObject(BSTR name, IUnknown* object) noexcept {
@@ -29,6 +31,17 @@ HRESULT ObjectRack::RemoveObject(BSTR name) noexcept {
         objects_.erase(found);
         return S_OK;
     });
+}
+
+HRESULT ObjectRack::PutNew(BSTR name, BSTR progId) noexcept {
+    com::Ptr<IUnknown> object;
+    const HRESULT hr = com::Create(progId ? progId : L"", object);
+    return SUCCEEDED(hr) ? SetObject(name, object.Get()) : hr;
+}
+
+HRESULT ObjectRack::GiveTo(IUnknown* client) noexcept {
+    const auto taker = com::Query<IObjectRackClient>(client);
+    return taker ? taker->SetRack(this) : E_NOINTERFACE;
 }
 
 }  // namespace tovarin

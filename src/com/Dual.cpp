@@ -13,4 +13,13 @@ HRESULT FindTypeInfo(REFIID iid, ITypeInfo** info) noexcept {
     });
 }
 
+void PreferDispatch(VARIANT& value) noexcept {
+    if (value.vt != VT_UNKNOWN || !value.punkVal) return;
+    Ptr<IDispatch> dispatch = Query<IDispatch>(value.punkVal);
+    if (!dispatch) return;
+    value.punkVal->Release();
+    value.pdispVal = dispatch.Detach();
+    value.vt = VT_DISPATCH;
+}
+
 }  // namespace recoveryui::com

@@ -12,6 +12,9 @@ namespace recoveryui::com {
 // The description of an interface in the module's own type library.
 HRESULT FindTypeInfo(REFIID iid, ITypeInfo** info) noexcept;
 
+// Gives an object that comes as VT_UNKNOWN as a VT_DISPATCH when it can be driven so: scripts take no other.
+void PreferDispatch(VARIANT& value) noexcept;
+
 // Stands in an Object's interface list in place of the dual interface itself.
 template <class Interface>
 class Dual : public Interface {
@@ -45,8 +48,10 @@ public:
         if (FAILED(hr)) return hr;
         // A script puts an object by reference; the interfaces know one way to put.
         if (flags & DISPATCH_PROPERTYPUTREF) flags = DISPATCH_PROPERTYPUT;
-        return DispInvoke(static_cast<Interface*>(this), info_.Get(), id, flags, parameters, result, exception,
-                          argument);
+        const HRESULT invoked = DispInvoke(static_cast<Interface*>(this), info_.Get(), id, flags, parameters,
+                                           result, exception, argument);
+        if (SUCCEEDED(invoked) && result) PreferDispatch(*result);
+        return invoked;
     }
 
 private:

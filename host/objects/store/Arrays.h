@@ -29,4 +29,17 @@ namespace com = recoveryui::com;
 [[nodiscard]] HRESULT GiveArray(const std::vector<com::Variant>& values, SAFEARRAY** array);
 [[nodiscard]] HRESULT GiveArray(const std::vector<com::Ptr<IUnknown>>& objects, SAFEARRAY** array);
 
+// The same as scripts take it: an array of variants in a VARIANT.
+template <class Item>
+[[nodiscard]] HRESULT GiveVariants(const std::vector<Item>& items, VARIANT* array) {
+    std::vector<com::Variant> values;
+    for (const Item& item : items) values.emplace_back(item);
+    SAFEARRAY* made = nullptr;
+    const HRESULT hr = GiveArray(values, &made);
+    if (FAILED(hr)) return hr;
+    array->vt = VT_ARRAY | VT_VARIANT;
+    array->parray = made;
+    return S_OK;
+}
+
 }  // namespace tovarin

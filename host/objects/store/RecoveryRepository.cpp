@@ -1,5 +1,6 @@
 #include "objects/store/RecoveryRepository.h"
 
+#include "objects/store/Arrays.h"
 #include "objects/store/ReplayRecoveryScenario.h"
 #include "objects/store/StoreFormat.h"
 
@@ -52,14 +53,14 @@ HRESULT RecoveryRepository::GetFilePath(BSTR* path) noexcept {
 
 HRESULT RecoveryRepository::GetScenarioEnumerator(IScenarioEnumerator** enumerator) noexcept {
     return Call(L"GetScenarioEnumerator")
-        .Give(
-            [&] {
-                std::vector<std::wstring> names;
-                names.reserve(scenarios_.Size());
-                for (const auto& entry : scenarios_) names.push_back(entry.name);
-                *enumerator = ScenarioEnumerator::Make(std::move(names)).Detach();
-            },
-            enumerator);
+        .Give([&] { *enumerator = ScenarioEnumerator::Make(Names()).Detach(); }, enumerator);
+}
+
+std::vector<std::wstring> RecoveryRepository::Names() {
+    std::vector<std::wstring> names;
+    names.reserve(scenarios_.Size());
+    for (const auto& entry : scenarios_) names.push_back(entry.name);
+    return names;
 }
 
 HRESULT RecoveryRepository::GetScenario(BSTR name, IUnknown** scenario) noexcept {
@@ -143,6 +144,10 @@ HRESULT RecoveryRepository::RemoveScenario(BSTR name) noexcept {
     return Call(L"RemoveScenario", name).Answer([&] {
         return scenarios_.Remove(com::ViewOf(name)) ? S_OK : E_FAIL;
     });
+}
+
+HRESULT RecoveryRepository::get_ScenarioNames(VARIANT* names) noexcept {
+    return Call(L"get_ScenarioNames").Give([&] { return GiveVariants(Names(), names); }, names);
 }
 
 }  // namespace tovarin

@@ -2,6 +2,8 @@
 #pragma once
 
 #include "HostInterfaces.h"
+#include "HostScripting.h"
+#include "com/Dual.h"
 #include "objects/HostObject.h"
 #include "objects/store/NamedList.h"
 #include "objects/store/Storable.h"
@@ -13,7 +15,8 @@ namespace tovarin {
 // Names differ by more than letter case. The object may be changed when its file is only read; it can
 // then be saved under another path.
 class RecoveryRepository final
-    : public HostObject<RecoveryRepository, IRecoveryRepository, RackClient<RecoveryRepository>> {
+    : public HostObject<RecoveryRepository, IRecoveryRepository, com::Dual<IScriptRepository>,
+                        RackClient<RecoveryRepository>> {
 public:
     static constexpr const wchar_t* kName = L"RecoveryRepository";
     static constexpr const wchar_t* kProgId = L"Vantrel.RecoveryRepository";
@@ -31,6 +34,7 @@ public:
     HRESULT STDMETHODCALLTYPE AddScenario(IUnknown* scenario, BSTR name, long replace) noexcept override;
     // E_FAIL when there is none of that name.
     HRESULT STDMETHODCALLTYPE RemoveScenario(BSTR name) noexcept override;
+    HRESULT STDMETHODCALLTYPE get_ScenarioNames(VARIANT* names) noexcept override;
 
 private:
     // The object is made when somebody asks for it; from then on it is the truth.
@@ -41,6 +45,7 @@ private:
     using Scenarios = store::NamedList<Item>;
 
     static Scenarios Empty();
+    std::vector<std::wstring> Names();
     [[nodiscard]] HRESULT LoadFile(std::wstring_view path, bool readOnly);
 
     StoreFile file_;

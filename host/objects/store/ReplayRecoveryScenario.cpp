@@ -83,6 +83,33 @@ HRESULT ReplayRecoveryScenario::SetDescription(BSTR description) noexcept {
     return Call(L"SetDescription", description).Answer([&] { description_ = com::ViewOf(description); });
 }
 
+HRESULT ReplayRecoveryScenario::get_TriggerKind(long* kind) noexcept {
+    return Call(L"get_TriggerKind")
+        .Give(
+            [&] {
+                const auto trigger = com::Query<IRecoveryTrigger>(trigger_.Get());
+                if (trigger) return trigger->GetTriggerKind(kind);
+                *kind = -1;
+                return S_OK;
+            },
+            kind);
+}
+
+HRESULT ReplayRecoveryScenario::get_OperationKinds(VARIANT* kinds) noexcept {
+    return Call(L"get_OperationKinds")
+        .Give(
+            [&] {
+                std::vector<long> found;
+                for (const auto& operation : operations_) {
+                    long& kind = found.emplace_back(-1);
+                    if (const auto action = com::Query<IRecoveryAction>(operation.Get()))
+                        com::Check(action->GetOperationKind(&kind));
+                }
+                return GiveVariants(found, kinds);
+            },
+            kinds);
+}
+
 HRESULT ReplayRecoveryScenario::Write(store::Scenario& content) noexcept {
     return com::Guarded([&] {
         store::Scenario written;

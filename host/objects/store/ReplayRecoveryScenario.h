@@ -4,6 +4,8 @@
 #include <vector>
 
 #include "HostInterfaces.h"
+#include "HostScripting.h"
+#include "com/Dual.h"
 #include "objects/HostObject.h"
 #include "objects/store/Storable.h"
 
@@ -12,7 +14,8 @@ namespace tovarin {
 // Keeps what it is given: any number as option, any object as trigger, empty places among the operations.
 // What a recovery file cannot hold fails when the scenario is stored.
 class ReplayRecoveryScenario final
-    : public HostObject<ReplayRecoveryScenario, IRecoveryScenario, Storable<store::Scenario>> {
+    : public HostObject<ReplayRecoveryScenario, IRecoveryScenario, com::Dual<IScriptScenario>,
+                        Storable<store::Scenario>> {
 public:
     static constexpr const wchar_t* kName = L"RecoveryScenario";
     static constexpr const wchar_t* kProgId = L"Vantrel.ReplayRecoveryScenario";
@@ -29,6 +32,8 @@ public:
     HRESULT STDMETHODCALLTYPE SetOperations(SAFEARRAY* operations) noexcept override;
     HRESULT STDMETHODCALLTYPE GetDescription(BSTR* description) noexcept override;
     HRESULT STDMETHODCALLTYPE SetDescription(BSTR description) noexcept override;
+    HRESULT STDMETHODCALLTYPE get_TriggerKind(long* kind) noexcept override;
+    HRESULT STDMETHODCALLTYPE get_OperationKinds(VARIANT* kinds) noexcept override;
     HRESULT STDMETHODCALLTYPE Write(store::Scenario& content) noexcept override;
 
 private:
