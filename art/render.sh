@@ -1,6 +1,7 @@
 #!/bin/sh
 # Renders the SVG sources of this folder into the pictures that the resource scripts include.
-# Needs rsvg-convert (librsvg2-bin), icotool (icoutils), convert (imagemagick), pngquant and zopflipng (zopfli).
+# Needs rsvg-convert (librsvg2-bin), icotool (icoutils), convert (imagemagick), optipng, pngquant and zopflipng
+# (zopfli).
 set -eu
 cd "$(dirname "$0")"
 component=../src/resources/art
@@ -9,23 +10,19 @@ work=$(mktemp -d)
 trap 'rm -rf "$work"' EXIT
 mkdir -p "$component" "$host"
 
-# packed SOURCE TARGET: the same picture in as few bytes as can be.
-packed() {
-    zopflipng -y --lossy_transparent "$1" "$2" >/dev/null
-}
-
 # page NUMBER SUFFIX WIDTH HEIGHT: no dithering, so the rows of the gradient stay even and pack well.
 page() {
     rsvg-convert -w "$3" -h "$4" "pages/page$1.svg" -o "$work/page.png"
     convert "$work/page.png" -alpha off "PNG24:$work/opaque.png"
     pngquant --nofs --speed 1 --strip --force -o "$work/page.png" 64 "$work/opaque.png"
-    packed "$work/page.png" "$component/page$1$2.png"
+    zopflipng -y "$work/page.png" "$component/page$1$2.png" >/dev/null
 }
 
-# square SOURCE SIZE: one picture of an icon.
+# square SOURCE SIZE: one picture of an icon. It stays red, green, blue and alpha (-nx): icons of another
+# kind are shown on black.
 square() {
-    rsvg-convert -w "$2" -h "$2" "$1" -o "$work/square.png"
-    packed "$work/square.png" "$work/$2.png"
+    rsvg-convert -w "$2" -h "$2" "$1" -o "$work/$2.png"
+    optipng -quiet -o5 -nx -strip all "$work/$2.png"
 }
 
 # icon TARGET PLAIN... -- PACKED...: plain sizes become bitmaps, packed sizes stay PNG.
