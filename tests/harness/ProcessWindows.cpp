@@ -77,6 +77,17 @@ std::wstring TextOf(HWND window) {
     return text;
 }
 
+std::wstring ClipboardText() {
+    std::wstring text;
+    if (!OpenClipboard(nullptr)) return text;
+    if (const HANDLE data = GetClipboardData(CF_UNICODETEXT)) {
+        text = static_cast<const wchar_t*>(GlobalLock(data));
+        GlobalUnlock(data);
+    }
+    CloseClipboard();
+    return text;
+}
+
 std::string DescribeWindows() {
     std::string report = "Windows on the screen:\n";
     for (const HWND window : TopLevelWindows()) {

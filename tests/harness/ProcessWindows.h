@@ -19,6 +19,9 @@ std::wstring ClassOf(HWND window);
 // Empty when the window does not answer in time.
 std::wstring TextOf(HWND window);
 
+// The text in the clipboard.
+std::wstring ClipboardText();
+
 // Every visible window with its controls, for the report of a failed test.
 std::string DescribeWindows();
 // Answers every dialog that can be answered with the most harmless button, and closes the rest.

@@ -16,9 +16,18 @@ namespace {
 constexpr DWORD kStepLimit = 15000;
 constexpr UINT kGetMenuOfWindow = 0x1E1;  // MN_GETHMENU
 constexpr int kBoxText = 0xFFFF;
+// The file dialog's place for a name: an edit box, or one in a box in a list.
+constexpr int kFileNameEdit = 0x480, kFileNameList = 0x47C;
 
 [[noreturn]] void Fail(const std::string& problem) {
     throw std::runtime_error(problem);
+}
+
+GUITHREADINFO InfoOf(DWORD thread) {
+    GUITHREADINFO info{};
+    info.cbSize = sizeof info;
+    GetGUIThreadInfo(thread, &info);
+    return info;
 }
 
 std::string Name(HWND window) {
@@ -123,6 +132,21 @@ void UserScreen::Close(HWND window) {
     Do([=] { PostMessageW(window, WM_SYSCOMMAND, SC_CLOSE, 0); });
 }
 
+void UserScreen::GiveFile(const wchar_t* caption, const std::wstring& path) {
+    const HWND dialog = WaitForWindow(caption);
+    HWND edit = GetDlgItem(dialog, kFileNameEdit);
+    if (!edit) edit = GetWindow(GetWindow(GetDlgItem(dialog, kFileNameList), GW_CHILD), GW_CHILD);
+    Do([&] { SetWindowTextW(edit, path.c_str()); });
+    Do([&] { PostMessageW(GetDlgItem(dialog, IDOK), BM_CLICK, 0, 0); });
+}
+
+// Its list of files has the number of its OK button.
+void UserScreen::LeaveFileDialog(const wchar_t* caption, int button) {
+    const HWND dialog = WaitForWindow(caption);
+    Do([&] { PostMessageW(GetDlgItem(dialog, button), BM_CLICK, 0, 0); });
+    WaitUntilClosed(dialog);
+}
+
 void UserScreen::Picture(HWND window, const std::wstring& name) {
     std::wstring complaints;
     Do([&] { complaints = looks::ComplaintsAbout(window); });
@@ -209,19 +233,16 @@ std::wstring UserScreen::Tip(HWND window, int id) {
 }
 
 int UserScreen::FocusId() {
-    GUITHREADINFO info{};
-    info.cbSize = sizeof info;
-    return GetGUIThreadInfo(ui_.Id(), &info) && info.hwndFocus ? GetDlgCtrlID(info.hwndFocus) : 0;
+    const HWND focus = InfoOf(ui_.Id()).hwndFocus;
+    return focus ? GetDlgCtrlID(focus) : 0;
 }
 
 void UserScreen::Keys(std::initializer_list<WORD> virtualKeys) {
-    GUITHREADINFO info{};
-    info.cbSize = sizeof info;
-    GetGUIThreadInfo(ui_.Id(), &info);
+    const HWND focus = InfoOf(ui_.Id()).hwndFocus;
     for (const WORD key : virtualKeys) {
         Do([=] {
-            PostMessageW(info.hwndFocus, WM_KEYDOWN, key, 1);
-            PostMessageW(info.hwndFocus, WM_KEYUP, key, static_cast<LPARAM>(0xC0000001));
+            PostMessageW(focus, WM_KEYDOWN, key, 1);
+            PostMessageW(focus, WM_KEYUP, key, static_cast<LPARAM>(0xC0000001));
         });
     }
 }
@@ -267,9 +288,7 @@ Rows UserScreen::MenuItems() {
 
 void UserScreen::ChooseMenu(const std::wstring& item) {
     const Rows items = MenuItems();
-    GUITHREADINFO info{};
-    info.cbSize = sizeof info;
-    GetGUIThreadInfo(ui_.Id(), &info);
+    const HWND owner = InfoOf(ui_.Id()).hwndMenuOwner;
     bool found = item.empty();
     std::vector<WORD> keys;
     for (const std::wstring& text : items) {
@@ -279,7 +298,7 @@ void UserScreen::ChooseMenu(const std::wstring& item) {
     }
     if (!found) Fail("no such item in the menu: " + Utf8(item));
     keys.push_back(item.empty() ? VK_ESCAPE : VK_RETURN);
-    for (const WORD key : keys) PostMessageW(info.hwndMenuOwner, WM_KEYDOWN, key, 1);
+    for (const WORD key : keys) PostMessageW(owner, WM_KEYDOWN, key, 1);
     WaitUntil("the menu closes", [] { return FindWindowW(L"#32768", nullptr) == nullptr; });
     if (!ui_.Ended()) Do([] {});
 }

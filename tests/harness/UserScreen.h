@@ -33,6 +33,9 @@ public:
     // The open message box: its icon and its buttons, the default one in brackets ("question: Yes [No]").
     std::wstring BoxLook();
     void Close(HWND window);
+    // Answers the platform's file dialog of that caption with a path, or with another of its buttons.
+    void GiveFile(const wchar_t* caption, const std::wstring& path);
+    void LeaveFileDialog(const wchar_t* caption, int button);
     // A look at a window in its present state: whatever the checks of its looks find fails the test. Leaves
     // "<name>.bmp" in the folder RECOVERYUI_SHOTS, when that is set.
     void Picture(HWND window, const std::wstring& name);

@@ -12,7 +12,8 @@ HWND TopLevel(const wchar_t* title, int left) {
 }
 
 HWND Child(HWND parent, const wchar_t* name, const wchar_t* text, DWORD style, int left, int top) {
-    return CreateWindowExW(0, name, text, WS_CHILD | style, left, top, 70, 20, parent, nullptr, nullptr, nullptr);
+    return CreateWindowExW(0, name, text, WS_CHILD | style, left, top, 70, 20, parent, nullptr, nullptr,
+                           nullptr);
 }
 
 // A control that answers every question for its text with a failure of its own.

@@ -1,7 +1,5 @@
 #include "wizard/WizardTest.h"
 
-#include "com/SafeArray.h"
-
 namespace recoveryui::test {
 
 WizardTest::WizardTest()
@@ -13,17 +11,31 @@ WizardTest::WizardTest()
 
 void WizardTest::Edit(IUnknown* trigger) {
     const auto scenario = New<IRecoveryScenario>(L"Vantrel.ReplayRecoveryScenario");
-    com::CVtlSafeArray<IUnknown*> operations;
-    EXPECT_EQ(operations.Create(0), S_OK);
     EXPECT_EQ(scenario->SetPostRecoveryOption(1), S_OK);
     EXPECT_EQ(scenario->SetTrigger(trigger), S_OK);
-    EXPECT_EQ(scenario->SetOperations(operations.Get()), S_OK);
+    EXPECT_EQ(scenario->SetOperations(ArrayOf<IUnknown*, IUnknown*>({}).Get()), S_OK);
     EXPECT_EQ(wizard_->put_Scenario(scenario.Get()), S_OK);
 }
 
-HRESULT WizardTest::Run(std::function<void(UserScreen&, HWND)> script) {
+com::Ptr<IPopUpRecoveryTrigger> WizardTest::PopUp(const wchar_t* title, long titleIsRegex,
+                                                  const wchar_t* text, long textIsRegex) {
+    const auto trigger = New<IPopUpRecoveryTrigger>(L"Vantrel.PopUpRecoveryTrigger");
+    EXPECT_EQ(trigger->SetWindowTitle(com::Bstr(title).Get(), titleIsRegex), S_OK);
+    EXPECT_EQ(trigger->SetWindowText(com::Bstr(text).Get(), textIsRegex), S_OK);
+    return trigger;
+}
+
+HRESULT WizardTest::Run(const Script& script) {
     User user([&](UserScreen& screen) { script(screen, screen.WaitForWindow(L"Recovery Scenario Wizard")); });
     return com::Query<IRecoveryDlg>(wizard_.Get())->DoModal();
+}
+
+void WizardTest::Browse(const Script& script) {
+    EXPECT_EQ(Run([&](UserScreen& screen, HWND wizard) {
+                  script(screen, wizard);
+                  if (IsWindow(wizard)) screen.Cancel(wizard);
+              }),
+              S_FALSE);
 }
 
 void WizardTest::NextUntil(UserScreen& screen, HWND wizard, const wchar_t* title) {
@@ -37,10 +49,27 @@ void WizardTest::AddOperation(UserScreen& screen, HWND wizard, int radio) {
     screen.Next(wizard);
 }
 
+void WizardTest::GoToOperations(UserScreen& screen, HWND wizard) {
+    NextUntil(screen, wizard, L"Specify Pop-up Window Conditions");
+    screen.Enter(wizard, IDC_POPUP_TITLE, L"Error");
+    screen.Next(wizard);
+}
+
+void WizardTest::GoToOptions(UserScreen& screen, HWND wizard, int radio) {
+    AddOperation(screen, wizard, radio);
+    if (radio == IDC_SELECT_OPERATION_CLICK) screen.Next(wizard);
+    screen.Check(wizard, IDC_OPERATION_LIST_ANOTHER, false);
+    screen.Next(wizard);
+}
+
+void WizardTest::GoToSummary(UserScreen& screen, HWND wizard, const wchar_t* name) {
+    NextUntil(screen, wizard, L"Name and Description");
+    screen.Enter(wizard, IDC_SCEN_NAME, name);
+    screen.Next(wizard);
+}
+
 testing::AssertionResult WizardTest::Called(const std::wstring& call) {
-    const std::wstring calls = Calls();
-    if (calls.find(call) != std::wstring::npos) return testing::AssertionSuccess();
-    return testing::AssertionFailure() << Utf8(call) << " is not among\n" << Utf8(calls);
+    return CalledInOrder({call.c_str()});
 }
 
 testing::AssertionResult WizardTest::CalledInOrder(std::initializer_list<const wchar_t*> order) {

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "HostInterfaces.h"
+#include "harness/Arrays.h"
 #include "harness/ComTest.h"
 #include "harness/ProcessWindows.h"
 #include "resources/ids.h"
@@ -10,16 +11,31 @@ namespace recoveryui::test {
 
 class WizardTest : public ComTest {
 protected:
+    using Script = std::function<void(UserScreen&, HWND wizard)>;
+
     WizardTest();
 
     // The wizard is to edit a scenario with this trigger.
     void Edit(IUnknown* trigger);
+    static com::Ptr<IPopUpRecoveryTrigger> PopUp(const wchar_t* title, long titleIsRegex = 0,
+                                                 const wchar_t* text = L"", long textIsRegex = 0);
     // Runs the wizard; gives what DoModal answers. The script gets the wizard on its first page.
-    HRESULT Run(std::function<void(UserScreen&, HWND wizard)> script);
-    // The same up to a page: presses Next on the first page until the page of that title is shown.
+    HRESULT Run(const Script& script);
+    // The same for a user who cancels in the end.
+    void Browse(const Script& script);
+
+    // Presses Next on the first page until the page of that title is shown.
     static void NextUntil(UserScreen& screen, HWND wizard, const wchar_t* title);
+    static bool CanGoOn(UserScreen& screen, HWND wizard) { return screen.IsEnabled(wizard, 0x3024); }
     // From the list of operations to the page of an operation type.
     static void AddOperation(UserScreen& screen, HWND wizard, int radio);
+    // From the welcome page to the list of operations with a pop-up trigger.
+    static void GoToOperations(UserScreen& screen, HWND wizard);
+    // From the list of operations, with another one on the way, to the options.
+    static void GoToOptions(UserScreen& screen, HWND wizard, int radio);
+    // From the options to the last page.
+    static void GoToSummary(UserScreen& screen, HWND wizard, const wchar_t* name);
+
     // Whether the stand-ins were called so since the test began.
     testing::AssertionResult Called(const std::wstring& call);
     // The same, one after the other.

@@ -3,8 +3,6 @@
 
 #include <prsht.h>
 
-#include "com/SafeArray.h"
-#include "harness/ProcessorTime.h"
 #include "process/RunningProcesses.h"
 #include "wizard/WizardTest.h"
 
@@ -16,19 +14,9 @@ constexpr const wchar_t* kSelf = L"recoveryui_tests.exe";
 
 class ProcessPagesTest : public WizardTest {
 protected:
-    void EditCrash(const Rows& names) {
-        const auto trigger = New<ICrashRecoveryTrigger>(L"Vantrel.CrashRecoveryTrigger");
-        com::CVtlSafeArray<BSTR> array;
-        EXPECT_EQ(array.Create(static_cast<ULONG>(names.size())), S_OK);
-        for (size_t i = 0; i < names.size(); ++i)
-            EXPECT_EQ(array.PutElement(static_cast<LONG>(i), com::Bstr(names[i])), S_OK);
-        EXPECT_EQ(trigger->SetProcesses(array.Get()), S_OK);
-        Edit(trigger.Get());
-    }
     static Rows Chosen(UserScreen& screen, HWND wizard) {
         return screen.RowsOf(wizard, IDC_PROCESSES_CHOSEN);
     }
-    static bool CanGoOn(UserScreen& screen, HWND wizard) { return screen.IsEnabled(wizard, 0x3024); }
     // "+", the name, Enter.
     static void TypeNew(UserScreen& screen, HWND wizard, const std::wstring& name) {
         screen.Press(wizard, IDC_PROCESSES_NEW);
@@ -55,164 +43,120 @@ TEST(RunningProcessesTest, BothWaysListThisProgramByItsFileName) {
 }
 
 TEST_F(ProcessPagesTest, NamesAreTakenFromTheRunningOnesAndTypedUntilTheyAreRight) {
-    EditCrash({L"app.exe"});
-    EXPECT_EQ(
-        Run([&](UserScreen& screen, HWND wizard) {
-            AddOperation(screen, wizard, IDC_SELECT_OPERATION_PROCESS);
-            EXPECT_EQ(screen.PageTitle(wizard), kClosePage);
-            EXPECT_FALSE(CanGoOn(screen, wizard));
-            EXPECT_EQ(screen.Tip(wizard, IDC_PROCESSES_NEW), L"Add New Process");
-            EXPECT_EQ(screen.Tip(wizard, IDC_PROCESSES_REMOVE), L"Remove Process");
+    Browse([&](UserScreen& screen, HWND wizard) {
+        GoToOperations(screen, wizard);
+        AddOperation(screen, wizard, IDC_SELECT_OPERATION_PROCESS);
+        EXPECT_EQ(screen.PageTitle(wizard), kClosePage);
+        EXPECT_FALSE(CanGoOn(screen, wizard));
+        screen.Press(wizard, IDC_PROCESSES_ADD_SELECTED);
+        for (int twice = 0; twice < 2; ++twice) {
+            screen.Choose(wizard, IDC_PROCESSES_RUNNING, kSelf);
             screen.Press(wizard, IDC_PROCESSES_ADD_SELECTED);
-            screen.Picture(wizard, L"close-fresh");
+            EXPECT_EQ(Chosen(screen, wizard), Rows{kSelf});
+            EXPECT_EQ(screen.Chosen(wizard, IDC_PROCESSES_RUNNING), Rows{});
+            EXPECT_TRUE(CanGoOn(screen, wizard));
+            EXPECT_EQ(screen.FocusId(), IDC_PROCESSES_CHOSEN);
+        }
 
-            for (int twice = 0; twice < 2; ++twice) {
-                screen.Choose(wizard, IDC_PROCESSES_RUNNING, kSelf);
-                screen.Press(wizard, IDC_PROCESSES_ADD_SELECTED);
-                EXPECT_EQ(Chosen(screen, wizard), Rows{kSelf});
-                EXPECT_EQ(screen.Chosen(wizard, IDC_PROCESSES_RUNNING), Rows{});
-                EXPECT_TRUE(CanGoOn(screen, wizard));
-                EXPECT_EQ(screen.FocusId(), IDC_PROCESSES_CHOSEN);
-            }
+        TypeNew(screen, wizard, L" what?.exe ");
+        EXPECT_EQ(screen.AnswerBox(IDOK),
+                  L"The process name cannot contain any of the following characters: "
+                  L"\r\n\t\t\\ / : * \" < > |");
+        Retype(screen, L"RecoveryUI_Tests.exe");
+        EXPECT_EQ(screen.AnswerBox(IDOK), L"This process already exists in the list.");
+        Retype(screen, L"   ");
+        EXPECT_EQ(screen.AnswerBox(IDOK), L"You must type a process name");
+        Retype(screen, L" note pad.exe ");
+        EXPECT_EQ(Chosen(screen, wizard), (Rows{kSelf, L"note pad.exe"}));
 
-            TypeNew(screen, wizard, L" what?.exe ");
-            EXPECT_EQ(screen.AnswerBox(IDOK),
-                      L"The process name cannot contain any of the following characters: "
-                      L"\r\n\t\t\\ / : * \" < > |");
-            screen.Picture(wizard, L"close-reopened");
-            Retype(screen, L"RecoveryUI_Tests.exe");
-            EXPECT_EQ(screen.AnswerBox(IDOK), L"This process already exists in the list.");
-            Retype(screen, L"   ");
-            EXPECT_EQ(screen.AnswerBox(IDOK), L"You must type a process name");
-            Retype(screen, L" note pad.exe ");
-            EXPECT_EQ(Chosen(screen, wizard), (Rows{kSelf, L"note pad.exe"}));
+        // A row that gets no name goes again, a second "+" waits for the first one's message.
+        screen.Press(wizard, IDC_PROCESSES_NEW);
+        screen.Keys({VK_ESCAPE});
+        TypeNew(screen, wizard, L"");
+        screen.Press(wizard, IDC_PROCESSES_NEW);
+        screen.Type(L"a/b");
+        screen.Press(wizard, IDC_PROCESSES_NEW);
+        screen.AnswerBox(IDOK);
+        EXPECT_EQ(Chosen(screen, wizard), (Rows{kSelf, L"note pad.exe", L""}));
+        screen.Type(L"x*y");
+        screen.Next(wizard);
+        screen.AnswerBox(IDOK);
+        EXPECT_EQ(screen.PageTitle(wizard), kClosePage);
+        screen.Keys({VK_ESCAPE});
 
-            // A row that gets no name goes again, a second "+" waits for the first one's message.
-            screen.Press(wizard, IDC_PROCESSES_NEW);
-            screen.Keys({VK_ESCAPE});
-            TypeNew(screen, wizard, L"");
-            screen.Press(wizard, IDC_PROCESSES_NEW);
-            screen.Type(L"a/b");
-            screen.Press(wizard, IDC_PROCESSES_NEW);
-            screen.AnswerBox(IDOK);
-            EXPECT_EQ(Chosen(screen, wizard), (Rows{kSelf, L"note pad.exe", L""}));
-            screen.Type(L"x*y");
-            screen.Next(wizard);
-            screen.AnswerBox(IDOK);
-            EXPECT_EQ(screen.PageTitle(wizard), kClosePage);
-            screen.Keys({VK_ESCAPE});
-
-            // In other capitals, emptied, and emptied but given up.
-            screen.Choose(wizard, IDC_PROCESSES_CHOSEN, L"note pad.exe");
+        // In other capitals, emptied, and emptied but given up.
+        screen.Choose(wizard, IDC_PROCESSES_CHOSEN, L"note pad.exe");
+        screen.Keys({VK_F2});
+        Retype(screen, L"Note Pad.EXE");
+        for (const WORD end : {WORD{VK_ESCAPE}, WORD{VK_RETURN}}) {
             screen.Keys({VK_F2});
-            Retype(screen, L"Note Pad.EXE");
-            screen.Keys({VK_F2});
-            screen.Keys({VK_DELETE, VK_ESCAPE});
-            screen.Keys({VK_F2});
-            screen.Keys({VK_DELETE, VK_RETURN});
-            EXPECT_EQ(screen.AnswerBox(IDOK), L"You must type a process name");
-            screen.Keys({VK_ESCAPE});
-            EXPECT_EQ(Chosen(screen, wizard), (Rows{kSelf, L"Note Pad.EXE"}));
-            screen.Picture(wizard, L"close-chosen");
+            screen.Keys({VK_DELETE, end});
+        }
+        EXPECT_EQ(screen.AnswerBox(IDOK), L"You must type a process name");
+        screen.Keys({VK_ESCAPE});
+        EXPECT_EQ(Chosen(screen, wizard), (Rows{kSelf, L"Note Pad.EXE"}));
 
-            screen.Keys({VK_DELETE});
-            EXPECT_EQ(screen.Chosen(wizard, IDC_PROCESSES_CHOSEN), Rows{kSelf});
-            TypeNew(screen, wizard, L"calc.exe");
-            screen.Next(wizard);
-            EXPECT_TRUE(Called(
-                L"ProcessControlRecoveryAction.SetProcessNames([\"recoveryui_tests.exe\", \"calc.exe\"])"));
-            EXPECT_EQ(screen.RowsOf(wizard, IDC_OPERATION_LIST_ROWS),
-                      Rows{L"Close process | recoveryui_tests.exe;calc.exe"});
+        screen.Keys({VK_DELETE});
+        EXPECT_EQ(screen.Chosen(wizard, IDC_PROCESSES_CHOSEN), Rows{kSelf});
+        TypeNew(screen, wizard, L"calc.exe");
+        screen.Next(wizard);
+        EXPECT_TRUE(Called(
+            L"ProcessControlRecoveryAction.SetProcessNames([\"recoveryui_tests.exe\", \"calc.exe\"])"));
+        EXPECT_EQ(screen.RowsOf(wizard, IDC_OPERATION_LIST_ROWS),
+                  Rows{L"Close process | recoveryui_tests.exe;calc.exe"});
 
-            screen.Check(wizard, IDC_OPERATION_LIST_ANOTHER);
-            AddOperation(screen, wizard, IDC_SELECT_OPERATION_PROCESS);
-            EXPECT_EQ(Chosen(screen, wizard), Rows{});
-            EXPECT_FALSE(CanGoOn(screen, wizard));
-            TypeNew(screen, wizard, L"only.exe");
-            screen.Press(wizard, IDC_PROCESSES_REMOVE);
-            EXPECT_FALSE(CanGoOn(screen, wizard));
-            // A refused name is given up with the page.
-            screen.Press(wizard, IDC_PROCESSES_NEW);
-            screen.Type(L"x?");
-            screen.Back(wizard);
-            EXPECT_EQ(screen.PageTitle(wizard), L"Recovery Operation");
-            screen.Next(wizard);
-            EXPECT_EQ(Chosen(screen, wizard), Rows{});
-            screen.Cancel(wizard);
-        }),
-        S_FALSE);
-}
-
-TEST_F(ProcessPagesTest, ACrashTriggersNamesComeBackAndItsButtonsExplainThemselves) {
-    const struct {
-        Rows stored;
-        Rows shown;
-        bool canGoOn;
-        bool tips;
-    } cases[] = {
-        {{L"a.exe", L"", L"A.exe", L"b.exe"}, {L"a.exe", L"A.exe", L"b.exe"}, true, true},
-        {{}, {}, false, false},
-        {{L""}, {}, true, true},
-    };
-    for (const auto& each : cases) {
-        EditCrash(each.stored);
-        EXPECT_EQ(Run([&](UserScreen& screen, HWND wizard) {
-                      NextUntil(screen, wizard, L"Select Processes");
-                      EXPECT_EQ(Chosen(screen, wizard), each.shown);
-                      EXPECT_EQ(CanGoOn(screen, wizard), each.canGoOn);
-                      EXPECT_EQ(screen.Tip(wizard, IDC_PROCESSES_NEW), each.tips ? L"Add New Process" : L"");
-                      screen.Picture(wizard, L"crash-" + std::to_wstring(each.stored.size()));
-                      if (each.canGoOn) screen.Next(wizard);
-                      EXPECT_EQ(screen.PageTitle(wizard),
-                                each.shown.empty() ? L"Select Processes" : L"Recovery Operations");
-                      screen.Cancel(wizard);
-                  }),
-                  S_FALSE);
-    }
-    EXPECT_TRUE(Called(L"CrashRecoveryTrigger.SetProcesses([\"a.exe\", \"A.exe\", \"b.exe\"])"));
+        screen.Check(wizard, IDC_OPERATION_LIST_ANOTHER);
+        AddOperation(screen, wizard, IDC_SELECT_OPERATION_PROCESS);
+        EXPECT_EQ(Chosen(screen, wizard), Rows{});
+        TypeNew(screen, wizard, L"only.exe");
+        screen.Press(wizard, IDC_PROCESSES_REMOVE);
+        EXPECT_FALSE(CanGoOn(screen, wizard));
+        // A refused name is given up with the page.
+        screen.Press(wizard, IDC_PROCESSES_NEW);
+        screen.Type(L"x?");
+        screen.Back(wizard);
+        EXPECT_EQ(screen.PageTitle(wizard), L"Recovery Operation");
+        screen.Next(wizard);
+        EXPECT_EQ(Chosen(screen, wizard), Rows{});
+    });
 }
 
 // The buttons are explained unless a trigger of the page's own kind, or of none, gives nothing to show.
-TEST_F(ProcessPagesTest, WhatCannotBeReadOfATriggerEndsThePagesInitialisation) {
+TEST_F(ProcessPagesTest, ACrashTriggersNamesComeBackAndItsButtonsExplainThemselves) {
+    constexpr const wchar_t* kCrash = L"Vantrel.CrashRecoveryTrigger";
     const struct {
-        const wchar_t* trigger;
-        const wchar_t* failing;
-        bool tips;
+        const wchar_t *trigger, *failing;
+        Rows stored, shown;
+        bool canGoOn, tips;
     } cases[] = {
-        {L"Vantrel.CrashRecoveryTrigger", L"GetTriggerKind", false},
-        {L"Vantrel.CrashRecoveryTrigger", L"GetProcesses", false},
-        {L"Vantrel.ErrorRecoveryTrigger", nullptr, true},
+        {kCrash, nullptr, {L"a.exe", L"", L"A.exe", L"b.exe"}, {L"a.exe", L"A.exe", L"b.exe"}, true, true},
+        {kCrash, nullptr, {}, {}, false, false},
+        {kCrash, nullptr, {L""}, {}, true, true},
+        {kCrash, L"GetTriggerKind", {L"a"}, {}, false, false},
+        {kCrash, L"GetProcesses", {L"a"}, {}, false, false},
+        {L"Vantrel.ErrorRecoveryTrigger", nullptr, {}, {}, false, true},
     };
     for (const auto& each : cases) {
-        Edit(New<IRecoveryTrigger>(each.trigger).Get());
+        SCOPED_TRACE(&each - cases);
+        const auto trigger = New<IUnknown>(each.trigger);
+        if (const auto crash = com::Query<ICrashRecoveryTrigger>(trigger.Get())) {
+            EXPECT_EQ(crash->SetProcesses(ArrayOf<BSTR>(each.stored).Get()), S_OK);
+        }
+        Edit(trigger.Get());
         if (each.failing) FailCall(L"CrashRecoveryTrigger", each.failing, E_FAIL, 1, 0);
-        EXPECT_EQ(Run([&](UserScreen& screen, HWND wizard) {
-                      screen.Do([&] { SendMessageW(wizard, PSM_SETCURSELID, 0, IDD_CRASH); });
-                      EXPECT_EQ(screen.PageTitle(wizard), L"Select Processes");
-                      EXPECT_FALSE(CanGoOn(screen, wizard));
-                      for (const int button : {IDC_PROCESSES_NEW, IDC_PROCESSES_REMOVE})
-                          EXPECT_EQ(!screen.Tip(wizard, button).empty(), each.tips) << button;
-                      screen.Cancel(wizard);
-                  }),
-                  S_FALSE);
+        Browse([&](UserScreen& screen, HWND wizard) {
+            screen.Do([&] { SendMessageW(wizard, PSM_SETCURSELID, 0, IDD_CRASH); });
+            EXPECT_EQ(Chosen(screen, wizard), each.shown);
+            EXPECT_EQ(CanGoOn(screen, wizard), each.canGoOn);
+            EXPECT_EQ(screen.Tip(wizard, IDC_PROCESSES_NEW), each.tips ? L"Add New Process" : L"");
+            EXPECT_EQ(screen.Tip(wizard, IDC_PROCESSES_REMOVE), each.tips ? L"Remove Process" : L"");
+            if (each.canGoOn) screen.Next(wizard);
+            EXPECT_EQ(screen.PageTitle(wizard),
+                      each.shown.empty() ? L"Select Processes" : L"Recovery Operations");
+        });
         ClearFaults();
     }
-}
-
-TEST_F(ProcessPagesTest, HundredsOfNamesAreShownWithinABlink) {
-    Rows names;
-    for (int i = 0; i < 500; ++i) names.push_back(L"process " + std::to_wstring(i) + L".exe");
-    EditCrash(names);
-    EXPECT_EQ(Run([&](UserScreen& screen, HWND wizard) {
-                  NextUntil(screen, wizard, L"Select Trigger Event");
-                  const ULONGLONG before = ProcessorMilliseconds();
-                  screen.Next(wizard);
-                  EXPECT_LT(ProcessorMilliseconds() - before, 1000u);
-                  EXPECT_EQ(Chosen(screen, wizard).size(), names.size());
-                  screen.Picture(wizard, L"crash-many");
-                  screen.Cancel(wizard);
-              }),
-              S_FALSE);
+    EXPECT_TRUE(Called(L"CrashRecoveryTrigger.SetProcesses([\"a.exe\", \"A.exe\", \"b.exe\"])"));
 }
 
 }  // namespace

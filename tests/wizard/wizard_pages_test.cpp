@@ -1,32 +1,14 @@
 // The wizard's pages one by one: what they start with, what they refuse, and what hosts can do to them.
-#include <windows.h>
-
-#include <commctrl.h>
-
 #include "com/Object.h"
-#include "com/SafeArray.h"
 #include "wizard/WizardTest.h"
 
 namespace recoveryui::test {
 namespace {
 
-// A host that shows help topics itself.
-class HelpReader final : public com::Object<HelpReader, IHelpViewer> {
-public:
-    HRESULT STDMETHODCALLTYPE ShowTopic(long, BSTR topic) noexcept override {
-        last_ = com::ViewOf(topic);
-        return S_OK;
-    }
-    std::wstring last_;
-};
-
 // An operation that a later host invented.
 class NewerOperation final : public com::Object<NewerOperation, IRecoveryAction> {
 public:
-    HRESULT STDMETHODCALLTYPE GetOperationKind(long* kind) noexcept override {
-        *kind = 4;
-        return S_OK;
-    }
+    HRESULT STDMETHODCALLTYPE GetOperationKind(long* kind) noexcept override { return *kind = 4, S_OK; }
 };
 
 // A scenario of another maker: its operations are variants.
@@ -36,19 +18,13 @@ public:
         : operations_(std::move(operations)), trigger_(trigger) {}
 
     HRESULT STDMETHODCALLTYPE GetPostRecoveryOption(long* option) noexcept override {
-        *option = 9;
-        return S_OK;
+        return *option = 9, S_OK;
     }
     HRESULT STDMETHODCALLTYPE GetTrigger(IUnknown** trigger) noexcept override {
         return trigger_.CopyTo(trigger);
     }
     HRESULT STDMETHODCALLTYPE GetOperations(SAFEARRAY** operations) noexcept override {
-        com::CVtlSafeArray<VARIANT> array;
-        HRESULT hr = array.Create(static_cast<ULONG>(operations_.size()));
-        for (LONG index = 0; SUCCEEDED(hr) && index < static_cast<LONG>(operations_.size()); ++index)
-            hr = array.PutElement(index, operations_[static_cast<size_t>(index)]);
-        *operations = array.Detach();
-        return hr;
+        return *operations = ArrayOf<VARIANT>(operations_).Detach(), S_OK;
     }
     HRESULT STDMETHODCALLTYPE GetDescription(BSTR*) noexcept override { return E_FAIL; }
     HRESULT STDMETHODCALLTYPE SetPostRecoveryOption(long) noexcept override { return E_NOTIMPL; }
@@ -63,30 +39,6 @@ private:
 
 class WizardPagesTest : public WizardTest {
 protected:
-    com::Ptr<IPopUpRecoveryTrigger> PopUp(const std::wstring& title, long titleIsRegex = 0,
-                                          const std::wstring& text = {}, long textIsRegex = 0) const {
-        const auto trigger = New<IPopUpRecoveryTrigger>(L"Vantrel.PopUpRecoveryTrigger");
-        EXPECT_EQ(trigger->SetWindowTitle(com::Bstr(title).Get(), titleIsRegex), S_OK);
-        EXPECT_EQ(trigger->SetWindowText(com::Bstr(text).Get(), textIsRegex), S_OK);
-        return trigger;
-    }
-    static void GoToOperations(UserScreen& screen, HWND wizard) {
-        NextUntil(screen, wizard, L"Specify Pop-up Window Conditions");
-        screen.Enter(wizard, IDC_POPUP_TITLE, L"Error");
-        screen.Next(wizard);
-    }
-    // An operation of the type page is chosen and done as it stands; then on to the options.
-    static void GoToOptions(UserScreen& screen, HWND wizard, int radio) {
-        AddOperation(screen, wizard, radio);
-        if (radio == IDC_SELECT_OPERATION_CLICK) screen.Next(wizard);
-        screen.Check(wizard, IDC_OPERATION_LIST_ANOTHER, false);
-        screen.Next(wizard);
-    }
-    static void GoToSummary(UserScreen& screen, HWND wizard, const wchar_t* name) {
-        NextUntil(screen, wizard, L"Name and Description");
-        screen.Enter(wizard, IDC_SCEN_NAME, name);
-        screen.Next(wizard);
-    }
     // Of the six options: "-" hidden, "o" offered, "X" chosen.
     static std::wstring Options(UserScreen& screen, HWND wizard) {
         std::wstring options;
@@ -108,67 +60,6 @@ protected:
     }
 };
 
-TEST_F(WizardPagesTest, EveryPageHasABoldTitleAndOpensItsOwnHelpTopic) {
-    const auto help = HelpReader::Make();
-    rack_.Put(L"HelpViewer", help.Get());
-    Run([&](UserScreen& screen, HWND wizard) {
-        const auto expectTopic = [&](const wchar_t* topic) {
-            screen.Press(wizard, IDHELP);
-            EXPECT_EQ(help->last_, std::wstring(L"Recovery_Scenario_Wizard_") + topic + L".htm");
-            LOGFONTW page{}, title{};
-            const auto fontOf = [&](HWND window, LOGFONTW& font) {
-                GetObjectW(reinterpret_cast<HFONT>(screen.Ask(window, WM_GETFONT)), sizeof font, &font);
-            };
-            fontOf(screen.Page(wizard), page);
-            fontOf(screen.Control(wizard, IDC_PAGE_TITLE), title);
-            EXPECT_EQ(title.lfWeight, 700) << topic;
-            EXPECT_STREQ(title.lfFaceName, page.lfFaceName);
-            const HDC device = GetDC(wizard);
-            EXPECT_EQ(title.lfHeight, MulDiv(-10, GetDeviceCaps(device, LOGPIXELSY), 72));
-            ReleaseDC(wizard, device);
-        };
-        expectTopic(L"Welcome");
-        screen.Next(wizard);
-        expectTopic(L"Select_Trigger");
-        const struct {
-            int radio;
-            const wchar_t* topic;
-        } triggers[] = {{IDC_SELECT_TRIGGER_OBJECT_STATE, L"Object_State"},
-                        {IDC_SELECT_TRIGGER_ERROR, L"Test_Run"},
-                        {IDC_SELECT_TRIGGER_CRASH, L"Application_Crash"},
-                        {IDC_SELECT_TRIGGER_POPUP, L"Popup"}},
-          operations[] = {{IDC_SELECT_OPERATION_PROCESS, L"Close_Processes"},
-                          {IDC_SELECT_OPERATION_FUNCTION, L"Function"},
-                          {IDC_SELECT_OPERATION_CLICK, L"Click_Button"}};
-        for (const auto& trigger : triggers) {
-            screen.Check(wizard, trigger.radio);
-            screen.Next(wizard);
-            expectTopic(trigger.topic);
-            if (trigger.radio != IDC_SELECT_TRIGGER_POPUP) screen.Back(wizard);
-        }
-        screen.Enter(wizard, IDC_POPUP_TITLE, L"Error");
-        screen.Next(wizard);
-        expectTopic(L"Recovery_Ops");
-        screen.Next(wizard);
-        expectTopic(L"Recovery_Op");
-        for (const auto& operation : operations) {
-            screen.Check(wizard, operation.radio);
-            screen.Next(wizard);
-            expectTopic(operation.topic);
-            if (operation.radio != IDC_SELECT_OPERATION_CLICK) screen.Back(wizard);
-        }
-        screen.Next(wizard);
-        screen.Check(wizard, IDC_OPERATION_LIST_ANOTHER, false);
-        for (const wchar_t* topic : {L"Post_Recovery", L"Name_Description"}) {
-            screen.Next(wizard);
-            expectTopic(topic);
-        }
-        GoToSummary(screen, wizard, L"Popup");
-        expectTopic(L"Finish");
-        screen.Cancel(wizard);
-    });
-}
-
 TEST_F(WizardPagesTest, APopUpTriggerIsShownAsFarAsItCanBeRead) {
     const struct {
         com::Ptr<IPopUpRecoveryTrigger> trigger;
@@ -184,24 +75,23 @@ TEST_F(WizardPagesTest, APopUpTriggerIsShownAsFarAsItCanBeRead) {
     };
     for (const auto& c : cases) {
         Edit(c.trigger.Get());
-        Run([&](UserScreen& screen, HWND wizard) {
+        Browse([&](UserScreen& screen, HWND wizard) {
             screen.Next(wizard);
             if (c.failing) FailCall(L"PopUpRecoveryTrigger", c.failing);
             screen.Next(wizard);
             EXPECT_EQ(Conditions(screen, wizard), c.shown);
-            EXPECT_EQ(screen.IsEnabled(wizard, 0x3024), c.canGoOn) << Utf8(c.shown);
+            EXPECT_EQ(CanGoOn(screen, wizard), c.canGoOn) << Utf8(c.shown);
             if (screen.IsEnabled(wizard, IDC_POPUP_TITLE)) {
                 screen.Enter(wizard, IDC_POPUP_TITLE, L"typed");
                 EXPECT_TRUE(screen.IsEnabled(wizard, IDC_POPUP_TITLE)) << "nobody loses the box he types in";
             }
-            screen.Cancel(wizard);
         });
     }
 }
 
 TEST_F(WizardPagesTest, ATriggerThatDoesNotSayWhatItIsChoosesNothing) {
     Edit(PopUp(L"Error").Get());
-    Run([&](UserScreen& screen, HWND wizard) {
+    Browse([&](UserScreen& screen, HWND wizard) {
         FailCall(L"PopUpRecoveryTrigger", L"GetTriggerKind");
         screen.Next(wizard);
         for (int radio = IDC_SELECT_TRIGGER_POPUP; radio <= IDC_SELECT_TRIGGER_CRASH; ++radio)
@@ -213,8 +103,51 @@ TEST_F(WizardPagesTest, ATriggerThatDoesNotSayWhatItIsChoosesNothing) {
         FailCall(L"PopUpRecoveryTrigger", L"GetTriggerKind");
         screen.Back(wizard);
         EXPECT_EQ(screen.PageTitle(wizard), L"Select Trigger Event");
-        screen.Cancel(wizard);
     });
+}
+
+TEST_F(WizardPagesTest, EveryErrorIsOfferedExplainedAndKept) {
+    const std::pair<const wchar_t*, const wchar_t*> errors[] = {
+        {L"Any error", L"0"},
+        {L"Item in list or menu is not unique", L"-2147220982"},
+        {L"Item in list or menu not found", L"-2147220983"},
+        {L"More than one object responds to the physical description", L"-2147220989"},
+        {L"Object is disabled", L"-2147220984"},
+        {L"Object not found", L"-2147220990"},
+        {L"Object not visible", L"-2147220987"}};
+    Browse([&](UserScreen& screen, HWND wizard) {
+        const auto expectChosen = [&](const Rows& rows) {
+            EXPECT_EQ(screen.Chosen(wizard, IDC_SELECT_ERROR_LIST), rows);
+        };
+        NextUntil(screen, wizard, L"Select Trigger Event");
+        screen.Check(wizard, IDC_SELECT_TRIGGER_ERROR);
+        screen.Next(wizard);
+        EXPECT_EQ(screen.WizardButtons(wizard), L"B* n f");
+        for (const auto& [label, code] : errors) {
+            screen.Choose(wizard, IDC_SELECT_ERROR_LIST, label);
+            screen.Next(wizard);
+            EXPECT_TRUE(Called(std::wstring(L"ErrorRecoveryTrigger.SetErrorCode(") + code + L")"));
+            screen.Back(wizard);
+            expectChosen({label});
+        }
+        EXPECT_EQ(screen.RowsOf(wizard, IDC_SELECT_ERROR_LIST).size(), std::size(errors));
+        EXPECT_EQ(screen.Text(wizard, IDC_SELECT_ERROR_DESCRIPTION).substr(0, 33),
+                  L"Tovarin cannot perform the step b");
+        FailCall(L"ErrorRecoveryTrigger", L"SetErrorCode");
+        screen.Next(wizard);
+        EXPECT_EQ(screen.PageTitle(wizard), L"Select Test Run Error");
+    });
+    for (const auto& [code, chosen] : {std::pair{0x80040208u, Rows{L"Object is disabled"}},
+                                       std::pair{0u, Rows{L"Any error"}}, std::pair{0x80040299u, Rows{}}}) {
+        const auto trigger = New<IErrorRecoveryTrigger>(L"Vantrel.ErrorRecoveryTrigger");
+        EXPECT_EQ(trigger->SetErrorCode(static_cast<long>(code)), S_OK);
+        Edit(trigger.Get());
+        Browse([&](UserScreen& screen, HWND wizard) {
+            NextUntil(screen, wizard, L"Select Test Run Error");
+            EXPECT_EQ(screen.Chosen(wizard, IDC_SELECT_ERROR_LIST), chosen);
+            EXPECT_EQ(CanGoOn(screen, wizard), !chosen.empty());
+        });
+    }
 }
 
 TEST_F(WizardPagesTest, ARestartAloneIsAScenarioAndItsSummaryIsWrittenOnce) {
@@ -231,10 +164,8 @@ TEST_F(WizardPagesTest, ARestartAloneIsAScenarioAndItsSummaryIsWrittenOnce) {
         EXPECT_EQ(screen.PageTitle(wizard), L"Recovery Operation") << "no type is chosen";
         GoToOptions(screen, wizard, IDC_SELECT_OPERATION_RESTART);
         EXPECT_EQ(Options(screen, wizard), L"----Xo");
-        screen.Next(wizard);
-        screen.Enter(wizard, IDC_SCEN_NAME, L"  ");
         FailCall(L"RecoveryRepository", L"ScenarioExists");
-        screen.Next(wizard);
+        GoToSummary(screen, wizard, L"  ");
         EXPECT_EQ(screen.PageTitle(wizard), L"Name and Description");
         screen.Next(wizard);
         EXPECT_EQ(screen.Text(wizard, IDC_SUMMARY_TEXT), summary);
@@ -263,7 +194,7 @@ TEST_F(WizardPagesTest, ARestartAloneIsAScenarioAndItsSummaryIsWrittenOnce) {
               L"ObjectRack.GetObject(\"RACK_FILE_LOCATOR\", IFileLocator) -> E_FAIL\n");
 }
 
-TEST_F(WizardPagesTest, AScenarioThatGetsARestartGivesUpTheOptionThatIsHidden) {
+TEST_F(WizardPagesTest, AScenarioThatGetsARestartGivesUpTheOptionThatIsHiddenAndATakenNameIsRefused) {
     const auto other = New<IRecoveryScenario>(L"Vantrel.ReplayRecoveryScenario");
     ASSERT_EQ(repository_->AddScenario(other.Get(), com::Bstr(L"taken").Get(), 0), S_OK);
     Edit(PopUp(L"Error").Get());
@@ -279,7 +210,9 @@ TEST_F(WizardPagesTest, AScenarioThatGetsARestartGivesUpTheOptionThatIsHidden) {
         screen.Back(wizard);
         screen.Enter(wizard, IDC_SCEN_NAME, L"TAKEN");
         screen.Next(wizard);
-        screen.AnswerBox(IDOK);
+        EXPECT_EQ(screen.AnswerBox(IDOK),
+                  L"The recovery file already contains a scenario by this name.\n"
+                  L"Please choose a different name.");
         EXPECT_EQ(screen.FocusId(), IDC_SCEN_NAME);
         EXPECT_EQ(screen.Ask(screen.Control(wizard, IDC_SCEN_NAME), EM_GETSEL), MAKELRESULT(0, 5));
         screen.Type(L"Other");
@@ -287,8 +220,7 @@ TEST_F(WizardPagesTest, AScenarioThatGetsARestartGivesUpTheOptionThatIsHidden) {
         ForgetCalls();
         screen.Finish(wizard);
     });
-    EXPECT_TRUE(Called(L"SetPostRecoveryOption(8)"));
-    EXPECT_TRUE(Called(L"SetOperations([])"));
+    EXPECT_TRUE(CalledInOrder({L"SetPostRecoveryOption(8)", L"SetOperations([])"}));
 }
 
 TEST_F(WizardPagesTest, TheHostDecidesWhetherTheDefaultSettingsAreOffered) {
@@ -297,13 +229,12 @@ TEST_F(WizardPagesTest, TheHostDecidesWhetherTheDefaultSettingsAreOffered) {
     application->SetHostMode(VARIANT_TRUE);
     for (const bool answers : {true, false}) {
         if (!answers) FailCall(L"HostApplication", L"HostModeQuery");
-        Run([&](UserScreen& screen, HWND wizard) {
+        Browse([&](UserScreen& screen, HWND wizard) {
             GoToOperations(screen, wizard);
             GoToOptions(screen, wizard, IDC_SELECT_OPERATION_CLICK);
             GoToSummary(screen, wizard, L"Popup");
             EXPECT_TRUE(screen.IsVisible(wizard, IDC_SUMMARY_ADD_CURRENT));
             EXPECT_EQ(screen.IsVisible(wizard, IDC_SUMMARY_ADD_DEFAULT), !answers);
-            screen.Cancel(wizard);
         });
     }
 }
@@ -319,11 +250,9 @@ TEST_F(WizardPagesTest, AForeignScenarioIsReadAsFarAsItGoesAndItsUnknownOperatio
     wizard_->put_Scenario(scenario.Get());
     Run([&](UserScreen& screen, HWND wizard) {
         NextUntil(screen, wizard, L"Recovery Operations");
-        const Rows rows = {L"Keyboard click | "};
-        EXPECT_EQ(screen.RowsOf(wizard, IDC_OPERATION_LIST_ROWS), rows);
         screen.Choose(wizard, IDC_OPERATION_LIST_ROWS, L"Keyboard click");
         screen.Press(wizard, IDC_OPERATION_LIST_DOWN);
-        EXPECT_EQ(screen.RowsOf(wizard, IDC_OPERATION_LIST_ROWS), rows);
+        EXPECT_EQ(screen.RowsOf(wizard, IDC_OPERATION_LIST_ROWS), Rows{L"Keyboard click | "});
         screen.Next(wizard);
         EXPECT_EQ(Options(screen, wizard), L"oooooo") << "an option that is none";
         screen.Next(wizard);
