@@ -1,121 +1,73 @@
 // The Manager as a host opens it, with recovery files in a folder of the test's own.
 #pragma once
 
-#include <filesystem>
-#include <map>
-#include <memory>
-
 #include "HostInterfaces.h"
-#include "com/Object.h"
-#include "com/SafeArray.h"
-#include "com/Variant.h"
+#include "harness/Arrays.h"
 #include "harness/ComTest.h"
 #include "harness/ProcessWindows.h"
+#include "harness/TestSettings.h"
+#include "host/temp_folder.h"
 #include "resources/ids.h"
 
 namespace recoveryui::test {
 
 inline constexpr wchar_t kSaveQuestion[] = L"Do you want to save changes before closing?";
 
-// The test options of a host: what was written, by name and flags ("Name 1 0").
-class RecordedOptions final : public com::Object<RecordedOptions, IDispatch, ITestOptions> {
-public:
-    using Values = std::map<std::wstring, std::wstring>;
-    explicit RecordedOptions(std::shared_ptr<Values> values) : values_(std::move(values)) {}
-
-    HRESULT STDMETHODCALLTYPE GetTypeInfoCount(UINT*) noexcept override { return E_NOTIMPL; }
-    HRESULT STDMETHODCALLTYPE GetTypeInfo(UINT, LCID, ITypeInfo**) noexcept override { return E_NOTIMPL; }
-    HRESULT STDMETHODCALLTYPE GetIDsOfNames(REFIID, LPOLESTR*, UINT, LCID, DISPID*) noexcept override {
-        return E_NOTIMPL;
-    }
-    HRESULT STDMETHODCALLTYPE Invoke(DISPID, REFIID, LCID, WORD, DISPPARAMS*, VARIANT*, EXCEPINFO*,
-                                     UINT*) noexcept override {
-        return E_NOTIMPL;
-    }
-    HRESULT STDMETHODCALLTYPE GetItem(VARIANT item, VARIANT* found) noexcept override {
-        if (com::ViewOf(item.bstrVal) != L"ReplayRecovery") return E_FAIL;
-        *found = com::Variant(static_cast<IDispatch*>(this)).Detach();
-        return S_OK;
-    }
-    HRESULT STDMETHODCALLTYPE GetOptionValue(BSTR, BSTR name, VARIANT* value, long, long) noexcept override {
-        const auto found = values_->find(std::wstring(com::ViewOf(name)));
-        if (found == values_->end()) return E_FAIL;
-        *value = com::Variant(found->second).Detach();
-        return S_OK;
-    }
-    HRESULT STDMETHODCALLTYPE SetOptionValue(BSTR, BSTR name, VARIANT value, long toDefaults, long toTest,
-                                             long, long, long) noexcept override {
-        (*values_)[std::wstring(com::ViewOf(name)) + L" " + std::to_wstring(toDefaults) + L" " +
-                   std::to_wstring(toTest)] = com::ViewOf(value.bstrVal);
-        return S_OK;
-    }
-    HRESULT STDMETHODCALLTYPE GetSettingsRegistryPath(BSTR*) noexcept override { return E_NOTIMPL; }
-
-private:
-    std::shared_ptr<Values> values_;
-};
-
 class ManagerTest : public ComTest {
 protected:
     ManagerTest() {
-        folder_ = std::filesystem::temp_directory_path() / L"recovery files";
-        std::filesystem::remove_all(folder_);
-        std::filesystem::create_directories(folder_);
-        rack_.Put(L"TestOptions", static_cast<IDispatch*>(RecordedOptions::Make(options_).Get()))
-            .Put(L"RecordMgr", L"Tovarin.RecordMgr");
-    }
-    ~ManagerTest() override {
-        std::error_code ignored;
-        std::filesystem::remove_all(folder_, ignored);
+        const auto recorder = com::Query<IUnknown>(recorder_.Get());
+        rack_.Put(L"TestOptions", settings_.Get()).Put(L"RecordMgr", recorder.Get());
+        recorder_->SetActive(VARIANT_TRUE);
     }
 
     using Story = std::function<void(UserScreen&, HWND manager)>;
     // Shows the Manager to a user, who closes it in the end.
-    void Manage(Story story, unsigned patience = 20) {
+    void Manage(const Story& story) {
         const auto manager = New<IRecoveryDlg>(L"Vantrel.RecoveryDlg");
         rack_.GiveTo(manager.Get());
-        User user(
-            [story = std::move(story)](UserScreen& screen) {
-                story(screen, screen.WaitForWindow(L"Recovery Scenario Manager"));
-            },
-            patience);
+        User user([&](UserScreen& screen) {
+            const HWND window = screen.WaitForWindow(L"Recovery Scenario Manager");
+            story(screen, window);
+            if (IsWindow(window)) screen.Press(window, IDCANCEL);
+        });
         EXPECT_EQ(manager->DoModal(), S_OK);
     }
 
-    std::wstring Path(const wchar_t* name) const { return (folder_ / name).wstring(); }
-    static com::Bstr Text(const std::wstring& text) { return com::Bstr(text); }
+    std::wstring Path(const wchar_t* name) const { return folder_ / name; }
+    // Suspensions of the recording that were not resumed yet.
+    long Suspensions() const {
+        long count = -1;
+        recorder_->GetSuspensions(&count);
+        return count;
+    }
 
     com::Ptr<IRecoveryRepository> Load(const std::wstring& path, bool readOnly) const {
         const auto repository = New<IRecoveryRepository>(L"Vantrel.RecoveryRepository");
         rack_.GiveTo(repository.Get());
-        EXPECT_EQ(repository->Load(Text(path).Get(), readOnly ? VARIANT_TRUE : VARIANT_FALSE), S_OK);
+        EXPECT_EQ(repository->Load(com::Bstr(path).Get(), readOnly ? VARIANT_TRUE : VARIANT_FALSE), S_OK);
         return repository;
     }
     // A pop-up, answered by ENTER; the test goes on with the next step.
     static com::Ptr<IRecoveryScenario> Scenario(const std::wstring& description) {
         const auto scenario = New<IRecoveryScenario>(L"Vantrel.ReplayRecoveryScenario");
         const auto trigger = New<IPopUpRecoveryTrigger>(L"Vantrel.PopUpRecoveryTrigger");
-        const auto enter = New<IKeyBoardSimulatorRecoveryAction>(L"Vantrel.KeyBoardSimulatorRecoveryAction");
-        com::CVtlSafeArray<unsigned long> keys;
-        com::CVtlSafeArray<IUnknown*> operations;
-        EXPECT_EQ(keys.Create(1), S_OK);
-        EXPECT_EQ(keys.PutElement(0, VK_RETURN), S_OK);
-        EXPECT_EQ(enter->SetKeySequence(keys.Get()), S_OK);
-        EXPECT_EQ(operations.Create(1), S_OK);
-        EXPECT_EQ(operations.PutElement(0, com::Query<IUnknown>(enter.Get())), S_OK);
-        EXPECT_EQ(trigger->SetWindowTitle(Text(L"Error").Get(), 0), S_OK);
+        const auto enter = New<IUnknown>(L"Vantrel.KeyBoardSimulatorRecoveryAction");
+        EXPECT_EQ(trigger->SetWindowTitle(com::Bstr(L"Error").Get(), 0), S_OK);
         EXPECT_EQ(scenario->SetPostRecoveryOption(2), S_OK);
         EXPECT_EQ(scenario->SetTrigger(trigger.Get()), S_OK);
-        EXPECT_EQ(scenario->SetOperations(operations.Get()), S_OK);
-        EXPECT_EQ(scenario->SetDescription(Text(description).Get()), S_OK);
+        EXPECT_EQ(scenario->SetOperations(ArrayOf<IUnknown*>(std::vector{enter.Get()}).Get()), S_OK);
+        EXPECT_EQ(scenario->SetDescription(com::Bstr(description).Get()), S_OK);
         return scenario;
     }
     // A file of scenarios, each described as "About <name>".
     std::wstring MakeFile(const wchar_t* file, const Rows& names) const {
         const auto repository = Load({}, false);
-        for (const std::wstring& name : names)
-            EXPECT_EQ(repository->AddScenario(Scenario(L"About " + name).Get(), Text(name).Get(), 0), S_OK);
-        EXPECT_EQ(repository->Save(Text(Path(file)).Get()), S_OK);
+        for (const std::wstring& name : names) {
+            const auto scenario = Scenario(L"About " + name);
+            EXPECT_EQ(repository->AddScenario(scenario.Get(), com::Bstr(name).Get(), 0), S_OK);
+        }
+        EXPECT_EQ(repository->Save(com::Bstr(Path(file)).Get()), S_OK);
         return Path(file);
     }
     Rows NamesIn(const std::wstring& path) const {
@@ -128,21 +80,16 @@ protected:
     }
 
     // The user's steps.
-    static void ChooseFile(UserScreen& screen, const wchar_t* caption, const std::wstring& path) {
-        constexpr int kFileName = 0x47C;  // the number of the list, of the box in it and of the edit in that
-        const HWND dialog = screen.WaitForWindow(caption);
-        screen.Enter(screen.Control(screen.Control(dialog, kFileName), kFileName), kFileName, path);
-        LeaveFileDialog(screen, dialog, IDOK);
-    }
-    // Its list has the number of its button.
-    static void LeaveFileDialog(UserScreen& screen, HWND dialog, int button) {
-        screen.Do([=] { PostMessageW(GetDlgItem(dialog, button), BM_CLICK, 0, 0); });
-        screen.WaitUntilClosed(dialog);
+    static void WaitForFile(UserScreen& screen, HWND manager, const std::wstring& path) {
+        screen.WaitUntil("the file is open", [&] { return screen.Text(manager, IDC_MANAGER_FILE) == path; });
     }
     static void OpenFile(UserScreen& screen, HWND manager, const std::wstring& path) {
         screen.Press(manager, IDC_MANAGER_OPEN);
-        ChooseFile(screen, L"Open Recovery File", path);
-        screen.WaitUntil("the file is open", [&] { return screen.Text(manager, IDC_MANAGER_FILE) == path; });
+        screen.GiveFile(L"Open Recovery File", path);
+        WaitForFile(screen, manager, path);
+    }
+    static void FocusList(UserScreen& screen, HWND manager) {
+        screen.Do([=] { SetFocus(GetDlgItem(manager, IDC_MANAGER_LIST)); });
     }
     static void DropMenu(UserScreen& screen, HWND manager, int button) {
         screen.Do([=] { SetFocus(GetDlgItem(manager, button)); });
@@ -151,14 +98,14 @@ protected:
     static void SaveAs(UserScreen& screen, HWND manager, const std::wstring& path) {
         DropMenu(screen, manager, IDC_MANAGER_SAVE);
         screen.ChooseMenu(L"Save As");
-        ChooseFile(screen, L"Save Recovery File", path);
+        screen.GiveFile(L"Save Recovery File", path);
     }
     static Rows Names(UserScreen& screen, HWND manager) { return screen.RowsOf(manager, IDC_MANAGER_LIST); }
     static std::wstring Chosen(UserScreen& screen, HWND manager) {
         const Rows chosen = screen.Chosen(manager, IDC_MANAGER_LIST);
         return chosen.empty() ? L"" : chosen.front();
     }
-    // From the welcome page to the summary, with another name on the way.
+    // From the welcome page to the end, with another name on the way.
     static void WalkThroughWizard(UserScreen& screen, HWND wizard, const wchar_t* name) {
         while (screen.PageTitle(wizard) != L"Name and Description") {
             if (screen.PageTitle(wizard) == L"Recovery Operations")
@@ -178,8 +125,9 @@ protected:
     }
 
     Rack rack_;
-    std::shared_ptr<RecordedOptions::Values> options_ = std::make_shared<RecordedOptions::Values>();
-    std::filesystem::path folder_;
+    TestSettings settings_;
+    com::Ptr<IRecordMgrControl> recorder_ = New<IRecordMgrControl>(L"Tovarin.RecordMgr");
+    tovarin::TempFolder folder_;
 };
 
 }  // namespace recoveryui::test

@@ -6,7 +6,7 @@ namespace {
 
 TEST_F(ManagerTest, WhatCannotBeOpenedOrSavedChangesNothing) {
     const std::wstring file = MakeFile(L"work.trs", {L"one", L"two"}), missing = Path(L"missing.trs");
-    (*options_)[L"RecoveryManagerMRU"] = missing;
+    settings_.Store(L"RecoveryManagerMRU", com::Variant(missing), true);
     Manage([&](UserScreen& screen, HWND manager) {
         const auto expectUnchanged = [&] {
             EXPECT_EQ(screen.Text(manager, IDC_MANAGER_FILE), file);
@@ -26,37 +26,32 @@ TEST_F(ManagerTest, WhatCannotBeOpenedOrSavedChangesNothing) {
 
         const struct {
             const wchar_t *object, *operation;
-            HRESULT code;
-            long nth;
-        } openFailures[] = {{L"Vantrel.RecoveryRepository", L"Create", E_OUTOFMEMORY, 1},
-                            {L"RecoveryRepository", L"SetRack", E_FAIL, 1},
-                            {L"RecoveryRepository", L"Load", STG_E_DOCFILECORRUPT, 1},
+            HRESULT code = E_FAIL;
+            long nth = 1;
+            bool asksForFile = true;
+        } openFailures[] = {{L"Vantrel.RecoveryRepository", L"Create"},
+                            {L"RecoveryRepository", L"SetRack"},
+                            {L"RecoveryRepository", L"Load", STG_E_DOCFILECORRUPT},
                             {L"RecoveryRepository", L"Load", E_FAIL, 2},
-                            {L"Vantrel.TovCommonFileDialog", L"Create", E_FAIL, 1}};
+                            {L"Vantrel.TovCommonFileDialog", L"Create", E_FAIL, 1, false}};
         for (const auto& failure : openFailures) {
             FailCall(failure.object, failure.operation, failure.code, failure.nth);
             screen.Press(manager, IDC_MANAGER_OPEN);
             screen.AnswerBox(IDNO);
-            if (failure.object != std::wstring(L"Vantrel.TovCommonFileDialog"))
-                ChooseFile(screen, L"Open Recovery File", file);
+            if (failure.asksForFile) screen.GiveFile(L"Open Recovery File", file);
             expectUnchanged();
             ClearFaults();
         }
 
-        const struct {
-            HRESULT code;
-            std::wstring text;
-        } saveFailures[] = {
-            {E_FAIL, L"Failed to save recovery file."},
+        const std::pair<HRESULT, std::wstring> saveFailures[] = {
             {STG_E_ACCESSDENIED, L"Failed to save recovery file."},
             {STG_E_MEDIUMFULL, L"There is no disk space remaining on drive " + file.substr(0, 2) +
-                                   L"\nPlease free some space and try again."},
-        };
-        for (const auto& failure : saveFailures) {
-            FailCall(L"RecoveryRepository", L"Save", failure.code);
+                                   L"\nPlease free some space and try again."}};
+        for (const auto& [code, text] : saveFailures) {
+            FailCall(L"RecoveryRepository", L"Save", code);
             screen.Press(manager, IDCANCEL);
             EXPECT_EQ(screen.AnswerBox(IDYES), kSaveQuestion);
-            EXPECT_EQ(screen.AnswerBox(IDOK), failure.text);
+            EXPECT_EQ(screen.AnswerBox(IDOK), text);
             expectUnchanged();
         }
         FailCall(L"RecoveryRepository", L"Save", E_FAIL);
@@ -67,6 +62,7 @@ TEST_F(ManagerTest, WhatCannotBeOpenedOrSavedChangesNothing) {
 
         screen.Press(manager, IDCANCEL);
         EXPECT_EQ(screen.AnswerBox(IDNO), kSaveQuestion);
+        screen.WaitUntilClosed(manager);
     });
     EXPECT_EQ(NamesIn(file), (Rows{L"one", L"two"}));
 }
@@ -88,9 +84,6 @@ TEST_F(ManagerTest, FailingHostObjectsLeaveListSelectionAndFileAlone) {
         {L"RecordMgr", L"Suspend", IDC_MANAGER_EDIT},
         {L"ObjectRack", L"GetObject", IDC_MANAGER_NEW_SCENARIO},
     };
-    const auto recorder = New<IRecordMgrControl>(L"Tovarin.RecordMgr");
-    rack_.Put(L"RecordMgr", recorder.Get());
-    recorder->SetActive(VARIANT_TRUE);
     Manage([&](UserScreen& screen, HWND manager) {
         OpenFile(screen, manager, file);
         screen.Choose(manager, IDC_MANAGER_LIST, L"two");
@@ -104,15 +97,14 @@ TEST_F(ManagerTest, FailingHostObjectsLeaveListSelectionAndFileAlone) {
             EXPECT_EQ(Toolbar(screen, manager), L"NEPCVD") << c.command;
         }
         screen.Press(manager, IDCANCEL);  // nothing was changed
+        screen.WaitUntilClosed(manager);
     });
-    long suspended = 1;
-    recorder->GetSuspensions(&suspended);
-    EXPECT_EQ(suspended, 0);
+    EXPECT_EQ(Suspensions(), 0);
 }
 
 TEST_F(ManagerTest, AnEditThatCannotBeStoredLeavesTheOldScenario) {
     const std::wstring file = MakeFile(L"work.trs", {L"one"});
-    rack_.Get()->RemoveObject(Text(L"RecordMgr").Get());  // an edit does without
+    rack_.Get()->RemoveObject(com::Bstr(L"RecordMgr").Get());  // an edit does without
     Manage([&](UserScreen& screen, HWND manager) {
         OpenFile(screen, manager, file);
         for (const wchar_t* name : {L"ONE", L"two"}) {
@@ -128,6 +120,7 @@ TEST_F(ManagerTest, AnEditThatCannotBeStoredLeavesTheOldScenario) {
         }
         screen.Press(manager, IDC_MANAGER_NEW_SCENARIO);  // a new one needs the record manager
         screen.Press(manager, IDCANCEL);                  // nothing was changed
+        screen.WaitUntilClosed(manager);
     });
 }
 

@@ -7,9 +7,11 @@
 #include <functional>
 
 #include "HostInterfaces.h"
-#include "com/Variant.h"
+#include "harness/Arrays.h"
 #include "harness/ComTest.h"
 #include "harness/ProcessWindows.h"
+#include "harness/TestSettings.h"
+#include "host/temp_folder.h"
 #include "resources/ids.h"
 
 namespace recoveryui::test {
@@ -45,11 +47,9 @@ private:
     HWND window_ = nullptr;
 };
 
-// The user's commands in the frame, one after the other.
 class SettingsTest : public ComTest {
 protected:
     SettingsTest();
-    ~SettingsTest() override;
 
     struct Scenario {
         std::wstring name;
@@ -57,10 +57,10 @@ protected:
         std::wstring description = {};
     };
     // A recovery file; gives its full path.
-    std::wstring MakeFile(const std::wstring& name, const std::vector<Scenario>& scenarios);
+    std::wstring MakeFile(const std::wstring& name, const std::vector<Scenario>& scenarios) const;
 
     // Opens the settings, runs the script on the frame's window, and tells what the frame saw.
-    std::vector<std::string> OpenSettings(std::function<void(UserScreen&, HWND frame)> script);
+    std::vector<std::string> OpenSettings(const std::function<void(UserScreen&, HWND frame)>& script);
     // Presses Add and chooses scenarios of a file in the dialog.
     static void Add(UserScreen& screen, HWND frame, const std::wstring& file, const Rows& names);
 
@@ -68,23 +68,14 @@ protected:
     static void EnterFile(UserScreen& screen, HWND dialog, const std::wstring& file);
     static void SelectNames(UserScreen& screen, HWND dialog, const Rows& names);
 
-    // Recovery values of the open test or the user's defaults. Reading gives "-" for none.
-    std::wstring Stored(const wchar_t* name);
-    void Store(const wchar_t* name, const com::Variant& value, bool isDefault = false);
-    // The frame's shared values.
-    long Global(const wchar_t* name);
-    void SetGlobal(const wchar_t* name, const com::Variant& value);
-
     bool isReadOnly_ = false;
     bool hasSettingsProperty_ = true;
     bool keepsOpenOnClose_ = false;
     Rack rack_;
-    com::Ptr<ITestOptions> options_;
-    com::Ptr<ITestOptions> branch_;  // "ReplayRecovery"
+    TestSettings settings_;
 
 private:
-    std::wstring folder_;
-    std::vector<std::wstring> files_;
+    tovarin::TempFolder folder_;
 };
 
 }  // namespace recoveryui::test

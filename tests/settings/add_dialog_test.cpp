@@ -3,7 +3,6 @@
 
 #include <commctrl.h>
 
-#include "com/SafeArray.h"
 #include "settings/SettingsTest.h"
 
 namespace recoveryui::test {
@@ -11,12 +10,10 @@ namespace {
 
 class AddDialogTest : public SettingsTest {
 protected:
-    static constexpr int kList = IDC_ADD_SCENARIO_LIST;
-    AddDialogTest() : dialog_(New<IRecoveryAddDlg>(L"Vantrel.RecoveryAddDlg")) {
-        rack_.GiveTo(dialog_.Get());
-    }
+    static constexpr int kList = IDC_ADD_SCENARIO_LIST, kFile = IDC_ADD_SCENARIO_FILE;
+    AddDialogTest() { rack_.GiveTo(dialog_.Get()); }
 
-    HRESULT Run(std::function<void(UserScreen&, HWND dialog)> script) {
+    HRESULT Run(const std::function<void(UserScreen&, HWND dialog)>& script) {
         User user([&](UserScreen& screen) {
             const HWND window = screen.WaitForWindow(L"Add Recovery Scenario");
             script(screen, window);
@@ -26,7 +23,7 @@ protected:
     }
     // "file: name, name", as the caller of the dialog finds it.
     std::wstring Result() {
-        com::Bstr file;
+        com::Bstr file, name;
         com::Variant names;
         EXPECT_EQ(dialog_->get_FilePath(file.Put()), S_OK);
         EXPECT_EQ(dialog_->get_ScenariosNames(names.Put()), S_OK);
@@ -35,14 +32,13 @@ protected:
         EXPECT_EQ(array.LowerBound(), 0);
         std::wstring text = file.Text() + L":";
         for (LONG i = 0; i < static_cast<LONG>(array.Count()); ++i) {
-            com::Bstr name;
             EXPECT_EQ(array.GetElement(i, &name), S_OK);
             text += (i ? L", " : L" ") + name.Text();
         }
         return text;
     }
 
-    com::Ptr<IRecoveryAddDlg> dialog_;
+    com::Ptr<IRecoveryAddDlg> dialog_ = New<IRecoveryAddDlg>(L"Vantrel.RecoveryAddDlg");
 };
 
 TEST_F(AddDialogTest, ThreeRowsAreGivenInTheOrderOfTheSortedList) {
@@ -56,7 +52,6 @@ TEST_F(AddDialogTest, ThreeRowsAreGivenInTheOrderOfTheSortedList) {
                             (Rows{L"alpha", L"Bravo", L"Charlie", L"delta", L"echo"}));
                   EXPECT_EQ(screen.Chosen(dialog, kList), Rows{L"alpha"});
                   EXPECT_EQ(screen.FocusId(), kList);
-                  screen.Picture(dialog, L"add-dialog");
                   screen.Do([=] { ListView_SetItemState(GetDlgItem(dialog, kList), -1, 0, LVIS_SELECTED); });
                   screen.Press(dialog, IDOK);  // nothing is selected: nothing happens
                   SelectNames(screen, dialog, {L"echo", L"Bravo", L"delta"});
@@ -69,7 +64,6 @@ TEST_F(AddDialogTest, ThreeRowsAreGivenInTheOrderOfTheSortedList) {
                   screen.DoubleClick(dialog, kList, L"Charlie");
               }),
               S_OK);
-    EXPECT_EQ(Result(), file + L": Charlie");
     EXPECT_EQ(Run([](UserScreen&, HWND) {}), S_FALSE);
     EXPECT_EQ(Result(), file + L": Charlie");
 }
@@ -77,39 +71,38 @@ TEST_F(AddDialogTest, ThreeRowsAreGivenInTheOrderOfTheSortedList) {
 TEST_F(AddDialogTest, AFileThatCannotBeOpenedLeavesTheListAndTakesTheButton) {
     MakeFile(L"f.trs", {{L"A"}});
     MakeFile(L"empty.trs", {});
-    EXPECT_EQ(Result(), L":");
-    EXPECT_EQ(Run([&](UserScreen& screen, HWND dialog) {
-                  EnterFile(screen, dialog, L"");
-                  EnterFile(screen, dialog, L"f.trs");
-                  EXPECT_TRUE(screen.IsEnabled(dialog, IDOK));
-                  EnterFile(screen, dialog, L"C:\\no\\such.trs");
-                  EXPECT_EQ(screen.BoxLook(), L"warning: [OK]");
-                  EXPECT_EQ(screen.AnswerBox(IDOK), L"C:\\no\\such.trs\nFilename or path not found.");
-                  EXPECT_EQ(screen.RowsOf(dialog, kList), Rows{L"A"});
-                  EXPECT_FALSE(screen.IsEnabled(dialog, IDOK));
-                  EnterFile(screen, dialog, L"f.trs");
-                  EnterFile(screen, dialog, L"empty.trs");
-                  EXPECT_EQ(screen.RowsOf(dialog, kList), Rows{});
-                  EXPECT_FALSE(screen.IsEnabled(dialog, IDOK));
-                  // Going on to the list means the file that was typed.
-                  screen.Enter(dialog, 1001, L"f.trs");
-                  screen.Do([=] { SetFocus(GetDlgItem(dialog, kList)); });
-                  EXPECT_EQ(screen.RowsOf(dialog, kList), Rows{L"A"});
-                  // So does the Tab key, and the list after a look at the button between.
-                  screen.Enter(dialog, 1001, L"empty.trs");
-                  screen.RealKeys({VK_TAB});
-                  EXPECT_EQ(screen.RowsOf(dialog, kList), Rows{});
-                  screen.Enter(dialog, 1001, L"f.trs");
-                  for (const int next : {IDC_ADD_SCENARIO_BROWSE, kList}) {
-                      EXPECT_EQ(screen.RowsOf(dialog, kList), Rows{});
-                      screen.Do([=] { SetFocus(GetDlgItem(dialog, next)); });
-                  }
-                  EXPECT_EQ(screen.RowsOf(dialog, kList), Rows{L"A"});
-                  // Cancelling does not.
-                  screen.Enter(dialog, 1001, L"nowhere.trs");
-                  screen.Do([=] { SetFocus(GetDlgItem(dialog, IDCANCEL)); });
-              }),
-              S_FALSE);
+    const HRESULT result = Run([&](UserScreen& screen, HWND dialog) {
+        const auto focus = [&](int control) {
+            screen.Do([=] { SetFocus(GetDlgItem(dialog, control)); });
+            return screen.RowsOf(dialog, kList);
+        };
+        EnterFile(screen, dialog, L"");
+        EnterFile(screen, dialog, L"f.trs");
+        EXPECT_TRUE(screen.IsEnabled(dialog, IDOK));
+        EnterFile(screen, dialog, L"C:\\no\\such.trs");
+        EXPECT_EQ(screen.BoxLook(), L"warning: [OK]");
+        EXPECT_EQ(screen.AnswerBox(IDOK), L"C:\\no\\such.trs\nFilename or path not found.");
+        EXPECT_EQ(screen.RowsOf(dialog, kList), Rows{L"A"});
+        EXPECT_FALSE(screen.IsEnabled(dialog, IDOK));
+        EnterFile(screen, dialog, L"f.trs");
+        EnterFile(screen, dialog, L"empty.trs");
+        EXPECT_EQ(screen.RowsOf(dialog, kList), Rows{});
+        EXPECT_FALSE(screen.IsEnabled(dialog, IDOK));
+        // Going on to the list means the file that was typed.
+        screen.Enter(dialog, 1001, L"f.trs");
+        EXPECT_EQ(focus(kList), Rows{L"A"});
+        // So does the Tab key, and the list after a look at the button between.
+        screen.Enter(dialog, 1001, L"empty.trs");
+        screen.RealKeys({VK_TAB});
+        EXPECT_EQ(screen.RowsOf(dialog, kList), Rows{});
+        screen.Enter(dialog, 1001, L"f.trs");
+        EXPECT_EQ(focus(IDC_ADD_SCENARIO_BROWSE), Rows{});
+        EXPECT_EQ(focus(kList), Rows{L"A"});
+        // Cancelling does not.
+        screen.Enter(dialog, 1001, L"nowhere.trs");
+        focus(IDCANCEL);
+    });
+    EXPECT_EQ(result, S_FALSE);
     EXPECT_EQ(Result(), L":");
 }
 
@@ -117,19 +110,18 @@ TEST_F(AddDialogTest, ACancelledDialogRemembersFourFiles) {
     Rows files;
     for (const wchar_t* name : {L"1.trs", L"2.trs", L"3.trs", L"4.trs", L"5.trs"})
         files.push_back(MakeFile(name, {{name}}));
-    const int combo = IDC_ADD_SCENARIO_FILE;
     Run([&](UserScreen& screen, HWND dialog) {
-        EXPECT_EQ(screen.RowsOf(dialog, combo), Rows{});
+        EXPECT_EQ(screen.RowsOf(dialog, kFile), Rows{});
         for (const std::wstring& file : files) EnterFile(screen, dialog, file);
     });
     Run([&](UserScreen& screen, HWND dialog) {
-        EXPECT_EQ(screen.RowsOf(dialog, combo), (Rows{files[4], files[3], files[2], files[1]}));
-        screen.Choose(dialog, combo, files[2]);
+        EXPECT_EQ(screen.RowsOf(dialog, kFile), (Rows{files[4], files[3], files[2], files[1]}));
+        screen.Choose(dialog, kFile, files[2]);
         EXPECT_EQ(screen.RowsOf(dialog, kList), Rows{L"3.trs"});
-        EXPECT_EQ(screen.Text(dialog, combo), files[2]);
+        EXPECT_EQ(screen.Text(dialog, kFile), files[2]);
     });
     Run([&](UserScreen& screen, HWND dialog) {
-        EXPECT_EQ(screen.RowsOf(dialog, combo), (Rows{files[2], files[4], files[3], files[1]}));
+        EXPECT_EQ(screen.RowsOf(dialog, kFile), (Rows{files[2], files[4], files[3], files[1]}));
     });
 }
 
@@ -141,17 +133,10 @@ TEST_F(AddDialogTest, AFileIsBrowsedFor) {
     ForgetCalls();
     Run([&](UserScreen& screen, HWND dialog) {
         screen.Press(dialog, IDC_ADD_SCENARIO_BROWSE);
-        screen.Close(screen.WaitForWindow(L"Open Recovery File"));
+        screen.LeaveFileDialog(L"Open Recovery File", IDCANCEL);
         screen.Press(dialog, IDC_ADD_SCENARIO_BROWSE);
-        const HWND browser = screen.WaitForWindow(L"Open Recovery File");
-        HWND edit = GetDlgItem(browser, 0x47C);
-        for (const wchar_t* inside : {L"ComboBox", L"Edit"})
-            edit = FindWindowExW(edit, nullptr, inside, nullptr);
-        screen.Do([=] { SetWindowTextW(edit, file.c_str()); });
-        // A list inside has the button's number, too.
-        screen.Do([=] { PostMessageW(GetDlgItem(browser, IDOK), BM_CLICK, 0, 0); });
-        screen.WaitUntilClosed(browser);
-        EXPECT_EQ(screen.Text(dialog, IDC_ADD_SCENARIO_FILE), file);
+        screen.GiveFile(L"Open Recovery File", file);
+        screen.WaitUntil("the file is open", [&] { return screen.Text(dialog, kFile) == file; });
         EXPECT_EQ(screen.RowsOf(dialog, kList), Rows{L"A"});
     });
     for (const wchar_t* given : {L"FileFilter(\"Scenario Files (*.trs)|*.trs|All Files (*.*)|*.*||\")",
@@ -160,16 +145,14 @@ TEST_F(AddDialogTest, AFileIsBrowsedFor) {
 }
 
 TEST_F(AddDialogTest, NeedsARackAndWorksWithAnEmptyOne) {
-    const auto alone = New<IRecoveryDlg>(L"Vantrel.RecoveryAddDlg");
-    EXPECT_EQ(alone->DoModal(), E_FAIL);
+    EXPECT_EQ(New<IRecoveryDlg>(L"Vantrel.RecoveryAddDlg")->DoModal(), E_FAIL);
     EXPECT_EQ(dialog_->get_FilePath(nullptr), E_POINTER);
     EXPECT_EQ(dialog_->get_ScenariosNames(nullptr), E_POINTER);
     const std::wstring file = MakeFile(L"f.trs", {{L"A"}});
     Rack().GiveTo(dialog_.Get());
     EXPECT_EQ(Run([&](UserScreen& screen, HWND dialog) {
-                  EnterFile(screen, dialog, file);
-                  EnterFile(screen, dialog, file);
-                  EXPECT_EQ(screen.RowsOf(dialog, IDC_ADD_SCENARIO_FILE), Rows{file});
+                  for (int twice = 0; twice < 2; ++twice) EnterFile(screen, dialog, file);
+                  EXPECT_EQ(screen.RowsOf(dialog, kFile), Rows{file});
                   screen.Press(dialog, IDOK);
               }),
               S_OK);

@@ -21,7 +21,13 @@ protected:
     }
     HWND Tab() const { return GetWindow(frame_, GW_CHILD); }
     HRESULT Activate() { return page_->Activate(frame_, &kPlace, FALSE); }
-    void ClickCheckBox() const { SendMessageW(Tab(), WM_COMMAND, IDC_RECOVERY_TOGGLE, 0); }
+    // Where the page's window stands in its frame.
+    void ExpectAt(const RECT& wanted) const {
+        RECT place{};
+        GetWindowRect(Tab(), &place);
+        MapWindowPoints(nullptr, frame_, reinterpret_cast<POINT*>(&place), 2);
+        EXPECT_TRUE(EqualRect(&place, &wanted));
+    }
 
     static constexpr RECT kPlace{10, 20, 510, 400};
     HWND frame_;
@@ -42,23 +48,15 @@ TEST_F(RecoveryPageTest, SaysWhatItIsAndGoesWhereItIsPut) {
     CoTaskMemFree(info.pszTitle);
     CoTaskMemFree(info.pszHelpFile);
 
-    const auto place = [&] {
-        RECT rect{};
-        GetWindowRect(Tab(), &rect);
-        MapWindowPoints(nullptr, frame_, reinterpret_cast<POINT*>(&rect), 2);
-        return rect;
-    };
     const RECT second{0, 0, 580, 450};
-    const RECT first = place();
-    EXPECT_TRUE(EqualRect(&first, &kPlace));
+    ExpectAt(kPlace);
     EXPECT_FALSE(IsWindowVisible(Tab()));
     EXPECT_EQ(page_->Move(&second), S_OK);
-    EXPECT_EQ(page_->Show(SW_SHOW), S_OK);
-    const RECT moved = place();
-    EXPECT_TRUE(EqualRect(&moved, &second));
-    EXPECT_TRUE(IsWindowVisible(Tab()));
-    EXPECT_EQ(page_->Show(SW_HIDE), S_OK);
-    EXPECT_FALSE(IsWindowVisible(Tab()));
+    ExpectAt(second);
+    for (const UINT command : {SW_SHOW, SW_HIDE}) {
+        EXPECT_EQ(page_->Show(command), S_OK);
+        EXPECT_EQ(IsWindowVisible(Tab()) != 0, command == SW_SHOW);
+    }
     EXPECT_EQ(page_->Deactivate(), S_OK);
     EXPECT_EQ(Tab(), nullptr);
 }
@@ -87,31 +85,25 @@ TEST_F(RecoveryPageTest, RefusesWhatCannotBe) {
         {"Activate twice", Activate(), E_UNEXPECTED},
     };
     for (const auto& c : cases) EXPECT_EQ(c.answer, c.expected) << c.call;
-    EXPECT_EQ(Stored(L"RecoveryScenarios"), L"-") << "a page that was never open wrote something";
+    EXPECT_EQ(settings_.Stored(L"RecoveryScenarios"), L"-") << "a page that was never open wrote something";
     EXPECT_EQ(page_->Deactivate(), S_OK);
 }
 
-TEST_F(RecoveryPageTest, ChangesOutliveTheWindow) {
-    Store(L"RecoveryScenarios", com::Variant(L"f.trs;A;1;1*"));
+TEST_F(RecoveryPageTest, ChangesOutliveTheWindowAndTheModuleStaysAsLongAsTheFrameThatItWatches) {
+    settings_.Store(L"RecoveryScenarios", com::Variant(L"f.trs;A;1;1*"));
     EXPECT_EQ(Activate(), S_OK);
-    ClickCheckBox();
+    SendMessageW(Tab(), WM_COMMAND, IDC_RECOVERY_TOGGLE, 0);
     EXPECT_EQ(page_->IsPageDirty(), S_OK);
     EXPECT_EQ(page_->Deactivate(), S_OK);
     EXPECT_EQ(Activate(), S_OK);
     EXPECT_EQ(page_->Apply(), S_OK);
     EXPECT_EQ(page_->IsPageDirty(), S_FALSE);
-    EXPECT_EQ(Stored(L"RecoveryScenarios"), L"f.trs;A;0;1*");
+    EXPECT_EQ(settings_.Stored(L"RecoveryScenarios"), L"f.trs;A;0;1*");
     EXPECT_EQ(page_->Deactivate(), S_OK);
-}
 
-TEST_F(RecoveryPageTest, TheModuleStaysAsLongAsTheFrameThatItWatches) {
-    const auto canUnload = [] {
-        const auto ask = GetProcAddress(GetModuleHandleW(L"RecoveryUI.dll"), "DllCanUnloadNow");
-        return reinterpret_cast<HRESULT(STDAPICALLTYPE*)()>(reinterpret_cast<void*>(ask))();
-    };
-    EXPECT_EQ(Activate(), S_OK);
-    EXPECT_EQ(page_->Deactivate(), S_OK);
     page_.Reset();
+    const auto canUnload = reinterpret_cast<HRESULT(STDAPICALLTYPE*)()>(
+        reinterpret_cast<void*>(GetProcAddress(GetModuleHandleW(L"RecoveryUI.dll"), "DllCanUnloadNow")));
     EXPECT_EQ(canUnload(), S_FALSE);
     DestroyWindow(frame_);
     EXPECT_EQ(canUnload(), S_OK);
@@ -133,7 +125,7 @@ TEST_F(RecoveryPageTest, AFrameThatGoesUnderTheOpenDialogTakesEverythingAlong) {
         MSG message;
         while (IsWindow(frame_) && GetMessageW(&message, nullptr, 0, 0)) DispatchMessageW(&message);
     }
-    EXPECT_EQ(Stored(L"RecoveryScenarios"), L"-");
+    EXPECT_EQ(settings_.Stored(L"RecoveryScenarios"), L"-");
 }
 
 }  // namespace

@@ -1,4 +1,5 @@
-// The protocol between the settings frame and the page, in a real frame.
+// The protocol between the settings frame and the page, in a real frame. What is decided in which state is
+// the matter of the rules' own test.
 #include <windows.h>
 
 #include <commctrl.h>
@@ -8,20 +9,22 @@
 namespace recoveryui::test {
 namespace {
 
+using com::Variant;
 using Seen = std::vector<std::string>;
 
 class FrameProtocolTest : public SettingsTest {
 protected:
     FrameProtocolTest() {
-        SetGlobal(L"g_sApplyErrOkMsgBoxText", com::Variant(L"Configure first."));
-        SetGlobal(L"g_sCancelErrYesNoMsgBoxText", com::Variant(L"Leave it incomplete?"));
+        settings_.SetGlobal(L"g_sApplyErrOkMsgBoxText", Variant(L"Configure first."));
+        settings_.SetGlobal(L"g_sCancelErrYesNoMsgBoxText", Variant(L"Leave it incomplete?"));
     }
-    void SetConfiguration(bool forced, bool done, bool tabActive) {
-        SetGlobal(L"g_bForceSORConfiguration", com::Variant(forced ? 1L : 0L));
-        SetGlobal(L"g_bWasSORConfigured", com::Variant(done ? 1L : 0L));
-        SetGlobal(L"g_bIsSORTabActive", com::Variant(tabActive ? 1L : 0L));
-        SetGlobal(L"g_bAllowApply", com::Variant(7L));
+    void SetConfiguration(bool forced, bool done = false, bool tabActive = false) {
+        settings_.SetGlobal(L"g_bForceSORConfiguration", Variant(forced ? 1L : 0L));
+        settings_.SetGlobal(L"g_bWasSORConfigured", Variant(done ? 1L : 0L));
+        settings_.SetGlobal(L"g_bIsSORTabActive", Variant(tabActive ? 1L : 0L));
+        settings_.SetGlobal(L"g_bAllowApply", Variant(7L));
     }
+    long AllowApply() const { return settings_.Global(L"g_bAllowApply").Get().lVal; }
     static void ChangeTab(UserScreen& screen, HWND frame) {
         const HWND tabs = screen.Control(frame, kFrameTabs);
         RECT other{};
@@ -33,38 +36,36 @@ protected:
 };
 
 TEST_F(FrameProtocolTest, OkAndApplyWaitForAForcedConfiguration) {
-    for (int state = 0; state < 8; ++state) {
-        const bool forced = state & 1, done = state & 2, active = state & 4;
-        const bool isRefused = forced && !done && !active;
-        SCOPED_TRACE(state);
+    const struct {
+        bool done, tabActive, refused;
+    } cases[] = {{false, false, true}, {true, false, false}, {false, true, false}};
+    for (const auto& c : cases) {
+        SCOPED_TRACE(&c - cases);
         const Seen seen = OpenSettings([&](UserScreen& screen, HWND frame) {
-            SetConfiguration(forced, done, active);
             screen.Do([=] { EnableWindow(GetDlgItem(frame, kFrameApply), TRUE); });
             for (const int button : {kFrameApply, IDOK}) {
-                SetGlobal(L"g_bAllowApply", com::Variant(7L));
+                SetConfiguration(true, c.done, c.tabActive);
                 screen.Press(frame, button);
-                if (isRefused) {
+                if (c.refused) {
                     EXPECT_EQ(screen.BoxLook(), L"error: [OK]");
                     EXPECT_EQ(screen.AnswerBox(IDOK), L"Configure first.");
                 }
-                EXPECT_EQ(Global(L"g_bAllowApply"), 1);
+                EXPECT_EQ(AllowApply(), 1);
             }
-            if (isRefused) SetConfiguration(false, false, false);
+            if (c.refused) SetConfiguration(false);
         });
-        EXPECT_EQ(seen, isRefused ? Seen{"Cancel"} : (Seen{"Apply", "OK"}));
+        EXPECT_EQ(seen, c.refused ? Seen{"Cancel"} : (Seen{"Apply", "OK"}));
     }
 }
 
 TEST_F(FrameProtocolTest, CancelAndTheCloseBoxAskWhileAForcedConfigurationIsMissing) {
-    for (int state = 0; state < 8; ++state) {
-        const bool forced = state & 1, done = state & 2, active = state & 4;
-        for (const bool isCloseBox : {false, true}) {
-            SCOPED_TRACE(testing::Message() << state << (isCloseBox ? " close box" : " Cancel"));
+    for (const bool isCloseBox : {false, true}) {
+        for (const bool isDone : {false, true}) {
             const Seen seen = OpenSettings([&](UserScreen& screen, HWND frame) {
-                SetConfiguration(forced, done, active);
+                SetConfiguration(true, isDone);
                 const auto leave = [&] { isCloseBox ? screen.Close(frame) : screen.Press(frame, IDCANCEL); };
                 leave();
-                if (forced && !done) {
+                if (!isDone) {
                     EXPECT_EQ(screen.BoxLook(), L"warning: [OK] Cancel");
                     EXPECT_EQ(screen.AnswerBox(IDCANCEL), L"Leave it incomplete?");
                     EXPECT_TRUE(IsWindow(frame));
@@ -72,7 +73,7 @@ TEST_F(FrameProtocolTest, CancelAndTheCloseBoxAskWhileAForcedConfigurationIsMiss
                     EXPECT_EQ(screen.AnswerBox(IDOK), L"Leave it incomplete?");
                 }
                 screen.WaitUntilClosed(frame);
-                EXPECT_EQ(Global(L"g_bAllowApply"), isCloseBox ? 7 : 0);
+                EXPECT_EQ(AllowApply(), isCloseBox ? 7 : 0);
             });
             EXPECT_EQ(seen, Seen{"Cancel"});
         }
@@ -82,7 +83,7 @@ TEST_F(FrameProtocolTest, CancelAndTheCloseBoxAskWhileAForcedConfigurationIsMiss
 TEST_F(FrameProtocolTest, AnAnswerToTheCloseBoxIsNoAnswerToALaterCancel) {
     keepsOpenOnClose_ = true;
     OpenSettings([&](UserScreen& screen, HWND frame) {
-        SetConfiguration(true, false, false);
+        SetConfiguration(true);
         screen.Close(frame);
         screen.AnswerBox(IDOK);
         screen.Press(frame, IDCANCEL);
@@ -91,60 +92,51 @@ TEST_F(FrameProtocolTest, AnAnswerToTheCloseBoxIsNoAnswerToALaterCancel) {
     });
 }
 
-TEST_F(FrameProtocolTest, AChangeOfTheTabSetsTheButtonsAfterTheFrame) {
+TEST_F(FrameProtocolTest, AChangeOfTheTabSetsTheButtonsAfterTheFrameFromNumbersOnly) {
     const struct {
-        long dirty, readOnly;
+        Variant dirty, readOnly;
         bool apply, ok;
-    } cases[] = {{0, 0, false, true}, {1, 0, true, true}, {0, 1, false, false}, {1, 1, false, false}};
+    } cases[] = {{Variant(0L), Variant(0L), false, true},
+                 {Variant(1L), Variant(0L), true, true},
+                 {Variant(1L), Variant(1L), false, false},
+                 {Variant(L"1"), Variant(L"1"), false, true},
+                 {Variant(true), Variant(true), false, true}};
     for (const auto& c : cases) {
+        SCOPED_TRACE(&c - cases);
         const Seen seen = OpenSettings([&](UserScreen& screen, HWND frame) {
-            SetGlobal(L"g_bDirty", com::Variant(c.dirty));
-            SetGlobal(L"g_bIsReadOnlyMode", com::Variant(c.readOnly));
+            settings_.SetGlobal(L"g_bForceSORConfiguration", Variant(L"1"));
+            settings_.SetGlobal(L"g_bDirty", c.dirty);
+            settings_.SetGlobal(L"g_bIsReadOnlyMode", c.readOnly);
             ChangeTab(screen, frame);
             EXPECT_EQ(screen.IsEnabled(frame, kFrameApply), c.apply);
             EXPECT_EQ(screen.IsEnabled(frame, IDOK), c.ok);
         });
         EXPECT_EQ(seen, (Seen{"Tab", "Cancel"}));
     }
-}
-
-TEST_F(FrameProtocolTest, OnlyNumbersOfTheRightTypeCount) {
-    const com::Variant foreign[] = {com::Variant(L"1"), com::Variant(true), com::Variant(0L)};
-    for (const com::Variant& value : foreign) {
-        for (const wchar_t* name : {L"g_bForceSORConfiguration", L"g_bDirty", L"g_bIsReadOnlyMode"})
-            SetGlobal(name, value);
-        const Seen seen = OpenSettings([&](UserScreen& screen, HWND frame) {
-            ChangeTab(screen, frame);
-            EXPECT_FALSE(screen.IsEnabled(frame, kFrameApply));
-            screen.Press(frame, IDOK);
-        });
-        EXPECT_EQ(seen, (Seen{"Tab", "OK"}));
-    }
-    SetGlobal(L"g_sApplyErrOkMsgBoxText", com::Variant(3L));
+    settings_.SetGlobal(L"g_sApplyErrOkMsgBoxText", Variant(3L));
+    settings_.SetGlobal(L"g_bIsReadOnlyMode", Variant(0L));
     OpenSettings([&](UserScreen& screen, HWND frame) {
-        SetConfiguration(true, false, false);
+        SetConfiguration(true);
         screen.Press(frame, IDOK);
         EXPECT_EQ(screen.AnswerBox(IDOK), L"");
-        SetConfiguration(false, false, false);
+        SetConfiguration(false);
     });
 }
 
-TEST_F(FrameProtocolTest, TheFramesEndReleasesTheSettingsOnceAndLetsTheModuleGo) {
+TEST_F(FrameProtocolTest, TheFramesEndReleasesTheSettingsOnceAndAFrameWithoutThemIsLeftAlone) {
     const auto references = [&] {
-        options_.Get()->AddRef();
-        return options_.Get()->Release();
+        settings_.Get()->AddRef();
+        return settings_.Get()->Release();
     };
     const ULONG before = references();
-    OpenSettings([&](UserScreen&, HWND) { SetGlobal(L"g_bAlreadyInit", com::Variant(1L)); });
-    EXPECT_EQ(Global(L"g_bAlreadyInit"), 0);
+    OpenSettings([&](UserScreen&, HWND) { settings_.SetGlobal(L"g_bAlreadyInit", Variant(1L)); });
+    EXPECT_EQ(settings_.Global(L"g_bAlreadyInit").Get().lVal, 0);
     EXPECT_EQ(references(), before);
-}
 
-TEST_F(FrameProtocolTest, AFrameWithoutSettingsIsLeftAlone) {
-    SetConfiguration(true, false, false);
+    SetConfiguration(true);
     hasSettingsProperty_ = false;
     EXPECT_EQ(OpenSettings([](UserScreen& screen, HWND frame) { screen.Press(frame, IDOK); }), Seen{"OK"});
-    EXPECT_EQ(Global(L"g_bAllowApply"), 7);
+    EXPECT_EQ(AllowApply(), 7);
 }
 
 }  // namespace
