@@ -14,8 +14,7 @@ using recoveryui::test::ComTest;
 using recoveryui::test::User;
 using recoveryui::test::UserScreen;
 
-// The dialog's own controls, in both versions of the platform's dialog.
-constexpr int kNameEdit = 0x480;
+constexpr wchar_t kCaption[] = L"Pick One";
 
 class HostFileDialog : public ComTest {
 protected:
@@ -24,7 +23,7 @@ protected:
     }
     std::wstring DoModal(bool open, User::Script script) {
         Put(L"FileFilter", Variant(L"Scenario Files (*.trs)|*.trs|All Files (*.*)|*.*||"));
-        Put(L"SetDialogCaption4FileSystem", Variant(L"Pick One"));
+        Put(L"SetDialogCaption4FileSystem", Variant(kCaption));
         const User user(std::move(script));
         const Variant mode(open);
         Variant path;
@@ -32,24 +31,6 @@ protected:
         EXPECT_EQ(path.Type(), VT_BSTR);
         return std::wstring(path.Text());
     }
-    static void Give(UserScreen& screen, const std::wstring& path) {
-        const HWND window = screen.WaitForWindow(L"Pick One");
-        const HWND edit = FindEdit(window);
-        screen.Do([&] { SetWindowTextW(edit, path.c_str()); });
-        PressOwn(screen, window, IDOK);
-    }
-    // The dialog's own button: its lists use the same numbers.
-    static void PressOwn(UserScreen& screen, HWND window, int id) {
-        screen.Do([&] { PostMessageW(GetDlgItem(window, id), BM_CLICK, 0, 0); });
-    }
-    static HWND FindEdit(HWND window) {
-        HWND edit = GetDlgItem(window, kNameEdit);
-        if (!edit)
-            edit = FindWindowExW(FindWindowExW(GetDlgItem(window, 0x47C), nullptr, L"ComboBox", nullptr),
-                                 nullptr, L"Edit", nullptr);
-        return edit;
-    }
-
     TempFolder folder_;
     com::Ptr<IDispatch> dialog_ = New<IDispatch>(L"Vantrel.TovCommonFileDialog");
 };
@@ -57,41 +38,31 @@ protected:
 TEST_F(HostFileDialog, AFileIsOpenedOrTheDialogCancelled) {
     const std::wstring file = folder_ / L"a.trs";
     TempFolder::Write(file, {});
-    EXPECT_EQ(DoModal(true, [&](UserScreen& screen) { Give(screen, file); }), file);
-    EXPECT_EQ(
-        DoModal(true,
-                [&](UserScreen& screen) { PressOwn(screen, screen.WaitForWindow(L"Pick One"), IDCANCEL); }),
-        L"");
+    EXPECT_EQ(DoModal(true, [&](UserScreen& screen) { screen.GiveFile(kCaption, file); }), file);
     Put(L"SetCheckAttachmentExistence", Variant(true));
-    EXPECT_EQ(DoModal(true,
-                      [&](UserScreen& screen) {
-                          Give(screen, folder_ / L"none.trs");
-                          screen.Press(screen.WaitForWindow(nullptr), IDOK);
-                          PressOwn(screen, screen.WaitForWindow(L"Pick One"), IDCANCEL);
-                      }),
-              L"");
+    const std::wstring none = DoModal(true, [&](UserScreen& screen) {
+        screen.GiveFile(kCaption, folder_ / L"none.trs");
+        screen.Press(screen.WaitForWindow(nullptr), IDOK);
+        screen.LeaveFileDialog(kCaption, IDCANCEL);
+    });
+    EXPECT_EQ(none, L"");
 }
 
 TEST_F(HostFileDialog, SavingNeverReplacesAFileUnasked) {
     const std::wstring file = folder_ / L"a.trs";
     TempFolder::Write(file, {});
-    EXPECT_EQ(DoModal(false, [&](UserScreen& screen) { Give(screen, folder_ / L"new.trs"); }),
-              folder_ / L"new.trs");
-    EXPECT_EQ(DoModal(false,
-                      [&](UserScreen& screen) {
-                          Give(screen, file);
-                          screen.AnswerBox(IDYES, L"Pick One");
-                      }),
-              file);
-    // The name will be completed to that of an existing file.
-    EXPECT_EQ(DoModal(false,
-                      [&](UserScreen& screen) {
-                          Give(screen, folder_ / L"a");
-                          EXPECT_EQ(screen.AnswerBox(IDNO, L"Pick One"),
-                                    file + L"\nThis file already exists.\nDo you want to replace it?");
-                          Give(screen, folder_ / L"b");
-                      }),
-              folder_ / L"b");
+    std::wstring given = DoModal(false, [&](UserScreen& screen) {
+        screen.GiveFile(kCaption, file);
+        screen.AnswerBox(IDYES, kCaption);
+    });
+    EXPECT_EQ(given, file);
+    given = DoModal(false, [&](UserScreen& screen) {
+        screen.GiveFile(kCaption, folder_ / L"a");  // will be completed to that of an existing file
+        EXPECT_EQ(screen.AnswerBox(IDNO, kCaption),
+                  file + L"\nThis file already exists.\nDo you want to replace it?");
+        screen.GiveFile(kCaption, folder_ / L"b");
+    });
+    EXPECT_EQ(given, folder_ / L"b");
 }
 
 TEST_F(HostFileDialog, ItsMembersAreKnownByName) {

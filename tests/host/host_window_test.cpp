@@ -23,6 +23,17 @@ class HostTest : public ComTest {
 protected:
     ~HostTest() override { RegDeleteTreeW(HKEY_CURRENT_USER, kSettingsPath); }
 
+    using Story = std::function<void(UserScreen&, HWND window)>;
+    // Runs the host for a user, who closes it in the end.
+    void Run(const Story& story, const tovarin::HostOptions& options = {}) {
+        User user([&](UserScreen& screen) {
+            const HWND window = screen.WaitForWindow(nullptr, tovarin::kMainWindowClass);
+            story(screen, window);
+            screen.Close(window);
+        });
+        EXPECT_EQ(tovarin::RunHost(options), 0);
+    }
+
     tovarin::TempFolder folder;
 };
 
@@ -35,40 +46,6 @@ std::wstring StatusText(UserScreen& screen, HWND window, int part) {
     screen.Ask(screen.Control(window, kStatus), SB_GETTEXTW, static_cast<WPARAM>(part),
                reinterpret_cast<LPARAM>(text));
     return text;
-}
-
-std::wstring ClipboardText() {
-    std::wstring text;
-    if (!OpenClipboard(nullptr)) return text;
-    if (const HANDLE data = GetClipboardData(CF_UNICODETEXT)) {
-        text = static_cast<const wchar_t*>(GlobalLock(data));
-        GlobalUnlock(data);
-    }
-    CloseClipboard();
-    return text;
-}
-
-TEST_F(HostTest, TheManagerComesIntoTheMenuWithTheAddInAndGoesWithIt) {
-    tovarin::HostOptions options;
-    options.settingsPath = kSettingsPath;
-    User user([](UserScreen& screen) {
-        const HWND window = screen.WaitForWindow(L"Untitled - Tovarin", tovarin::kMainWindowClass);
-        EXPECT_EQ(StatusText(screen, window, 0), L"For help, press F1");
-        screen.Mnemonic(L'r');
-        EXPECT_EQ(screen.MenuItems(), Rows{L"Recovery Scenario &Manager..."});
-        screen.Ask(window, WM_MENUSELECT, MAKEWPARAM(IDM_ADDIN_FIRST, MF_HILITE),
-                   reinterpret_cast<LPARAM>(GetSubMenu(GetMenu(window), 1)));
-        EXPECT_EQ(StatusText(screen, window, 0), L"Displays the Recovery Scenario Manager dialog box");
-        screen.Picture(window, L"host-menu");
-        screen.ChooseMenu(L"Recovery Scenario &Manager...");
-        const HWND manager = screen.WaitForWindow(L"Recovery Scenario Manager");
-        EXPECT_FALSE(IsWindowEnabled(window));
-        screen.Close(manager);
-        screen.WaitUntilClosed(manager);
-        screen.Close(window);
-    });
-    EXPECT_EQ(tovarin::RunHost(options), 0);
-    EXPECT_NE(Calls().find(L"AddInManager.UnregisterCommand(1) -> S_OK"), std::wstring::npos);
 }
 
 TEST_F(HostTest, WithoutTheAddInTheUserIsToldAndTheMenuSaysSo) {
@@ -119,14 +96,14 @@ TEST_F(HostTest, TheTestOfTheCommandLineIsOpened) {
 }
 
 TEST_F(HostTest, TheJournalIsShownCopiedAndWrittenToAFile) {
-    tovarin::HostOptions options;
-    options.journalFile = folder / L"journal.txt";
-    User user([](UserScreen& screen) {
-        const HWND window = screen.WaitForWindow(nullptr, tovarin::kMainWindowClass);
+    const auto story = [](UserScreen& screen, HWND window) {
         const HWND list = screen.Control(window, kJournal);
         const auto count = static_cast<size_t>(screen.Ask(list, LVM_GETITEMCOUNT));
         EXPECT_GT(count, 5u);
         EXPECT_EQ(StatusText(screen, window, 1), std::to_wstring(count) + L" calls");
+        screen.Ask(window, WM_MENUSELECT, MAKEWPARAM(IDM_ADDIN_FIRST, MF_HILITE),
+                   reinterpret_cast<LPARAM>(GetSubMenu(GetMenu(window), 1)));
+        EXPECT_EQ(StatusText(screen, window, 0), L"Displays the Recovery Scenario Manager dialog box");
         Command(screen, window, IDM_JOURNAL_SELECT_ALL);
         Command(screen, window, IDM_JOURNAL_COPY);
         const std::wstring text = ClipboardText();
@@ -136,12 +113,12 @@ TEST_F(HostTest, TheJournalIsShownCopiedAndWrittenToAFile) {
         screen.Picture(window, L"host-journal");
         Command(screen, window, IDM_JOURNAL_CLEAR);
         EXPECT_EQ(screen.Ask(list, LVM_GETITEMCOUNT), 0);
-        screen.Close(window);
-    });
-    EXPECT_EQ(tovarin::RunHost(options), 0);
-    EXPECT_NE(
-        tovarin::TempFolder::Read(options.journalFile).find("AddInManager.UnregisterCommand(1) -> S_OK\n"),
-        std::string::npos);
+    };
+    tovarin::HostOptions options;
+    options.journalFile = folder / L"journal.txt";
+    Run(story, options);
+    const std::string written = tovarin::TempFolder::Read(options.journalFile);
+    EXPECT_NE(written.find("AddInManager.UnregisterCommand(1) -> S_OK\n"), std::string::npos);
 }
 
 TEST_F(HostTest, AChangedTestIsLeftOnlyWithTheUsersConsent) {
@@ -153,22 +130,20 @@ TEST_F(HostTest, AChangedTestIsLeftOnlyWithTheUsersConsent) {
         services.Find<ITestOptions>(L"TestOptions")
             ->SetOptionValue(nullptr, com::Bstr(L"Enabled").Get(), com::Variant(value).Get(), 0, 1, 0, 3, 0);
     };
+    // What a test asks before it is left, and the user's answer.
+    const auto leave = [&](WORD answer, const std::wstring& question, const std::function<bool()>& leaving) {
+        User user([&](UserScreen& screen) { EXPECT_EQ(screen.AnswerBox(answer), question); });
+        return leaving();
+    };
     const std::wstring path = folder / L"Basket.tvt";
     test.New(nullptr);
     EXPECT_TRUE(test.MayLeave(nullptr));
     change(1);
-    {
-        User user([](UserScreen& screen) {
-            EXPECT_EQ(screen.AnswerBox(IDCANCEL), L"Save the changes to Untitled?");
-        });
-        EXPECT_FALSE(test.MayLeave(nullptr));
-    }
+    EXPECT_FALSE(leave(IDCANCEL, L"Save the changes to Untitled?", [&] { return test.MayLeave(nullptr); }));
     {
         User user([&](UserScreen& screen) {
             screen.AnswerBox(IDYES);
-            const HWND dialog = screen.WaitForWindow(nullptr);
-            screen.Enter(dialog, 0x480, path);
-            screen.Press(dialog, IDOK);
+            screen.GiveFile(TextOf(screen.WaitForWindow(nullptr)).c_str(), path);
         });
         EXPECT_TRUE(test.MayLeave(nullptr));
     }
@@ -178,12 +153,7 @@ TEST_F(HostTest, AChangedTestIsLeftOnlyWithTheUsersConsent) {
     EXPECT_NE(saved.find("Enabled"), std::string::npos);
 
     change(0);
-    {
-        User user([](UserScreen& screen) {
-            EXPECT_EQ(screen.AnswerBox(IDNO), L"Save the changes to Basket.tvt?");
-        });
-        test.New(nullptr);
-    }
+    leave(IDNO, L"Save the changes to Basket.tvt?", [&] { return test.New(nullptr), true; });
     EXPECT_EQ(test.Name(), L"Untitled");
     EXPECT_EQ(tovarin::TempFolder::Read(path), saved);
 
@@ -191,13 +161,8 @@ TEST_F(HostTest, AChangedTestIsLeftOnlyWithTheUsersConsent) {
     test.OpenFile(nullptr, path);
     EXPECT_TRUE(test.IsReadOnly());
     const std::wstring missing = folder / L"Missing.tvt";
-    {
-        User user([&](UserScreen& screen) {
-            EXPECT_EQ(screen.AnswerBox(IDOK),
-                      L"The test " + missing + L" could not be opened (STG_E_FILENOTFOUND).");
-        });
-        test.OpenFile(nullptr, missing);
-    }
+    leave(IDOK, L"The test " + missing + L" could not be opened (STG_E_FILENOTFOUND).",
+          [&] { return test.OpenFile(nullptr, missing), true; });
     EXPECT_EQ(test.Name(), L"Basket.tvt");
 }
 

@@ -71,8 +71,8 @@ TEST_F(KillTest, TheFileHoldsTheOldOrTheNewContentWheneverTheSaverIsKilled) {
         STARTUPINFOW start{};
         start.cb = sizeof start;
         PROCESS_INFORMATION saver{};
-        ASSERT_TRUE(CreateProcessW(nullptr, command.data(), nullptr, nullptr, FALSE, DETACHED_PROCESS, nullptr, nullptr,
-                                   &start, &saver));
+        ASSERT_TRUE(CreateProcessW(nullptr, command.data(), nullptr, nullptr, FALSE, DETACHED_PROCESS,
+                                   nullptr, nullptr, &start, &saver));
         // It saves as soon as the file is taken; what comes then is chance.
         const std::string old = TempFolder::Read(path);
         for (int tries = 0; tries < 2000 && TempFolder::Read(path) == old; ++tries) Sleep(1);

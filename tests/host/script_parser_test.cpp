@@ -1,12 +1,7 @@
 // Which functions a library has, as data.
 #include <gtest/gtest.h>
 
-#include <ctime>
-
 #include "objects/script/ScriptParser.h"
-#ifdef _WIN32
-#include "harness/ProcessorTime.h"
-#endif
 
 namespace tovarin {
 namespace {
@@ -100,39 +95,6 @@ TEST(HostScriptParser, WhatCannotBeAScriptIsRejected) {
     for (const wchar_t* text : bad) EXPECT_EQ(Functions(text), L"rejected") << std::wstring(text).size();
     EXPECT_EQ(Functions(std::wstring_view(L"x\0y", 3)), L"rejected");
     EXPECT_EQ(Functions(L"Sub A\nEnd Sub\n\x1A"), L"A=Sub A\nEnd Sub");
-}
-
-// Seconds of the processor, whatever else the machine does.
-double Worked() {
-#ifdef _WIN32
-    return static_cast<double>(recoveryui::test::ProcessorMilliseconds()) / 1000;
-#else
-    return static_cast<double>(std::clock()) / CLOCKS_PER_SEC;
-#endif
-}
-
-// Awkward lines of one kind, a million characters of them: going back over any of it would take minutes.
-TEST(HostScriptParser, TimeGrowsWithTheTextAndNoFaster) {
-    const wchar_t* const lines[] = {L"Function A(b)\nA = b ' c\nEnd Function\n",
-                                    L"# ",
-                                    L"#\"\"",
-                                    L"_ ",
-                                    L"End ",
-                                    L"property ",
-                                    L"\"a\"\"b\" ",
-                                    L"Public ",
-                                    L"[a] ",
-                                    L"Rem x\n",
-                                    L": "};
-    const auto measure = [](const wchar_t* line, size_t size) {
-        std::wstring text;
-        while (text.size() < size) text += line;
-        const double start = Worked();
-        EXPECT_TRUE(ParseScript(text));
-        return Worked() - start;
-    };
-    for (const wchar_t* line : lines) EXPECT_LT(measure(line, 1'000'000), 3.0) << std::wstring(line).size();
-    EXPECT_LT(measure(lines[0], 10'000'000), 10.0);
 }
 
 }  // namespace

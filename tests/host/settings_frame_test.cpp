@@ -107,7 +107,12 @@ protected:
     ~SettingsFrameTest() override {
         for (const DWORD cookie : cookies_) CoRevokeClassObject(cookie);
     }
-    void Show(std::vector<CLSID> pages, bool readOnly = false) {
+    // Shows the frame to a user.
+    void Show(std::vector<CLSID> pages, const std::function<void(UserScreen&, HWND frame)>& script,
+              bool readOnly = false) {
+        User user([&](UserScreen& screen) {
+            script(screen, screen.WaitForWindow(readOnly ? L"Test Settings (read-only)" : L"Test Settings"));
+        });
         tovarin::SettingsFrame({rack.Get(), options, std::move(pages), readOnly}).ShowModal(nullptr);
     }
     tovarin::FrameValues Values() const { return tovarin::FrameValues(options.Get()); }
@@ -132,11 +137,9 @@ int CurrentTab(UserScreen& screen, HWND frame) {
 }
 
 TEST_F(SettingsFrameTest, ChangesAreAppliedOnceAndThePagesAreLetGo) {
-    User user([&](UserScreen& screen) {
-        const HWND frame = screen.WaitForWindow(L"Test Settings");
+    Show({kFirst, kUnknown, kSecond}, [&](UserScreen& screen, HWND frame) {
         EXPECT_EQ(GetPropW(frame, L"SettingsObjPtr"), options.Get());
         EXPECT_TRUE(Values().IsSet(tovarin::kAlreadyInit));
-        EXPECT_EQ(screen.FocusId(), kPageEdit);
         EXPECT_FALSE(screen.IsEnabled(frame, IDC_SETTINGS_APPLY));
         screen.Enter(frame, kPageEdit, L"x");
         EXPECT_TRUE(screen.IsEnabled(frame, IDC_SETTINGS_APPLY));
@@ -145,21 +148,17 @@ TEST_F(SettingsFrameTest, ChangesAreAppliedOnceAndThePagesAreLetGo) {
         screen.Press(frame, IDC_SETTINGS_HELP);
         screen.Press(frame, IDOK);
     });
-    Show({kFirst, kUnknown, kSecond});
     EXPECT_EQ(first->calls, L"rack site activate apply help deactivate no site ");
     EXPECT_EQ(second->calls, L"rack site activate deactivate no site ");
     EXPECT_FALSE(Values().IsSet(tovarin::kAlreadyInit));
 }
 
 TEST_F(SettingsFrameTest, TheKeyboardReachesEveryTabAndEveryControl) {
-    User user([&](UserScreen& screen) {
-        const HWND frame = screen.WaitForWindow(L"Test Settings");
-        std::vector<int> stops;
-        for (int press = 0; press < 5; ++press) {
-            stops.push_back(screen.FocusId());
+    Show({kFirst, kSecond}, [&](UserScreen& screen, HWND frame) {
+        for (const int stop : {kPageEdit, IDOK, IDCANCEL, IDC_SETTINGS_HELP, IDC_SETTINGS_TABS}) {
+            EXPECT_EQ(screen.FocusId(), stop);
             screen.Keys({VK_TAB});
         }
-        EXPECT_EQ(stops, (std::vector<int>{kPageEdit, IDOK, IDCANCEL, IDC_SETTINGS_HELP, IDC_SETTINGS_TABS}));
         EXPECT_EQ(screen.FocusId(), kPageEdit);
         for (const int tab : {1, 2, 0}) {
             screen.RealKeys({VK_CONTROL, VK_TAB});
@@ -172,13 +171,11 @@ TEST_F(SettingsFrameTest, TheKeyboardReachesEveryTabAndEveryControl) {
         screen.Picture(frame, L"host-settings");
         screen.Keys({VK_ESCAPE});
     });
-    Show({kFirst, kSecond});
 }
 
 TEST_F(SettingsFrameTest, APageThatCannotApplyKeepsTheFrameOpenAndIsShown) {
     second->applyResult = STG_E_ACCESSDENIED;
-    User user([&](UserScreen& screen) {
-        const HWND frame = screen.WaitForWindow(L"Test Settings");
+    Show({kFirst, kSecond}, [&](UserScreen& screen, HWND frame) {
         screen.RealKeys({VK_CONTROL, VK_TAB});
         screen.Enter(frame, kPageEdit, L"x");
         screen.RealKeys({VK_CONTROL, VK_TAB});
@@ -189,51 +186,28 @@ TEST_F(SettingsFrameTest, APageThatCannotApplyKeepsTheFrameOpenAndIsShown) {
         EXPECT_TRUE(screen.IsEnabled(frame, IDC_SETTINGS_APPLY));
         screen.Close(frame);
     });
-    Show({kFirst, kSecond});
     EXPECT_EQ(second->calls, L"rack site activate apply deactivate no site ");
 }
 
 TEST_F(SettingsFrameTest, ReadOnlySettingsCanOnlyBeLookedAt) {
-    User user([&](UserScreen& screen) {
-        const HWND frame = screen.WaitForWindow(L"Test Settings (read-only)");
+    const auto look = [&](UserScreen& screen, HWND frame) {
         EXPECT_TRUE(Values().IsSet(tovarin::kReadOnlyMode));
         screen.Enter(frame, kPageEdit, L"x");
         EXPECT_FALSE(screen.IsEnabled(frame, IDOK));
         EXPECT_FALSE(screen.IsEnabled(frame, IDC_SETTINGS_APPLY));
         screen.Press(frame, IDCANCEL);
-    });
-    Show({kFirst}, true);
+    };
+    Show({kFirst}, look, true);
     EXPECT_FALSE(first->frameMayApply);
     EXPECT_EQ(first->calls, L"rack site activate deactivate no site ");
 }
 
-TEST_F(SettingsFrameTest, TheSorTabSetsWhatOtherPagesReadAndKeepsIt) {
-    for (const bool again : {false, true}) {
-        User user([&](UserScreen& screen) {
-            const HWND frame = screen.WaitForWindow(L"Test Settings");
-            EXPECT_EQ(screen.IsChecked(frame, IDC_SOR_REQUIRE), again);
-            EXPECT_EQ(screen.Text(frame, IDC_SOR_QUESTION),
-                      again ? L"Sure?"
-                            : L"The SOR configuration is not complete. Close the settings all the same?");
-            screen.Check(frame, IDC_SOR_REQUIRE);
-            screen.Enter(frame, IDC_SOR_QUESTION, L"Sure?");
-            EXPECT_TRUE(Values().IsSet(tovarin::kForceSor));
-            EXPECT_FALSE(Values().IsSet(tovarin::kWasSorConfigured));
-            EXPECT_EQ(Values().Text(tovarin::kQuestionText), L"Sure?");
-            screen.Press(frame, IDCANCEL);
-        });
-        Show({});
-    }
-}
-
 TEST_F(SettingsFrameTest, WithoutTestOptionsTheFrameOpensAndWritesNothing) {
     options.Reset();
-    User user([&](UserScreen& screen) {
-        const HWND frame = screen.WaitForWindow(L"Test Settings");
+    Show({kFirst}, [&](UserScreen& screen, HWND frame) {
         EXPECT_EQ(GetPropW(frame, L"SettingsObjPtr"), nullptr);
         screen.Press(frame, IDOK);
     });
-    Show({kFirst});
     EXPECT_EQ(Calls().find(L"SetOptionValue"), std::wstring::npos);
 }
 

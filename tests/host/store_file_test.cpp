@@ -97,12 +97,9 @@ TEST_F(StoreFileTest, FailuresHaveTheirCodesAndChangeNothing) {
 }
 
 TEST_F(StoreFileTest, AReaderThatStaysMakesSavingFailAndOneThatGoesDoesNot) {
-    const auto read = [&] {
-        return CreateFileW(path_.c_str(), GENERIC_READ, FILE_SHARE_READ | FILE_SHARE_WRITE, nullptr,
-                           OPEN_EXISTING, 0, nullptr);
-    };
     ASSERT_EQ(S_OK, Take(mine_, path_));
-    HANDLE reader = read();
+    const HANDLE reader = CreateFileW(path_.c_str(), GENERIC_READ, FILE_SHARE_READ | FILE_SHARE_WRITE,
+                                      nullptr, OPEN_EXISTING, 0, nullptr);
     EXPECT_EQ(STG_E_SHAREVIOLATION, mine_.Save(L"", "new"));
     EXPECT_EQ("old", TempFolder::Read(path_));
     EXPECT_EQ(STG_E_SHAREVIOLATION, Take(other_, path_)) << "still taken";

@@ -11,6 +11,11 @@
 namespace tovarin::store {
 namespace {
 
+ReadResult Read(std::string_view text) {
+    std::vector<NamedScenario> read;
+    return ReadStore(text, read);
+}
+
 TEST(StoreFormat, OneOfEverythingComesBackAndGivesTheSameBytesAgain) {
     const std::string text = TextOfStore(OneOfEverything());
     std::vector<NamedScenario> read;
@@ -115,15 +120,14 @@ TEST(StoreFormat, EveryKindOfValueSurvives) {
         {ValueType::Single, 0, 0.1f},
         {ValueType::Date, 0, 45000.5},
     };
-    std::vector<NamedScenario> read;
-    ASSERT_EQ(ReadResult::Read,
-              ReadStore(TextOfStore({{L"n", {0, {}, {AccessObject{0, L"", values}}, L""}}}), read));
-    EXPECT_EQ(values, std::get<AccessObject>(read[0].scenario.operations[0]).arguments);
-
-    const Value notANumber{ValueType::Double, 0, std::nan("")};
-    ASSERT_EQ(ReadResult::Read,
-              ReadStore(TextOfStore({{L"n", {0, {}, {AccessObject{0, L"", {notANumber}}}, L""}}}), read));
-    EXPECT_TRUE(std::isnan(std::get<AccessObject>(read[0].scenario.operations[0]).arguments[0].real));
+    const auto stored = [](const std::vector<Value>& arguments) {
+        std::vector<NamedScenario> read;
+        const Scenario scenario{0, {}, {AccessObject{0, L"", arguments}}, L""};
+        EXPECT_EQ(ReadResult::Read, ReadStore(TextOfStore({{L"n", scenario}}), read));
+        return std::get<AccessObject>(read.at(0).scenario.operations.at(0)).arguments;
+    };
+    EXPECT_EQ(values, stored(values));
+    EXPECT_TRUE(std::isnan(stored({{ValueType::Double, 0, std::nan("")}}).at(0).real));
 }
 
 TEST(StoreFormat, AFileCutAnywhereIsCorruptAndChangesNothing) {
@@ -156,64 +160,55 @@ TEST(StoreFormat, ForeignAndNewerFilesAreToldApart) {
         return text.replace(text.find(old), old.size(), replacement);
     };
     const std::string deep(100'000, '[');
-    const struct {
-        std::string text;
-        ReadResult result;
-    } cases[] = {
-        {"", ReadResult::Corrupt},
-        {"[]", ReadResult::Corrupt},
-        {"1", ReadResult::Corrupt},
-        {"{}", ReadResult::Corrupt},
-        {"{\"scenarios\": []}", ReadResult::Corrupt},
-        {"{\"formatVersion\": 1}", ReadResult::Corrupt},
-        {"{\"scenarios\": [], \"formatVersion\": 1}", ReadResult::Corrupt},
-        {"{\"formatVersion\": 1, \"scenarios\": {}}", ReadResult::Corrupt},
-        {"{\"formatVersion\": 1, \"scenarios\": [1]}", ReadResult::Corrupt},
-        {"{\"formatVersion\": 1, \"scenarios\": [[]]}", ReadResult::Corrupt},
-        {"{\"formatVersion\": 1, \"scenarios\": [], \"more\": 1}", ReadResult::Corrupt},
-        {"{\"formatVersion\": 1, \"scenarios\": []} x", ReadResult::Corrupt},
-        {"{\"formatVersion\": 1, \"scenarios\": " + deep, ReadResult::Corrupt},
-        {"{\"formatVersion\": 0, \"scenarios\": []}", ReadResult::Corrupt},
-        {"{\"formatVersion\": -2, \"scenarios\": []}", ReadResult::Corrupt},
-        {"{\"formatVersion\": 2.5, \"scenarios\": []}", ReadResult::Corrupt},
-        {"{\"formatVersion\": \"2\", \"scenarios\": []}", ReadResult::Corrupt},
-        {"{\"formatVersion\": [2], \"scenarios\": []}", ReadResult::Corrupt},
-        {"{\"formatVersion\": 2, \"anything\": [[[{\"at\": \"all\"}]]]}", ReadResult::Newer},
-        {"{\"formatVersion\": 18446744073709551615}", ReadResult::Newer},
-        {"{\"formatVersion\": 2, \"anything\": ", ReadResult::Corrupt},
-        {"\xef\xbb\xbf" + scenario, ReadResult::Read},
-        {with("\"N\"", "\"\\u001a12\""), ReadResult::Corrupt},
-        {with("\"N\"", "\"\\u001a0041\""), ReadResult::Corrupt},
-        {with("\"N\"", "\"\\ud800\""), ReadResult::Corrupt},
-        {with("\"N\"", "\"\xff\""), ReadResult::Corrupt},
-        {with("\"N\"", "7"), ReadResult::Corrupt},
-        {with("\"name\"", "\"other\""), ReadResult::Corrupt},
-        {with("\"trigger\": null", "\"trigger\": null, \"trigger\": null"), ReadResult::Corrupt},
-        {with("\"trigger\": null", "\"trigger\": null, \"colour\": 1"), ReadResult::Corrupt},
-        {with("\"trigger\": null", "\"trigger\": {\"kind\": \"flood\"}"), ReadResult::Corrupt},
-        {with("\"trigger\": null", "\"trigger\": {\"kind\": \"error\", \"code\": 2147483648}"),
-         ReadResult::Corrupt},
-        {with("\"trigger\": null", "\"trigger\": {\"code\": -1, \"kind\": \"error\"}"), ReadResult::Read},
+    const std::string head = "{\"formatVersion\": 1, \"scenarios\": ";
+    const auto trigger = [&](const std::string& text) { return with("null", text); };
+    const std::string corrupt[] = {
+        "",
+        "[]",
+        "1",
+        "{}",
+        "{\"scenarios\": []}",
+        "{\"formatVersion\": 1}",
+        "{\"scenarios\": [], \"formatVersion\": 1}",
+        head + "{}}",
+        head + "[1]}",
+        head + "[[]]}",
+        head + "[], \"more\": 1}",
+        head + "[]} x",
+        head + deep,
+        "{\"formatVersion\": 0, \"scenarios\": []}",
+        "{\"formatVersion\": -2, \"scenarios\": []}",
+        "{\"formatVersion\": 2.5, \"scenarios\": []}",
+        "{\"formatVersion\": \"2\", \"scenarios\": []}",
+        "{\"formatVersion\": [2], \"scenarios\": []}",
+        "{\"formatVersion\": 2, \"anything\": ",
+        with("\"N\"", "\"\\u001a12\""),
+        with("\"N\"", "\"\\u001a0041\""),
+        with("\"N\"", "\"\\ud800\""),
+        with("\"N\"", "\"\xff\""),
+        with("\"N\"", "7"),
+        with("\"name\"", "\"other\""),
+        trigger("null, \"trigger\": null"),
+        trigger("null, \"colour\": 1"),
+        trigger("{\"kind\": \"flood\"}"),
+        trigger("{\"kind\": \"error\", \"code\": 2147483648}"),
     };
-    for (const auto& [text, result] : cases) {
-        std::vector<NamedScenario> read;
-        EXPECT_EQ(result, ReadStore(text, read)) << text.substr(0, 200);
-    }
+    for (const std::string& text : corrupt) EXPECT_EQ(ReadResult::Corrupt, Read(text)) << text.substr(0, 200);
+    for (const char* text : {"{\"formatVersion\": 2, \"anything\": [[[{\"at\": \"all\"}]]]}",
+                             "{\"formatVersion\": 18446744073709551615}"})
+        EXPECT_EQ(ReadResult::Newer, Read(text)) << text;
+    EXPECT_EQ(ReadResult::Read, Read("\xef\xbb\xbf" + scenario));
+    EXPECT_EQ(ReadResult::Read, Read(trigger("{\"code\": -1, \"kind\": \"error\"}")));
 }
 
 TEST(StoreFormat, WhatIsTooLargeToReadIsNotWritten) {
-    const std::vector<std::uint32_t> keys(kMostItems);
-    EXPECT_TRUE(WithinLimits(L"n", {0, {}, {PressKeys{keys}}, L""}));
-    EXPECT_FALSE(
-        WithinLimits(L"n", {0, CrashTrigger{0, std::vector<std::wstring>(kMostItems + 1)}, {}, L""}));
+    const Scenario full{0, {}, {PressKeys{std::vector<std::uint32_t>(kMostItems)}}, L""};
+    const Scenario overfull{0, CrashTrigger{0, std::vector<std::wstring>(kMostItems + 1)}, {}, L""};
+    EXPECT_TRUE(WithinLimits(L"n", full));
+    EXPECT_FALSE(WithinLimits(L"n", overfull));
     EXPECT_FALSE(WithinLimits(L"n", {0, {}, {}, std::wstring(kMostCharacters + 1, L'x')}));
-    std::vector<NamedScenario> read;
-    EXPECT_EQ(ReadResult::Read, ReadStore(TextOfStore({{L"n", {0, {}, {PressKeys{keys}}, L""}}}), read));
-    EXPECT_EQ(
-        ReadResult::Corrupt,
-        ReadStore(
-            TextOfStore({{L"n", {0, CrashTrigger{0, std::vector<std::wstring>(kMostItems + 1)}, {}, L""}}}),
-            read));
+    EXPECT_EQ(ReadResult::Read, Read(TextOfStore({{L"n", full}})));
+    EXPECT_EQ(ReadResult::Corrupt, Read(TextOfStore({{L"n", overfull}})));
 }
 
 TEST(NamedList, AReplacedNameKeepsItsPlaceAndANewOneGoesLast) {

@@ -21,6 +21,7 @@ TEST_F(ManagerTest, AFileIsOpenedAScenarioTakenToAnotherFileAndBothAreFoundAgain
         EXPECT_EQ(screen.Text(manager, IDC_MANAGER_FILE), L"<Untitled>");
         EXPECT_EQ(Toolbar(screen, manager), L"Nepcvd");
         EXPECT_EQ(screen.FocusId(), IDC_MANAGER_LIST);
+        screen.Picture(manager, L"manager-untitled");
 
         OpenFile(screen, manager, first);
         EXPECT_EQ(TextOf(manager), L"Recovery Scenario Manager - first.trs");
@@ -85,6 +86,7 @@ TEST_F(ManagerTest, ALockedFileCanOnlyBeLookedAt) {
         EXPECT_EQ(Toolbar(screen, manager), L"nePcvd");
         EXPECT_EQ(screen.Text(manager, IDC_MANAGER_DESCRIPTION), L"About two");
         for (const WORD key : {WORD{VK_DELETE}, WORD{VK_F2}}) screen.Keys({key});
+        screen.Picture(manager, L"manager-read-only");
 
         SaveAs(screen, manager, Path(L"copy"));
         WaitForFile(screen, manager, Path(L"copy.trs"));

@@ -1,6 +1,11 @@
+// What the Manager decides, without a window.
 #include <gtest/gtest.h>
 
+#include "manager/AddedScenarios.h"
+#include "manager/CommandStates.h"
+#include "manager/NameSearch.h"
 #include "manager/OpenResult.h"
+#include "manager/SaveQuestion.h"
 #include "manager/SelectionRules.h"
 #include "manager/StorePlan.h"
 #include "manager/TestLists.h"
@@ -81,6 +86,121 @@ TEST(AddingToTheTest, AppendsWhatIsNotThere) {
         {L"f;P;0;1*torn;", {L"Q"}, L"f;P;0;1*f;Q;1;1*"},
     };
     for (const auto& c : cases) EXPECT_TRUE(WithScenarios(c.stored, L"f", c.names) == c.written);
+}
+
+// One letter per command that is enabled, in the order of Command.
+std::string Enabled(const ManagerState& state) {
+    const std::string letters = "NOSAnEPCVDX";
+    std::string enabled;
+    for (int i = 0; i < kCommands; ++i)
+        if (IsEnabled(static_cast<Command>(i), state)) enabled += letters[i];
+    return enabled;
+}
+
+TEST(CommandStates, FollowFileSelectionAndClipboard) {
+    const struct {
+        const char* why;
+        ManagerState state;
+        const char* enabled;
+    } cases[] = {
+        {"just opened", {}, "NOSAnX"},
+        {"a row selected", {.rowSelected = true}, "NOSAnEPCDX"},
+        {"something copied, no row", {.clipboardFull = true}, "NOSAnVX"},
+        {"a row and a copy", {.rowSelected = true, .clipboardFull = true}, "NOSAnEPCVDX"},
+        {"a saved file", {.untitled = false}, "NOAnX"},
+        {"a changed file", {.untitled = false, .dirty = true}, "NOSAnX"},
+        {"read-only", {.readOnly = true, .clipboardFull = true, .untitled = false}, "NOAX"},
+        {"read-only, a row",
+         {.readOnly = true, .rowSelected = true, .clipboardFull = true, .untitled = false},
+         "NOAPX"},
+        {"no repository", {.hasRepository = false}, "NOnX"},
+    };
+    for (const auto& c : cases) EXPECT_EQ(Enabled(c.state), c.enabled) << c.why;
+}
+
+TEST(Saving, DoesOnlyWhatIsNeeded) {
+    EXPECT_EQ(StepOfSave({.hasRepository = false, .dirty = true}), SaveStep::Nothing);
+    EXPECT_EQ(StepOfSave({.untitled = true}), SaveStep::AskForPath);
+    EXPECT_EQ(StepOfSave({.untitled = false}), SaveStep::Nothing);
+    EXPECT_EQ(StepOfSave({.untitled = false, .dirty = true}), SaveStep::Write);
+    EXPECT_EQ(StepOfSave({.readOnly = true, .untitled = false, .dirty = true}), SaveStep::Nothing);
+}
+
+TEST(Saving, TheQuestionDecidesWhetherTheFileIsLeft) {
+    const struct {
+        bool dirty;
+        SaveAnswer answer;
+        bool saves;
+        bool leaves;
+        const char* calls;
+    } cases[] = {
+        {false, SaveAnswer::Cancel, false, true, ""},       {true, SaveAnswer::Cancel, true, false, "ask "},
+        {true, SaveAnswer::No, false, true, "ask "},        {true, SaveAnswer::Yes, true, true, "ask save "},
+        {true, SaveAnswer::Yes, false, false, "ask save "},
+    };
+    for (const auto& c : cases) {
+        std::string calls;
+        const auto ask = [&] { return calls += "ask ", c.answer; };
+        const auto save = [&] { return calls += "save ", c.saves; };
+        EXPECT_EQ(MayLeaveFile(c.dirty, ask, save), c.leaves);
+        EXPECT_EQ(calls, c.calls);
+    }
+}
+
+using Files = std::vector<AddedScenarios::File>;
+
+TEST(AddedScenarios, FollowTheScenarioUntilItsFileIsSavedAndLeft) {
+    AddedScenarios added;
+    added.Add(L"popup", true, false);
+    added.Add(L"crash", true, true);
+    added.Add(L"popup", false, true);  // edited again, the other box checked
+    added.Add(L"error", false, false);
+    added.Add(L"gone", true, true);
+    added.Remove(L"gone");
+    added.Rename(L"crash", L"Crash of the browser");
+    added.FileSaved(L"C:\\a.trs");
+    added.FileSaved(L"C:\\b.trs");
+    added.Add(L"discarded", true, true);
+    EXPECT_TRUE(added.ForCurrent().empty());
+    added.FileLeft();
+    EXPECT_EQ(added.ForCurrent(), (Files{{L"C:\\b.trs", {L"popup", L"Crash of the browser"}}}));
+    EXPECT_EQ(added.ForDefault(), added.ForCurrent());
+
+    added.Add(L"never saved", true, true);
+    added.FileLeft();
+    EXPECT_EQ(added.ForCurrent().size(), 1u);
+
+    added.Add(L"second", true, false);
+    added.FileSaved(L"C:\\c.trs");
+    added.Remove(L"second");  // deleted, and that discarded: the file still holds it
+    added.FileLeft();
+    ASSERT_EQ(added.ForCurrent().size(), 2u);
+    EXPECT_EQ(added.ForCurrent()[1], (AddedScenarios::File{L"C:\\c.trs", {L"second"}}));
+    EXPECT_EQ(added.ForDefault().size(), 1u);
+}
+
+TEST(NameSearch, FindsWhatIsTypedFromARowOn) {
+    const std::wstring names[] = {L"Popup", L"crash", L"Crashed", L"popup 2"};
+    const struct {
+        const wchar_t* text;
+        int start;
+        NameSearch how;
+        int row;
+    } cases[] = {
+        {L"c", 0, {}, 1},
+        {L"C", 2, {}, 2},
+        {L"c", 3, {}, 1},
+        {L"c", 3, {.wrap = false}, -1},
+        {L"crashed", 0, {}, 2},
+        {L"POPUP", 1, {.prefix = false}, 0},
+        {L"pop", 0, {.prefix = false}, -1},
+        {L"p", -1, {}, 0},
+        {L"p", 99, {}, 0},
+        {L"x", 2, {}, -1},
+        {L"popup 22", 0, {}, -1},
+    };
+    for (const auto& c : cases)
+        EXPECT_EQ(FindName(names, c.text, c.start, c.how), c.row) << c.text << c.start;
 }
 
 }  // namespace

@@ -72,17 +72,6 @@ TEST_F(MruComboTest, WhatWasUsedIsOfferedNextTimeTheLatestFirst) {
     EXPECT_EQ(Entries(), L"C.VBS|e.vbs|z|y|");
 }
 
-TEST_F(MruComboTest, AValueThatSomebodyElseWroteIsReadAsFarAsItGoes) {
-    Store(L"one;;two;", 8);  // without its end
-    ASSERT_TRUE(Load());
-    EXPECT_EQ(Entries(), L"one|two|");
-    ASSERT_TRUE(Load());
-    EXPECT_EQ(Entries(), L"one|two|") << "bound once more, not filled twice";
-    RegSetKeyValueW(HKEY_CURRENT_USER, kKey, kValue, REG_BINARY, L"ab", 3);
-    ASSERT_TRUE(Load());
-    EXPECT_EQ(Entries(), L"ab|");
-}
-
 TEST_F(MruComboTest, WithoutAKeyItIsAPlainComboThatRemembersNothing) {
     Store(L"kept", 5);
     ASSERT_TRUE(Load());  // what was bound before is so no more

@@ -52,6 +52,7 @@ TEST_F(AddDialogTest, ThreeRowsAreGivenInTheOrderOfTheSortedList) {
                             (Rows{L"alpha", L"Bravo", L"Charlie", L"delta", L"echo"}));
                   EXPECT_EQ(screen.Chosen(dialog, kList), Rows{L"alpha"});
                   EXPECT_EQ(screen.FocusId(), kList);
+                  screen.Picture(dialog, L"add-dialog");
                   screen.Do([=] { ListView_SetItemState(GetDlgItem(dialog, kList), -1, 0, LVIS_SELECTED); });
                   screen.Press(dialog, IDOK);  // nothing is selected: nothing happens
                   SelectNames(screen, dialog, {L"echo", L"Bravo", L"delta"});

@@ -90,6 +90,7 @@ TEST_F(PropertiesSheetTest, AReaderLeafsThroughAPopUpScenarioAndChangesNothing) 
         EXPECT_EQ(screen.Text(sheet, IDC_GENERAL_FILE), L"C:\\Tests\\Login.trs");
         EXPECT_EQ(screen.Text(sheet, IDC_GENERAL_NAME), L"Unexpected log-in");
         EXPECT_EQ(screen.Text(sheet, IDC_GENERAL_DESCRIPTION), L"Somebody logged us out.\r\nLog in again.");
+        screen.Picture(sheet, L"properties-general");
         ExpectReadOnly(screen, sheet);
         Turn(screen, sheet, 1);
         EXPECT_TRUE(screen.IsChecked(sheet, IDC_PROPERTIES_TITLE_CHECK));
@@ -100,8 +101,13 @@ TEST_F(PropertiesSheetTest, AReaderLeafsThroughAPopUpScenarioAndChangesNothing) 
         EXPECT_FALSE(screen.IsChecked(sheet, IDC_PROPERTIES_TEXT_REGEX));
         screen.Picture(sheet, L"properties-popup");
         ExpectReadOnly(screen, sheet);
-        screen.Press(sheet, IDHELP);
-        EXPECT_EQ(help_->Take(), L"Und_Recovery_Scenario_Properties_Dialog_Box.htm");
+        constexpr wchar_t kTopic[] = L"Und_Recovery_Scenario_Properties_Dialog_Box.htm";
+        for (int page = 0; page < 4; ++page) {
+            Turn(screen, sheet, page);
+            screen.Press(sheet, IDHELP);
+            screen.RealKeys({VK_F1});
+            EXPECT_EQ(help_->Take(), kTopic + std::wstring(L" ") + kTopic);
+        }
     });
     // One condition that cannot be read leaves both out.
     FailCall(L"PopUpRecoveryTrigger", L"GetWindowText");
@@ -127,6 +133,7 @@ TEST_F(PropertiesSheetTest, AnErrorIsNamedAndExplainedUnlessItIsAnyOrUnknown) {
         Read(1, [&](UserScreen& screen, HWND sheet) {
             EXPECT_EQ(screen.Text(sheet, IDC_PROPERTIES_ERROR), row.error);
             EXPECT_EQ(screen.Text(sheet, IDC_PROPERTIES_ERROR_DESCRIPTION), row.description);
+            screen.Picture(sheet, L"properties-error-" + std::to_wstring(row.code));
             ExpectReadOnly(screen, sheet);
         });
     }
@@ -138,6 +145,7 @@ TEST_F(PropertiesSheetTest, ListsAndTreesAreShownInOrderAndCanBeCopied) {
     Read(1, [&](UserScreen& screen, HWND sheet) {
         EXPECT_EQ(screen.RowsOf(sheet, IDC_PROPERTIES_PROCESSES), (Rows{L"writer.exe", L"agent.exe"}));
         screen.Choose(sheet, IDC_PROPERTIES_PROCESSES, L"agent.exe");
+        screen.Picture(sheet, L"properties-crash");
         screen.RealKeys({VK_CONTROL, 'A'});
         screen.RealKeys({VK_CONTROL, 'C'});
         screen.WaitUntil("the rows are copied", [] { return ClipboardText() == L"writer.exe\r\nagent.exe"; });
@@ -149,6 +157,7 @@ TEST_F(PropertiesSheetTest, ListsAndTreesAreShownInOrderAndCanBeCopied) {
         EXPECT_EQ(screen.RowsOf(sheet, IDC_PROPERTIES_TREE), (Rows{L"Login", L"  Name"}));
         EXPECT_EQ(screen.Chosen(sheet, IDC_PROPERTIES_TREE), Rows{L"  Name"});
         EXPECT_EQ(screen.RowsOf(sheet, IDC_PROPERTIES_GRID), (Rows{L"text | Your name", L"x | 12"}));
+        screen.Picture(sheet, L"properties-object-state");
         screen.Choose(sheet, IDC_PROPERTIES_TREE, L"Login");
         EXPECT_EQ(screen.RowsOf(sheet, IDC_PROPERTIES_GRID), Rows{L"text | Log in"});
         screen.Choose(sheet, IDC_PROPERTIES_GRID, L"text");
@@ -187,8 +196,10 @@ TEST_F(PropertiesSheetTest, OperationsAndTheRestartAreListedAndForeignOnesPassed
             Rows operations{L"Close process | writer.exe", L"Function call | C:\\Lib\\login.vbs::LogIn"};
             if (row.restart) operations.push_back(L"Restart Microsoft Windows | ");
             EXPECT_EQ(screen.RowsOf(sheet, IDC_PROPERTIES_OPERATIONS), operations);
+            screen.Picture(sheet, L"properties-operations-" + std::to_wstring(row.option));
             Turn(screen, sheet, 3);
             EXPECT_EQ(screen.Text(sheet, IDC_PROPERTIES_OPTION), row.text);
+            screen.Picture(sheet, L"properties-option-" + std::to_wstring(row.option));
             ExpectReadOnly(screen, sheet);
         });
     }

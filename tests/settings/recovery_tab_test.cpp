@@ -130,6 +130,7 @@ TEST_F(RecoveryTabTest, RemovingTheLastRowSelectsTheOneAboveAndNothingIsLeftInTh
         screen.Choose(frame, kList, L"B | missing.trs");
         EXPECT_EQ(Buttons(screen, frame), "ARUD.S");
         EXPECT_EQ(Icons(screen, frame).back(), '4');
+        screen.Picture(frame, L"recovery-tab-unreadable");
         screen.Press(frame, IDC_RECOVERY_REMOVE);
         EXPECT_EQ(screen.Text(frame, IDC_RECOVERY_DESCRIPTION), L"about A");
         screen.Keys({VK_DELETE});  // takes its equal along

@@ -77,6 +77,7 @@ TEST_F(FunctionPageTest, AFunctionOfTheLibraryIsChosen) {
         EXPECT_EQ(Shown(screen, wizard), L"[Alpha|Function Alpha(Object)\r\n  Log Object\r\nEnd Function]");
         screen.Choose(wizard, IDC_FUNC_LIST, L"Beta");
         EXPECT_EQ(Shown(screen, wizard), L"[Beta|Sub Beta(a)\r\nEnd Sub]");
+        screen.Picture(wizard, L"function-selected");
         FailCall(L"FunctionCallRecoveryAction", L"SetLibraryPath");
         screen.Next(wizard);
         EXPECT_EQ(screen.PageTitle(wizard), kPage);
@@ -120,6 +121,7 @@ TEST_F(FunctionPageTest, ANewFunctionTakesItsNameForItselfAndReachesTheLibraryAt
         }
         screen.Enter(wizard, IDC_FUNC_NAME, L" Fix ");
         EXPECT_EQ(Shown(screen, wizard), L" Fix |Function  Fix " + ending);
+        screen.Picture(wizard, L"function-new");
         screen.Next(wizard);
         EXPECT_EQ(screen.RowsOf(wizard, IDC_OPERATION_LIST_ROWS),
                   Rows{L"Function call | " + Path(L"lib.vbs") + L"::Fix"});

@@ -38,11 +38,13 @@ TEST_F(ObjectPagesTest, EditingShowsTheObjectItsParentsAndWhatIdentifiesThem) {
         NextUntil(screen, wizard, L"Select Object");
         EXPECT_EQ(screen.RowsOf(wizard, IDC_SELECT_OBJECT_TREE), (Rows{L"Login", L"  Name"}));
         EXPECT_EQ(screen.WizardButtons(wizard), L"B N* f");
+        screen.Picture(wizard, L"object-selected");
         screen.Next(wizard);
         EXPECT_EQ(screen.Chosen(wizard, kTree), Rows{L"  Name"});
         EXPECT_EQ(screen.RowsOf(wizard, kGrid), (Rows{L"text | Your name", L"x | 12"}));
         EXPECT_TRUE(screen.IsRowChecked(wizard, kGrid, L"x"));
         EXPECT_EQ(screen.Text(wizard, IDC_OBJECT_PROPS_VALUE), L"Your name");
+        screen.Picture(wizard, L"object-props");
         screen.Choose(wizard, kGrid, L"x");
         EXPECT_EQ(screen.Text(wizard, IDC_OBJECT_PROPS_VALUE), L"12");
         screen.Choose(wizard, kTree, L"Login");
@@ -140,6 +142,7 @@ TEST_F(ObjectPagesTest, PropertiesAreAddedAndRemovedInTheirDialog) {
         EXPECT_EQ(screen.Text(wizard, IDC_OBJECT_PROPS_VALUE), L"[complex value]");
         EXPECT_FALSE(screen.IsEnabled(wizard, IDC_OBJECT_PROPS_VALUE));
         EXPECT_FALSE(screen.IsEnabled(wizard, IDC_OBJECT_PROPS_REGEX));
+        screen.Picture(wizard, L"object-props-complex");
     });
 }
 

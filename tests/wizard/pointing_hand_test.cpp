@@ -121,6 +121,7 @@ TEST_F(PointingHandTest, PointingAtAPopUpFillsTheConditionsWithWhatItSays) {
         RECT place{};
         GetWindowRect(target_.Login(), &place);
         EXPECT_TRUE(PtInRect(&place, recorder_->asked));
+        screen.Picture(wizard, L"hand-popup");
         EXPECT_TRUE(CanGoOn(screen, wizard));
     });
 }
@@ -141,6 +142,7 @@ TEST_F(PointingHandTest, PointingAtADialogOffersTheLabelsOfItsButtons) {
         pointAt(FindWindowExW(target_.Login(), nullptr, L"Button", L"Cancel"), target_.Login());
         EXPECT_EQ(screen.RowsOf(wizard, IDC_CLICK_LABEL_LIST), (Rows{L"OK", L"Cancel"}));
         EXPECT_TRUE(CanGoOn(screen, wizard));
+        screen.Picture(wizard, L"hand-labels");
         pointAt(nullptr, nullptr);
         EXPECT_EQ(screen.Chosen(wizard, IDC_CLICK_LABEL_LIST), Rows{L"OK"}) << "gave up";
         pointAt(target_.Bare(), target_.Bare());

@@ -49,6 +49,7 @@ TEST_F(ProcessPagesTest, NamesAreTakenFromTheRunningOnesAndTypedUntilTheyAreRigh
         EXPECT_EQ(screen.PageTitle(wizard), kClosePage);
         EXPECT_FALSE(CanGoOn(screen, wizard));
         screen.Press(wizard, IDC_PROCESSES_ADD_SELECTED);
+        screen.Picture(wizard, L"close-fresh");
         for (int twice = 0; twice < 2; ++twice) {
             screen.Choose(wizard, IDC_PROCESSES_RUNNING, kSelf);
             screen.Press(wizard, IDC_PROCESSES_ADD_SELECTED);
@@ -95,6 +96,7 @@ TEST_F(ProcessPagesTest, NamesAreTakenFromTheRunningOnesAndTypedUntilTheyAreRigh
         EXPECT_EQ(screen.AnswerBox(IDOK), L"You must type a process name");
         screen.Keys({VK_ESCAPE});
         EXPECT_EQ(Chosen(screen, wizard), (Rows{kSelf, L"Note Pad.EXE"}));
+        screen.Picture(wizard, L"close-chosen");
 
         screen.Keys({VK_DELETE});
         EXPECT_EQ(screen.Chosen(wizard, IDC_PROCESSES_CHOSEN), Rows{kSelf});
@@ -150,6 +152,7 @@ TEST_F(ProcessPagesTest, ACrashTriggersNamesComeBackAndItsButtonsExplainThemselv
             EXPECT_EQ(CanGoOn(screen, wizard), each.canGoOn);
             EXPECT_EQ(screen.Tip(wizard, IDC_PROCESSES_NEW), each.tips ? L"Add New Process" : L"");
             EXPECT_EQ(screen.Tip(wizard, IDC_PROCESSES_REMOVE), each.tips ? L"Remove Process" : L"");
+            screen.Picture(wizard, L"crash-" + std::to_wstring(&each - cases));
             if (each.canGoOn) screen.Next(wizard);
             EXPECT_EQ(screen.PageTitle(wizard),
                       each.shown.empty() ? L"Select Processes" : L"Recovery Operations");

@@ -125,6 +125,7 @@ TEST_F(WizardPagesTest, EveryErrorIsOfferedExplainedAndKept) {
         EXPECT_EQ(screen.WizardButtons(wizard), L"B* n f");
         for (const auto& [label, code] : errors) {
             screen.Choose(wizard, IDC_SELECT_ERROR_LIST, label);
+            screen.Picture(wizard, std::wstring(L"error-") + code);
             screen.Next(wizard);
             EXPECT_TRUE(Called(std::wstring(L"ErrorRecoveryTrigger.SetErrorCode(") + code + L")"));
             screen.Back(wizard);
