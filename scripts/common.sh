@@ -4,6 +4,7 @@
 
 packages=(g++ cmake ninja-build googletest nlohmann-json3-dev
   g++-mingw-w64-x86-64-posix g++-mingw-w64-i686-posix mingw-w64-tools
+  clang libclang-rt-14-dev
   wine wine64 fonts-wine fonts-liberation xvfb x11-utils imagemagick)
 
 say() { printf '== %s\n' "$*"; }

@@ -41,6 +41,9 @@ TEST(HostPathRules, PathsLoseTheirDotsButNeverLeaveTheirRoot) {
         {L"..\\b", std::nullopt},
         {L"\\\\s\\h\\x\\..\\y", L"\\\\s\\h\\y"},
         {L"\\\\s\\h\\..", std::nullopt},
+        {L"\\\\s\\..\\a", std::nullopt},
+        {L"a\\..\\C:b", std::nullopt},
+        {L"\\.\\:a", L"\\:a"},
         {L"C:\\", L"C:\\"},
         {L"C:x\\..\\y", L"C:y"},
     };
@@ -60,6 +63,7 @@ TEST(HostPathRules, RepositoryPathsAreFilesOfTheRepositoryFolder) {
         EXPECT_EQ(RepositoryFile(bad, L"R:\\"), std::nullopt);
     EXPECT_EQ(RepositoryPath(L"R:\\Brevalon\\s\\a.vbs", L"R:\\", Exactly), L"[Brevalon] s\\a.vbs");
     EXPECT_EQ(RepositoryPath(L"R:\\Other\\a.vbs", L"R:\\", Exactly), std::nullopt);
+    EXPECT_EQ(RepositoryPath(L"R:\\Ondrafel\\ a.vbs", L"R:\\", Exactly), std::nullopt);
     EXPECT_EQ(RepositoryPath(L"R:\\Ondrafel\\a.vbs", L"", Exactly), std::nullopt);
 }
 

@@ -44,7 +44,9 @@ const Repository* FindRepository(std::wstring_view path) {
 
 // How much of the path names its root: "C:\", "\\server\share", "\". 0 for a relative one.
 size_t RootLength(std::wstring_view path) {
-    if (path.size() >= 2 && path[1] == L':') return path.size() >= 3 && IsSlash(path[2]) ? 3 : 2;
+    const bool drive =
+        path.size() >= 2 && path[1] == L':' && Small(path[0]) >= L'a' && Small(path[0]) <= L'z';
+    if (drive) return path.size() >= 3 && IsSlash(path[2]) ? 3 : 2;
     if (path.empty() || !IsSlash(path[0])) return 0;
     if (path.size() < 2 || !IsSlash(path[1])) return 1;
     size_t end = 2;
@@ -72,6 +74,9 @@ PathKind KindOf(std::wstring_view path) {
 
 std::optional<std::wstring> Normalized(std::wstring_view path) {
     const size_t root = RootLength(path);
+    std::wstring result = WithBackslashes(path.substr(0, root));
+    // ".." is no name of a server or a share
+    if ((result + L'\\').find(L"\\..\\") != std::wstring::npos) return std::nullopt;
     std::vector<std::wstring_view> names;
     for (size_t start = root; start < path.size();) {
         size_t end = start;
@@ -85,8 +90,9 @@ std::optional<std::wstring> Normalized(std::wstring_view path) {
         }
         start = end + 1;
     }
-    std::wstring result = WithBackslashes(path.substr(0, root));
     for (const std::wstring_view name : names) result = Joined(result, name);
+    // "a\..\C:x" was relative
+    if (root == 0 && RootLength(result) != 0) return std::nullopt;
     return result;
 }
 
@@ -118,7 +124,9 @@ std::optional<std::wstring> RepositoryPath(std::wstring_view file, std::wstring_
                                            NameComparer same) {
     if (repositoryFolder.empty()) return std::nullopt;
     for (const Repository& repository : kRepositories) {
-        if (const auto name = Below(file, Joined(repositoryFolder, repository.folder), same))
+        // a blank at the beginning would be read as part of the prefix
+        if (const auto name = Below(file, Joined(repositoryFolder, repository.folder), same);
+            name && !IsSpace(name->front()))
             return L"[" + std::wstring(repository.folder) + L"] " + *name;
     }
     return std::nullopt;
