@@ -14,7 +14,7 @@ namespace com = recoveryui::com;
 namespace {
 
 constexpr size_t kMostCharacters = 200;
-constexpr LONG kMostElements = 20;
+constexpr ULONG kMostElements = 20;
 
 std::wstring Hexadecimal(ULONG number, int digits) {
     std::wstring text;
@@ -173,19 +173,18 @@ std::wstring Describe(const VARIANT& value) {
 
 std::wstring Describe(SAFEARRAY* array) {
     VARTYPE type = VT_EMPTY;
-    LONG low = 0, high = -1;
     if (!array) return L"no array";
-    if (SafeArrayGetDim(array) != 1 || FAILED(SafeArrayGetVartype(array, &type)) ||
-        FAILED(SafeArrayGetLBound(array, 1, &low)) || FAILED(SafeArrayGetUBound(array, 1, &high)))
-        return L"array";
+    if (SafeArrayGetDim(array) != 1 || FAILED(SafeArrayGetVartype(array, &type))) return L"array";
+    const ULONG count = array->rgsabound[0].cElements;
+    const auto low = static_cast<ULONG>(array->rgsabound[0].lLbound);
     std::wstring list = L"[";
-    for (LONG index = low; index <= high; ++index) {
-        if (index != low) list += L", ";
-        if (index - low == kMostElements) {
-            list += L"... (" + std::to_wstring(high - low + 1) + L" elements)";
+    for (ULONG place = 0; place < count; ++place) {
+        if (place != 0) list += L", ";
+        if (place == kMostElements) {
+            list += L"... (" + std::to_wstring(count) + L" elements)";
             break;
         }
-        list += DescribeElement(array, type, index);
+        list += DescribeElement(array, type, static_cast<LONG>(low + place));
     }
     return list + L"]";
 }

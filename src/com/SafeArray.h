@@ -94,6 +94,7 @@ public:
         if (SafeArrayGetDim(array_) != 1) return DISP_E_BADINDEX;
         const HRESULT hr = SafeArrayGetVartype(array_, &type);
         if (FAILED(hr)) return hr;
+        if (Count() > 0 && UpperBound() < LowerBound()) return DISP_E_BADINDEX;  // beyond the last index
         if (type == Traits::kType) return S_OK;
         return type == VT_DISPATCH && Traits::kType == VT_UNKNOWN ? S_OK : DISP_E_TYPEMISMATCH;
     }
@@ -107,13 +108,24 @@ public:
         return array_ && SUCCEEDED(SafeArrayGetUBound(array_, 1, &bound)) ? bound : -1;
     }
     // Elements of the first dimension; 0 for no array.
-    ULONG Count() const noexcept { return array_ ? static_cast<ULONG>(UpperBound() - LowerBound() + 1) : 0; }
+    ULONG Count() const noexcept { return array_ ? array_->rgsabound[array_->cDims - 1].cElements : 0; }
 
     // A copy of the element at an index; the second one is for an array of two dimensions.
     [[nodiscard]] HRESULT GetElement(LONG index, Owner* element, LONG second = 0) const {
         LONG place[] = {index, second};
         CheckIndex(index, second);
         return SafeArrayGetElement(array_, place, Traits::Receive(*element));
+    }
+    // Hands a copy of each element of an array of one dimension to the function, until one cannot be read.
+    template <class Use>
+    [[nodiscard]] HRESULT ForEach(Use use) const {
+        for (ULONG place = 0; place < Count(); ++place) {
+            Owner element{};
+            const HRESULT hr = GetElement(static_cast<LONG>(static_cast<ULONG>(LowerBound()) + place), &element);
+            if (FAILED(hr)) return hr;
+            use(std::move(element));
+        }
+        return S_OK;
     }
     // Stores a copy of the element.
     [[nodiscard]] HRESULT PutElement(LONG index, const Owner& element, LONG second = 0) {

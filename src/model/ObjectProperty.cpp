@@ -34,6 +34,9 @@ bool IsSimple(VARTYPE type) {
     }
 }
 
+// No object has more; a count beyond it is no count.
+constexpr long kMostProperties = 10'000;
+
 HRESULT Convert(const com::Variant& from, VARTYPE type, com::Variant& to) {
     return VariantChangeTypeEx(to.Put(), const_cast<VARIANT*>(&from.Get()), LOCALE_INVARIANT,
                                VARIANT_ALPHABOOL, type);
@@ -45,7 +48,7 @@ std::vector<ObjectProperty> PropertiesOf(ITestObject* object) {
     std::vector<ObjectProperty> properties;
     long count = 0;
     if (!object || FAILED(object->GetPropertyCount(&count))) return properties;
-    for (long index = 0; index < count; ++index) {
+    for (long index = 0; index < std::min(count, kMostProperties); ++index) {
         ObjectProperty property;
         com::Bstr name;
         long isRegex = 0, isChecked = 0;

@@ -39,20 +39,14 @@ void DescribeCall(IFunctionCallRecoveryAction* call, IObjectRack* rack, Operatio
 void DescribeProcesses(IProcessControlRecoveryAction* processes, OperationDescription& description) {
     com::CVtlSafeArray<BSTR> names;
     if (!processes || FAILED(processes->GetProcessNames(names.Put())) || FAILED(names.Verify())) return;
-    for (LONG index = names.LowerBound(); index <= names.UpperBound(); ++index) {
-        com::Bstr name;
-        if (SUCCEEDED(names.GetElement(index, &name))) description.processes.push_back(name.Text());
-    }
+    (void)names.ForEach([&](const com::Bstr& name) { description.processes.push_back(name.Text()); });
 }
 
 void DescribeKeys(IKeyBoardSimulatorRecoveryAction* keyboard, OperationDescription& description) {
     com::CVtlSafeArray<unsigned long> entries;
     if (!keyboard || FAILED(keyboard->GetKeySequence(entries.Put())) || FAILED(entries.Verify())) return;
     std::vector<std::uint32_t> sequence;
-    for (LONG index = entries.LowerBound(); index <= entries.UpperBound(); ++index) {
-        unsigned long entry = 0;
-        if (SUCCEEDED(entries.GetElement(index, &entry))) sequence.push_back(entry);
-    }
+    (void)entries.ForEach([&](unsigned long entry) { sequence.push_back(entry); });
     description.keyNames = KeyNames(sequence, ui::LoadText, CharacterOf);
 }
 

@@ -5,6 +5,10 @@
 #include "shell/Rack.h"
 
 namespace recoveryui::model {
+namespace {
+// No file has more; an enumerator that goes on has no end.
+constexpr std::size_t kMostNames = 1'000'000;
+}  // namespace
 
 HRESULT Repository::Create(IObjectRack* rack, Repository& repository) {
     com::Ptr<IRecoveryRepository> object;
@@ -33,6 +37,7 @@ HRESULT Repository::Names(std::vector<std::wstring>& names) const {
     while (SUCCEEDED(hr)) {
         hr = enumerator->Next(name.Put());
         if (hr != S_OK) break;
+        if (names.size() == kMostNames) return E_FAIL;
         names.push_back(name.Text());
     }
     return SUCCEEDED(hr) ? S_OK : hr;

@@ -16,13 +16,9 @@ IUnknown* ObjectIn(const com::Ptr<IUnknown>& element) {
 
 template <class Element>
 HRESULT Append(const com::CVtlSafeArray<Element>& array, std::vector<com::Ptr<IUnknown>>& elements) {
-    HRESULT hr = array.Verify();
-    for (LONG index = array.LowerBound(); SUCCEEDED(hr) && index <= array.UpperBound(); ++index) {
-        typename com::CVtlSafeArray<Element>::Owner element;
-        hr = array.GetElement(index, &element);
-        if (SUCCEEDED(hr)) elements.emplace_back(ObjectIn(element));
-    }
-    return hr;
+    const HRESULT hr = array.Verify();
+    if (FAILED(hr)) return hr;
+    return array.ForEach([&](const auto& element) { elements.emplace_back(ObjectIn(element)); });
 }
 
 }  // namespace

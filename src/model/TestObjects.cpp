@@ -32,11 +32,9 @@ com::CVtlSafeArray<VARIANT> ToArray(const ObjectChain& chain) {
 
 ObjectChain FromArray(const com::CVtlSafeArray<VARIANT>& array) {
     ObjectChain chain;
-    for (LONG index = array.LowerBound(); index <= array.UpperBound(); ++index) {
-        com::Variant element;
-        com::Check(array.GetElement(index, &element));
+    com::Check(array.ForEach([&](const com::Variant& element) {
         if (auto object = com::Query<IDispatch>(element.Object())) chain.push_back(std::move(object));
-    }
+    }));
     return chain;
 }
 

@@ -16,11 +16,9 @@ void CrashTriggerProperties::OnInit() {
     com::CVtlSafeArray<BSTR> names;
     if (trigger_ && SUCCEEDED(trigger_->GetProcesses(names.Put())) && SUCCEEDED(names.Verify())) {
         const ui::ListView::Filling filling(list);
-        for (LONG index = names.LowerBound(); index <= names.UpperBound(); ++index) {
-            com::Bstr name;
-            com::Check(names.GetElement(index, &name));
+        com::Check(names.ForEach([&](const com::Bstr& name) {
             if (!name.View().empty()) list.InsertRow(list.Count(), name.Text());
-        }
+        }));
     }
     list.FitColumnToHeader(0);
 }

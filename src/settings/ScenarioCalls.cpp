@@ -14,11 +14,7 @@ std::optional<std::vector<std::wstring>> NamesIn(const VARIANT& value) {
     com::CVtlSafeArray<BSTR> array;
     if (FAILED(SafeArrayCopy(value.parray, array.Put())) || FAILED(array.Verify())) return std::nullopt;
     std::vector<std::wstring> names;
-    for (LONG index = array.LowerBound(); index <= array.UpperBound(); ++index) {
-        com::Bstr name;
-        com::Check(array.GetElement(index, &name));
-        names.push_back(name.Text());
-    }
+    com::Check(array.ForEach([&](const com::Bstr& name) { names.push_back(name.Text()); }));
     return names;
 }
 

@@ -24,11 +24,7 @@ bool CrashTriggerPP::LoadTrigger() {
         array.Count() == 0)
         return false;
     std::vector<std::wstring> names;
-    for (LONG index = array.LowerBound(); index <= array.UpperBound(); ++index) {
-        com::Bstr name;
-        com::Check(array.GetElement(index, &name));
-        names.push_back(name.Text());
-    }
+    com::Check(array.ForEach([&](const com::Bstr& name) { names.push_back(name.Text()); }));
     Pair().Load(names);
     return true;
 }

@@ -34,16 +34,16 @@ bool FunctionLibrary::ReadFunctions() {
     if (FAILED(parser_->GetFunctions(array.Put()))) return false;
     if (array.IsNull()) return true;
     if (FAILED(array.Verify())) return false;
-    for (LONG index = array.LowerBound(); index <= array.UpperBound(); ++index) {
-        com::Variant element;
+    bool readable = true;
+    const HRESULT hr = array.ForEach([&](const com::Variant& element) {
         com::Bstr name;
-        if (FAILED(array.GetElement(index, &element))) return false;
         auto function = com::Query<IScriptFunction>(element.Object());
-        if (!function || FAILED(function->GetName(name.Put()))) return false;
+        readable = readable && function && SUCCEEDED(function->GetName(name.Put()));
+        if (!readable) return;
         functions_.push_back(std::move(function));
         names_.push_back(name.Text());
-    }
-    return true;
+    });
+    return readable && SUCCEEDED(hr);
 }
 
 std::wstring FunctionLibrary::TextOf(size_t function) const {

@@ -61,11 +61,9 @@ private:
 
 std::vector<com::Ptr<IDispatch>> PointedAt::Objects() const {
     std::vector<com::Ptr<IDispatch>> found;
-    for (LONG index = objects.LowerBound(); index <= objects.UpperBound(); ++index) {
-        com::Variant element;
-        com::Check(objects.GetElement(index, &element));
+    com::Check(objects.ForEach([&](const com::Variant& element) {
         if (element.Type() == VT_DISPATCH && element.Object()) found.emplace_back(element.Get().pdispVal);
-    }
+    }));
     return found;
 }
 

@@ -140,17 +140,26 @@ TEST(StoreFormat, AFileCutAnywhereIsCorruptAndChangesNothing) {
     EXPECT_EQ(ReadResult::Read, ReadStore(std::string_view(text).substr(0, end), read));
 }
 
-TEST(StoreFormat, AByteChangedAnywhereNeverBreaksTheReader) {
-    const std::string text = TextOfStore(OneOfEverything());
-    const std::string_view bytes("\0\x1a\"{],9-\x80\xff:", 11);
-    for (size_t at = 0; at < text.size(); ++at) {
-        std::string damaged = text;
-        damaged[at] = bytes[at % bytes.size()];
-        std::vector<NamedScenario> read, again;
-        if (ReadStore(damaged, read) != ReadResult::Read) continue;
-        ASSERT_EQ(ReadResult::Read, ReadStore(TextOfStore(read), again)) << at;
-        ASSERT_EQ(read, again) << at;
+TEST(StoreFormat, ABitFlippedAnywhereNeverBreaksTheReader) {
+    std::string text = TextOfStore(OneOfEverything());
+    std::erase_if(text, [](char c) { return c == '\n' || c == ' '; });  // spares half of the flips
+    const std::vector<NamedScenario> kept = {{L"kept", {}}};
+    const size_t step = sizeof(wchar_t) == 2 ? 1 : 7;  // the sanitizers take their time
+    size_t readable = 0;
+    for (size_t bit = 0; bit < text.size() * 8; bit += step) {
+        text[bit / 8] ^= static_cast<char>(1 << bit % 8);
+        std::vector<NamedScenario> read = kept, again;
+        const ReadResult result = ReadStore(text, read);
+        text[bit / 8] ^= static_cast<char>(1 << bit % 8);
+        if (result != ReadResult::Read) {
+            ASSERT_EQ(kept, read) << bit;
+            continue;
+        }
+        ++readable;
+        ASSERT_EQ(ReadResult::Read, ReadStore(TextOfStore(read), again)) << bit;
+        ASSERT_EQ(read, again) << bit;
     }
+    EXPECT_GT(readable, 0u) << "a changed letter of a name is no damage";
 }
 
 TEST(StoreFormat, ForeignAndNewerFilesAreToldApart) {

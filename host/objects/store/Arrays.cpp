@@ -23,12 +23,8 @@ HRESULT Read(SAFEARRAY* source, std::vector<Item>& items, Convert convert) {
     if (FAILED(array->Verify())) return E_INVALIDARG;
     std::vector<Item> read;
     read.reserve(array->Count());
-    for (LONG index = array->LowerBound(); index <= array->UpperBound(); ++index) {
-        typename com::CVtlSafeArray<Element>::Owner element{};
-        const HRESULT hr = array->GetElement(index, &element);
-        if (FAILED(hr)) return hr;
-        read.push_back(convert(std::move(element)));
-    }
+    const HRESULT hr = array->ForEach([&](auto element) { read.push_back(convert(std::move(element))); });
+    if (FAILED(hr)) return hr;
     items = std::move(read);
     return S_OK;
 }

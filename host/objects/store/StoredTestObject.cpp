@@ -2,6 +2,7 @@
 
 #include "com/Automation.h"
 #include "objects/screen/TestObject.h"
+#include "objects/store/StoreFormat.h"
 #include "objects/store/Values.h"
 
 namespace tovarin {
@@ -18,6 +19,7 @@ store::TestObject ReadForeign(ITestObject* object) {
     com::Check(object->GetDisplayName(name.Put()));
     com::Check(object->GetPropertyCount(&count));
     content.displayName = name.Text();
+    if (count > static_cast<long>(store::kMostItems)) throw com::HResultError(E_INVALIDARG);
     for (long index = 0; index < count; ++index) {
         com::Variant value;
         long isRegularExpression = 0, isChecked = 0;

@@ -1,0 +1,187 @@
+// Values that somebody else left behind: in the host's options, in the registry, in recovery files.
+#include <windows.h>
+
+#include <commctrl.h>
+
+#include "manager/ManagerTest.h"
+#include "model/CMRUComboBox.h"
+#include "objects/services/NamedMembers.h"
+#include "settings/SettingsTest.h"
+
+namespace recoveryui::test {
+namespace {
+
+// Answers every question with one value, of any type.
+class HostileOptions final : public com::Object<HostileOptions, ITestOptions, tovarin::NamedMembers> {
+public:
+    com::Variant item, value;
+    std::wstring registryPath;
+    int written = 0;
+
+    HRESULT STDMETHODCALLTYPE GetItem(VARIANT, VARIANT* out) noexcept override {
+        *out = item.Type() == VT_EMPTY ? com::Variant(static_cast<IDispatch*>(this)).Detach()
+                                       : com::Variant(item).Detach();
+        return S_OK;
+    }
+    HRESULT STDMETHODCALLTYPE GetOptionValue(BSTR, BSTR, VARIANT* out, long, long) noexcept override {
+        *out = com::Variant(value).Detach();
+        return S_OK;
+    }
+    HRESULT STDMETHODCALLTYPE SetOptionValue(BSTR, BSTR, VARIANT, long, long, long, long,
+                                             long) noexcept override {
+        ++written;
+        return S_OK;
+    }
+    HRESULT STDMETHODCALLTYPE GetSettingsRegistryPath(BSTR* out) noexcept override {
+        return com::CopyTo(out, registryPath);
+    }
+
+private:
+    DISPID FindMember(const wchar_t*) const noexcept override { return DISPID_UNKNOWN; }
+    HRESULT InvokeMember(DISPID, WORD, DISPPARAMS&, VARIANT*) noexcept override { return E_FAIL; }
+};
+
+com::Variant OfType(VARTYPE type, LONGLONG bits) {
+    com::Variant made;
+    VARIANT* const raw = made.Put();
+    raw->llVal = bits;
+    raw->vt = type;
+    return made;
+}
+
+com::Variant OfArray(SAFEARRAY* array, VARTYPE type) {
+    com::Variant made;
+    VARIANT* const raw = made.Put();
+    raw->parray = array;
+    raw->vt = VT_ARRAY | type;
+    return made;
+}
+
+class HostileOptionsTest : public SettingsTest {};
+
+TEST_F(HostileOptionsTest, TheTabOpensOnOptionsOfEveryType) {
+    static LONG number = 7;
+    const std::wstring nul(L"a.trs;N\0;1;1*", 13);
+    std::wstring many;
+    for (int i = 0; i < 2000; ++i) many += L"a.trs;Name " + std::to_wstring(i) + L";1;1*";
+    const std::wstring wide(300'000, L';');
+    const struct {
+        com::Variant value;
+        LRESULT rows;
+    } values[] = {{OfType(VT_NULL, 0), 0},
+                  {OfType(VT_I8, -1), 0},
+                  {OfType(VT_R8, -1), 0},
+                  {OfType(VT_BOOL, 5), 0},
+                  {OfType(VT_ERROR, DISP_E_PARAMNOTFOUND), 0},
+                  {OfType(VT_BSTR, 0), 0},
+                  {OfType(VT_DISPATCH, 0), 0},
+                  {OfType(VT_BYREF | VT_I4, reinterpret_cast<LONGLONG>(&number)), 0},
+                  {OfArray(SafeArrayCreateVector(VT_BSTR, 0, 2), VT_BSTR), 0},
+                  {OfArray(nullptr, VT_UI1), 0},
+                  {com::Variant(nul), 1},
+                  {com::Variant(L"*;;*;1;1"), 1},
+                  {com::Variant(wide), 0},
+                  {com::Variant(many), 2000}};
+    const auto hostile = HostileOptions::Make();
+    rack_.Put(L"TestOptions", static_cast<ITestOptions*>(hostile.Get()));
+    options_ = com::Ptr<ITestOptions>(hostile.Get());
+    for (const auto& [value, rows] : values) {
+        SCOPED_TRACE(value.Type());
+        hostile->value = value;
+        hostile->registryPath = nul;
+        OpenSettings([&](UserScreen& screen, HWND frame) {
+            EXPECT_EQ(screen.Ask(screen.Control(frame, IDC_RECOVERY_LIST), LVM_GETITEMCOUNT), rows);
+            EXPECT_TRUE(screen.IsEnabled(frame, IDC_RECOVERY_ADD));
+            if (rows != 1) return;
+            screen.Press(frame, IDC_RECOVERY_ADD);  // reads its recent files
+            screen.Press(screen.WaitForWindow(L"Add Recovery Scenario"), IDCANCEL);
+        });
+    }
+    // A branch that is none.
+    for (const com::Variant& item : {OfType(VT_NULL, 0), OfType(VT_DISPATCH, 0), com::Variant(L"x")}) {
+        hostile->item = item;
+        OpenSettings([&](UserScreen& screen, HWND frame) {
+            EXPECT_EQ(screen.RowsOf(frame, IDC_RECOVERY_LIST), Rows{});
+        });
+    }
+}
+
+TEST(HostileRegistryTest, ARecentListTakesWhateverItsValueHolds) {
+    constexpr const wchar_t* kKey = L"Software\\RecoveryUITests\\Hostile";
+    HKEY key = nullptr;
+    ASSERT_EQ(RegCreateKeyW(HKEY_CURRENT_USER, kKey, &key), ERROR_SUCCESS);
+    const std::wstring separators(1'000'000, L';'), entry(500'000, L'x'), nuls(5, L'\0');
+    const struct {
+        DWORD type;
+        const std::wstring text;
+        DWORD missing;  // bytes at its end
+        LRESULT entries;
+    } cases[] = {{REG_SZ, L"", 0, 0},          {REG_SZ, L"a;b", 0, 2},
+                 {REG_SZ, L"a;b", 1, 2},       {REG_SZ, L"a", 1, 1},
+                 {REG_MULTI_SZ, L"a;b", 0, 2}, {REG_EXPAND_SZ, L"%x%;b", 0, 2},
+                 {REG_DWORD, L"ab", 0, 1},     {REG_BINARY, nuls, 0, 0},
+                 {0x12345678, L"a", 0, 1},     {REG_SZ, separators, 0, 0},
+                 {REG_SZ, entry, 0, 1},        {REG_SZ, L"a;" + separators + L"b;c;d;e;f", 0, 4}};
+    for (const auto& [type, text, missing, entries] : cases) {
+        const auto bytes = static_cast<DWORD>(text.size() * sizeof(wchar_t)) - missing;
+        ASSERT_EQ(RegSetValueExW(key, L"Recent", 0, type, reinterpret_cast<const BYTE*>(text.data()), bytes),
+                  ERROR_SUCCESS);
+        const HWND window = CreateWindowW(L"COMBOBOX", L"", CBS_DROPDOWN | CBS_HASSTRINGS | WS_POPUP, 0, 0,
+                                          100, 100, nullptr, nullptr, nullptr, nullptr);
+        model::CMRUComboBox combo;
+        combo.Attach(window);
+        EXPECT_TRUE(combo.LoadMRU(HKEY_CURRENT_USER, kKey, L"Recent", 4));
+        EXPECT_EQ(SendMessageW(window, CB_GETCOUNT, 0, 0), entries) << type << " " << bytes;
+        combo.AddString(L"new");
+        DestroyWindow(window);
+        DWORD stored = 0, size = 0;
+        EXPECT_EQ(RegQueryValueExW(key, L"Recent", nullptr, &stored, nullptr, &size), ERROR_SUCCESS);
+        EXPECT_EQ(stored, static_cast<DWORD>(REG_SZ)) << "saved as what it should be";
+    }
+    RegCloseKey(key);
+    RegDeleteTreeW(HKEY_CURRENT_USER, L"Software\\RecoveryUITests");
+}
+
+class HostileFilesTest : public ManagerTest {};
+
+TEST_F(HostileFilesTest, NamesWithNulsAreDifferentScenarios) {
+    const std::wstring first(L"n\0a", 3), second(L"n\0b", 3);
+    const std::wstring file = MakeFile(L"names.trs", {first, second, L"n"});
+    Manage([&](UserScreen& screen, HWND manager) {
+        OpenFile(screen, manager, file);
+        EXPECT_EQ(Names(screen, manager), (Rows{L"n", L"n", L"n"}));
+        screen.Choose(manager, IDC_MANAGER_LIST, L"n");  // the first of them
+        EXPECT_EQ(screen.Text(manager, IDC_MANAGER_DESCRIPTION), L"About n");
+        screen.Press(manager, IDC_MANAGER_DELETE);
+        EXPECT_EQ(Names(screen, manager), (Rows{L"n", L"n"}));
+        screen.Press(manager, IDCANCEL);
+        EXPECT_EQ(screen.AnswerBox(IDYES), kSaveQuestion);
+    });
+    EXPECT_EQ(NamesIn(file), (Rows{second, L"n"}));
+}
+
+TEST_F(HostileFilesTest, AForeignOrHugeFileIsRefusedAndLeftAsItIs) {
+    const std::wstring huge = Path(L"huge.trs"), program = Path(L"program.trs");
+    const HANDLE file = CreateFileW(huge.c_str(), GENERIC_WRITE, 0, nullptr, CREATE_ALWAYS, 0, nullptr);
+    LARGE_INTEGER size{};
+    size.QuadPart = 3LL << 30;
+    EXPECT_TRUE(SetFilePointerEx(file, size, nullptr, FILE_BEGIN) && SetEndOfFile(file));
+    CloseHandle(file);
+    wchar_t itself[MAX_PATH] = L"";
+    GetModuleFileNameW(GetModuleHandleW(L"RecoveryUI.dll"), itself, MAX_PATH);
+    ASSERT_TRUE(CopyFileW(itself, program.c_str(), FALSE));
+
+    const auto repository = Load({}, false);
+    EXPECT_EQ(repository->AddScenario(Scenario(L"d").Get(), Text(L"kept").Get(), 0), S_OK);
+    for (const std::wstring& path : {huge, program}) {
+        for (const VARIANT_BOOL readOnly : {VARIANT_TRUE, VARIANT_FALSE})
+            EXPECT_EQ(repository->Load(Text(path).Get(), readOnly), STG_E_DOCFILECORRUPT);
+        com::Ptr<IUnknown> kept;
+        EXPECT_EQ(repository->GetScenario(Text(L"kept").Get(), kept.GetAddressOf()), S_OK);
+        EXPECT_TRUE(kept);
+    }
+    EXPECT_EQ(std::filesystem::file_size(huge), 3ull << 30);
+}
+
+}  // namespace
+}  // namespace recoveryui::test
