@@ -1,0 +1,80 @@
+// The wizard beside a bare sheet of the same fifteen templates, without any code behind them.
+#include <windows.h>
+
+#include <commctrl.h>
+
+#include "Compare.h"
+#include "Host.h"
+#include "Rows.h"
+#include "Stage.h"
+#include "resources/ids.h"
+
+namespace recoveryui::bench {
+namespace {
+
+constexpr int kPages[] = {IDD_WELCOME,         IDD_SELECT_TRIGGER, IDD_POPUP,    IDD_SELECT_OBJECT,
+                          IDD_OBJECT_PROPS,    IDD_SELECT_ERROR,   IDD_CRASH,   IDD_OPERATION_LIST,
+                          IDD_SELECT_OPERATION, IDD_OPERATION_CLICK, IDD_OPERATION_FUNC, IDD_CLOSE_PROCESSES,
+                          IDD_TEST_FLOW,       IDD_SCEN_DESCRIPTION, IDD_SUMMARY};
+constexpr int kSteps = 2;   // from the welcome page; what comes later needs input
+constexpr int kRounds = 5;  // of later visits
+
+// The time until the neighbour page is painted.
+double Turn(HWND sheet, int button) {
+    const LRESULT before = SendMessageW(sheet, PSM_GETCURRENTPAGEHWND, 0, 0);
+    const double start = Now();
+    SendMessageW(sheet, PSM_PRESSBUTTON, button, 0);
+    Settle(sheet);
+    const double time = Now() - start;
+    Require(SendMessageW(sheet, PSM_GETCURRENTPAGEHWND, 0, 0) != before, "the page does not change");
+    return time;
+}
+
+std::vector<double> Visit(const std::function<void()>& show) {
+    double open = 0, first = 0, later = 0;
+    const double start = Now();
+    ShowModal(show, [&](HWND sheet) {
+        open = Now() - start;
+        for (int step = 0; step < kSteps; ++step) first += Turn(sheet, PSBTN_NEXT);
+        for (int round = 0; round < kRounds; ++round) {
+            for (int step = 0; step < kSteps; ++step) later += Turn(sheet, PSBTN_BACK);
+            for (int step = 0; step < kSteps; ++step) later += Turn(sheet, PSBTN_NEXT);
+        }
+    });
+    return {open, first / kSteps, later / (2 * kRounds * kSteps)};
+}
+
+void ShowBareSheet() {
+    const HINSTANCE component = GetModuleHandleW(L"RecoveryUI.dll");
+    HPROPSHEETPAGE pages[std::size(kPages)];
+    for (size_t i = 0; i < std::size(kPages); ++i) {
+        PROPSHEETPAGEW page{};
+        page.dwSize = sizeof page;
+        page.dwFlags = PSP_HASHELP;
+        page.hInstance = component;
+        page.pszTemplate = MAKEINTRESOURCEW(kPages[i]);
+        page.pfnDlgProc = [](HWND, UINT, WPARAM, LPARAM) -> INT_PTR { return FALSE; };
+        pages[i] = CreatePropertySheetPageW(&page);
+    }
+    PROPSHEETHEADERW header{};
+    header.dwSize = sizeof header;
+    header.dwFlags = PSH_WIZARD | PSH_WIZARDHASFINISH | PSH_HASHELP | PSH_NOCONTEXTHELP;
+    header.hInstance = component;
+    header.nPages = std::size(kPages);
+    header.phpage = pages;
+    Require(PropertySheetW(&header) >= 0, "no bare sheet");
+}
+
+}  // namespace
+
+void MeasureWizard(const Host& host) {
+    const auto wizard = host.New<IRecoveryWizard>(L"Vantrel.RecoveryWizard");
+    com::Check(wizard->put_Repository(host.New<IUnknown>(L"Vantrel.RecoveryRepository").Get()));
+    const auto dialog = com::Query<IRecoveryDlg>(wizard.Get());
+    Compare({{"wizard: open until the first page is painted", 1.10},
+             {"wizard: turn to a page for the first time", 1.15},
+             {"wizard: turn to a page again", 1.15}},
+            21, [&] { return Visit([&] { com::Check(dialog->DoModal()); }); }, [] { return Visit(&ShowBareSheet); });
+}
+
+}  // namespace recoveryui::bench
