@@ -16,7 +16,15 @@ if(WIN32)
   add_link_options(-static)
   add_compile_options($<$<COMPILE_LANGUAGE:C,CXX>:-ffunction-sections> $<$<COMPILE_LANGUAGE:C,CXX>:-fdata-sections>)
   if(CMAKE_BUILD_TYPE STREQUAL "Release")
-    add_link_options(-s -Wl,--gc-sections)
+    add_link_options(-Wl,--gc-sections)
+    if(KEEP_SYMBOLS)
+      # Taken out of the files when they are packed. No folder of the building machine is named.
+      add_compile_options($<$<COMPILE_LANGUAGE:C,CXX>:-g>
+                          $<$<COMPILE_LANGUAGE:C,CXX>:-ffile-prefix-map=${CMAKE_BINARY_DIR}=build>
+                          $<$<COMPILE_LANGUAGE:C,CXX>:-ffile-prefix-map=${CMAKE_SOURCE_DIR}=RecoveryUI>)
+    else()
+      add_link_options(-s)
+    endif()
   else()
     target_compile_options(house INTERFACE $<$<COMPILE_LANGUAGE:CXX>:-fsanitize=undefined>
                                            $<$<COMPILE_LANGUAGE:CXX>:-fsanitize-undefined-trap-on-error>)

@@ -5,7 +5,7 @@
 packages=(g++ cmake ninja-build googletest nlohmann-json3-dev
   g++-mingw-w64-x86-64-posix g++-mingw-w64-i686-posix mingw-w64-tools
   clang libclang-rt-14-dev
-  wine wine64 fonts-wine fonts-liberation xvfb x11-utils imagemagick)
+  wine wine64 fonts-wine fonts-liberation xvfb x11-utils imagemagick nsis zip)
 
 say() { printf '== %s\n' "$*"; }
 fail() { printf '%s\n' "$*" >&2; exit 1; }

@@ -5,10 +5,10 @@ namespace {
 constexpr wchar_t kRefCount[] = L"RefCount";
 }
 
-RegistryKey OpenKey(HKEY parent, const std::wstring& path) {
+RegistryKey OpenKey(HKEY parent, const std::wstring& path, REGSAM view) {
     HKEY key = nullptr;
-    return RegOpenKeyExW(parent, path.c_str(), 0, KEY_ALL_ACCESS, &key) == ERROR_SUCCESS ? RegistryKey(key)
-                                                                                        : RegistryKey();
+    const LSTATUS status = RegOpenKeyExW(parent, path.c_str(), 0, KEY_ALL_ACCESS | view, &key);
+    return status == ERROR_SUCCESS ? RegistryKey(key) : RegistryKey();
 }
 
 RegistryKey CreateKey(HKEY parent, const std::wstring& path) {

@@ -39,14 +39,19 @@ HRESULT TypeLibrary::Unregister() const {
     return S_OK;
 }
 
+// A 64-bit Windows has the interfaces twice, once for programs of each width.
 void TypeLibrary::RemoveInterfaces() const {
+    const RegistryKey views[] = {OpenKey(HKEY_CLASSES_ROOT, L"Interface", KEY_WOW64_64KEY),
+                                 OpenKey(HKEY_CLASSES_ROOT, L"Interface", KEY_WOW64_32KEY)};
     for (UINT index = 0; index < library_->GetTypeInfoCount(); ++index) {
         com::Ptr<ITypeInfo> info;
         TYPEATTR* attributes = nullptr;
         if (FAILED(library_->GetTypeInfo(index, info.GetAddressOf())) || FAILED(info->GetTypeAttr(&attributes)))
             continue;
         const bool isInterface = attributes->typekind == TKIND_INTERFACE || attributes->typekind == TKIND_DISPATCH;
-        if (isInterface) DeleteTree(HKEY_CLASSES_ROOT, L"Interface\\" + GuidText(attributes->guid));
+        for (const RegistryKey& view : views) {
+            if (isInterface && view) DeleteTree(view.Get(), GuidText(attributes->guid));
+        }
         info->ReleaseTypeAttr(attributes);
     }
 }
