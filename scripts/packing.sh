@@ -1,6 +1,7 @@
 # How the files of a build become packages. Sourced after common.sh, with the repository's root as the current
 # folder.
 # shellcheck shell=bash
+# shellcheck disable=SC2016 # names of the installer's own, not of this shell
 
 version=$(tr -d '[:space:]' <VERSION)
 binaries=(RecoveryUI.dll TovarinObjects.dll TovarinHost.exe)

@@ -8,7 +8,7 @@ cd "$(dirname "$(readlink -f "$0")")/../.."
 . scripts/packing.sh
 build=$1
 unset DISPLAY
-classes=$(grep -o 'coclass [A-Za-z]*' src/resources/RecoveryUI.idl | sed 's/coclass /Vantrel./')
+mapfile -t classes < <(grep -o 'coclass [A-Za-z]*' src/resources/RecoveryUI.idl | sed 's/coclass /Vantrel./')
 key='HKLM\Software\Microsoft\Windows\CurrentVersion\Uninstall\TovarinRecoveryUI'
 environment='HKLM\System\CurrentControlSet\Control\Session Manager\Environment'
 wrong=0
@@ -18,7 +18,7 @@ is() { # WHAT ACTUAL EXPECTED
 }
 code_of() { "$@" </dev/null >"$work/output" 2>&1 && echo 0 || echo $?; }
 # A class that is there is not found through the folder of the program or the current one.
-missing_classes() { (cd "$WINEPREFIX/drive_c" && code_of wine create_classes.exe $classes); }
+missing_classes() { (cd "$WINEPREFIX/drive_c" && code_of wine create_classes.exe "${classes[@]}"); }
 path() { wine reg query "$environment" /v PATH </dev/null 2>/dev/null | tr -d '\r' | sed -n 's/.*REG_EXPAND_SZ *//p'; }
 set_path() { wine reg add "$environment" /v PATH /t REG_EXPAND_SZ /d "$1" /f </dev/null >/dev/null 2>&1; }
 search_path() { wine "$build/bin/search_path.exe" "$@" </dev/null; }
@@ -46,7 +46,7 @@ stage x86_64 "$build" "$work/RecoveryUI" "$work/symbols"
 make_installer x86_64 "$work/RecoveryUI" "$build/bin/search_path.exe" "$setup"
 check_version "$setup"
 
-is 'missing before' "$(missing_classes)" $(($(wc -w <<<"$classes") + 1))
+is 'missing before' "$(missing_classes)" $((${#classes[@]} + 1))
 wine reg add "$key" /v InstallLocation /d elsewhere /reg:32 /f >/dev/null 2>&1 </dev/null
 is 'beside the other width' "$(code_of wine "$setup" /S)" 3
 wine reg delete "$key" /reg:32 /f >/dev/null 2>&1 </dev/null
