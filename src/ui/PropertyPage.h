@@ -33,7 +33,9 @@ protected:
     // Looks after the message under way whether the control with the focus was disabled or hidden, and hands
     // the focus on. A page that is shown does so by itself.
     void KeepFocusLater() const { PostMessageW(Window(), kKeepFocus, 0, 0); }
-    virtual HWND NextFocus() const { return GetNextDlgTabItem(Window(), nullptr, FALSE); }
+    virtual HWND NextFocus() const { return FirstFocus(); }
+    // Where a user begins, if the page is shown: its first control.
+    virtual HWND FirstFocus() const { return GetNextDlgTabItem(Window(), nullptr, FALSE); }
 
     // Pages that override them ask them for the rest.
     bool OnNotify(NMHDR& header, LRESULT& answer) override;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "resources/ids.h"
 #include "wizard/WizardPPBase.h"
 
 namespace recoveryui::wizard {
@@ -13,6 +14,8 @@ private:
     void OnInit() override;
     bool OnCommand(const ui::Command& command) override;
     Leave OnNext() override;
+    // The file before it is only shown.
+    HWND FirstFocus() const override { return Item(IDC_SCEN_NAME); }
 
     bool IsTaken(const std::wstring& name) const;
 

@@ -64,7 +64,8 @@ HWND WizardPPBase::NextFocus() const {
         const HWND button = GetDlgItem(Sheet(), id);
         if (IsWindowEnabled(button)) return button;
     }
-    return GetDlgItem(Sheet(), IDCANCEL);
+    const HWND first = FirstFocus();
+    return first ? first : GetDlgItem(Sheet(), IDCANCEL);
 }
 
 void WizardPPBase::OnInit() {
