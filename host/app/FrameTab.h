@@ -24,6 +24,7 @@ public:
 
     // Creates the page's window, hidden, above the frame's controls; throws when it fails.
     void Activate(HWND frame, const RECT& place);
+    void Move(const RECT& place) { page_->Move(&place); }
     void Show(bool visible) { page_->Show(visible ? SW_SHOW : SW_HIDE); }
     HWND Window() const { return window_; }
 

@@ -128,6 +128,12 @@ void SettingsFrame::ActivateTabs(const RECT& place) {
     }
 }
 
+void SettingsFrame::MovePages() {
+    RECT place = PlaceOf(Item(IDC_SETTINGS_TABS));
+    TabCtrl_AdjustRect(Item(IDC_SETTINGS_TABS), FALSE, &place);
+    for (const auto& tab : tabs_) tab->Move(place);
+}
+
 void SettingsFrame::ShowTab(int index) {
     const HWND focus = GetFocus();
     const HWND left = current_ >= 0 ? tabs_[static_cast<size_t>(current_)]->Window() : nullptr;

@@ -47,6 +47,7 @@ private:
     void AddProvidedTabs();
     void Layout();
     void ActivateTabs(const RECT& place);
+    void MovePages();
     void ShowTab(int index);
     void StepTab(int step);
     void RefreshApply();

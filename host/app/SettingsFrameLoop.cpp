@@ -26,6 +26,8 @@ private:
     HWND owner_;
 };
 
+constexpr UINT kMovePages = WM_APP + 1;
+
 bool IsHeld(int key) {
     return GetKeyState(key) < 0;
 }
@@ -121,6 +123,9 @@ bool SettingsFrame::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {
             if (reinterpret_cast<const NMHDR*>(lParam)->code == static_cast<UINT>(TCN_SELCHANGE))
                 ShowTab(TabCtrl_GetCurSel(Item(IDC_SETTINGS_TABS)));
             return false;
+        // Windows scales the frame when this message has been handled; the pages come after.
+        case WM_DPICHANGED: PostMessageW(window_, kMovePages, 0, 0); return false;
+        case kMovePages: MovePages(); return true;
         case WM_NCDESTROY: OnDestroyed(); return false;
         default: return false;
     }

@@ -5,6 +5,7 @@
 #include "model/ScenarioReading.h"
 #include "resources/ids.h"
 #include "support/HelpTopics.h"
+#include "ui/Dpi.h"
 #include "ui/DroppedFiles.h"
 #include "ui/Help.h"
 #include "ui/Picture.h"
@@ -42,8 +43,7 @@ constexpr int kWindowIconSize = 16;  // at 96 DPI
 ManagerDlg::ManagerDlg(IObjectRack* rack) : Dialog(IDD_MANAGER), rack_(rack), file_(rack) {}
 
 void ManagerDlg::OnInit() {
-    icon_ = ui::LoadIconOfSize(IDI_RECOVERY_FILE, ui::ScaleForWindow(Window(), kWindowIconSize));
-    SendMessageW(Window(), WM_SETICON, ICON_SMALL, reinterpret_cast<LPARAM>(icon_.Get()));
+    ShowIcon();
     PrepareButtons();
     list_.Attach(Item(IDC_MANAGER_LIST), [this](const std::wstring& name) { return ImageOf(name); });
     PrepareLayout();
@@ -56,6 +56,18 @@ void ManagerDlg::OnInit() {
     UpdateSelection();
     // The dialog manager chooses a focus of its own after this.
     PostMessageW(Window(), WM_NEXTDLGCTL, reinterpret_cast<WPARAM>(list_.Window()), TRUE);
+}
+
+void ManagerDlg::ShowIcon() {
+    ui::Icon before = std::exchange(
+        icon_, ui::LoadIconOfSize(IDI_RECOVERY_FILE, ui::ScaleForWindow(Window(), kWindowIconSize)));
+    SendMessageW(Window(), WM_SETICON, ICON_SMALL, reinterpret_cast<LPARAM>(icon_.Get()));
+}
+
+void ManagerDlg::OnDpiChanged() {
+    ShowIcon();
+    list_.MakeImages();
+    list_.FitColumn();
 }
 
 void ManagerDlg::PrepareButtons() {

@@ -28,8 +28,10 @@ private:
     bool OnNotify(NMHDR& header, LRESULT& answer) override;
     bool OnMessage(UINT message, WPARAM wParam, LPARAM lParam, LRESULT& answer) override;
     void OnHelp() override;
+    void OnDpiChanged() override;
 
     // The window.
+    void ShowIcon();
     void PrepareButtons();
     void PrepareLayout();
     ManagerState State() const;

@@ -2,25 +2,13 @@
 
 #include "manager/NameSearch.h"
 #include "resources/ids.h"
-#include "ui/Picture.h"
 
 namespace recoveryui::manager {
 namespace {
 
 constexpr signed char kUnknown = -1;
-constexpr int kIconSize = 16;  // at 96 DPI
 constexpr int kIcons[] = {IDI_TRIGGER_OBJECT_STATE, IDI_TRIGGER_POPUP, IDI_TRIGGER_ERROR, IDI_TRIGGER_CRASH,
                           IDI_SCENARIO_UNREADABLE};
-
-HIMAGELIST MakeIcons(HWND window) {
-    const int size = ui::ScaleForWindow(window, kIconSize);
-    const HIMAGELIST images = ImageList_Create(size, size, ILC_COLOR32 | ILC_MASK, std::size(kIcons), 0);
-    for (const int id : kIcons) {
-        const ui::Icon icon = ui::LoadIconOfSize(id, size);
-        ImageList_AddIcon(images, icon.Get());
-    }
-    return images;
-}
 
 }  // namespace
 
@@ -28,10 +16,12 @@ void ScenarioList::Attach(HWND window, ImageOf imageOf) {
     view_ = ui::ListView(window);
     imageOf_ = std::move(imageOf);
     view_.SetExtendedStyle(LVS_EX_FULLROWSELECT | LVS_EX_DOUBLEBUFFER | LVS_EX_LABELTIP);
-    ListView_SetImageList(window, MakeIcons(window), LVSIL_SMALL);  // the view destroys it
+    MakeImages();
     view_.AddColumn({});
     FitColumn();
 }
+
+void ScenarioList::MakeImages() const { view_.SetIcons(kIcons); }
 
 void ScenarioList::Fill(std::vector<std::wstring> names) {
     names_ = std::move(names);

@@ -18,6 +18,8 @@ public:
 
     void Attach(HWND window, ImageOf imageOf);
     void Fill(std::vector<std::wstring> names);
+    // After a change of the resolution.
+    void MakeImages() const;
     // Leaves room for the scroll bar; after every change of the view's size.
     void FitColumn() const;
 

@@ -5,14 +5,13 @@
 #include "resources/ids.h"
 #include "settings/CheckImages.h"
 #include "support/Text.h"
-#include "ui/Picture.h"
+#include "ui/Dpi.h"
 #include "ui/Strings.h"
 
 namespace recoveryui::settings {
 namespace {
 
 constexpr UINT_PTR kSubclassId = 1;
-constexpr int kIconSize = 16;       // at 96 DPI
 constexpr int kPicturesWidth = 50;  // at 96 DPI: check box, icon and what stands between
 constexpr int kMeasuredNames = 200;
 // By trigger kind; the last one is kIconUnreadable.
@@ -20,16 +19,6 @@ constexpr int kIcons[] = {IDI_TRIGGER_OBJECT_STATE, IDI_TRIGGER_POPUP, IDI_TRIGG
                           IDI_SCENARIO_UNREADABLE};
 enum Column { kNameColumn, kFileColumn };
 enum StateImage : UINT { kUnchecked = 1, kChecked = 2 };
-
-HIMAGELIST MakeIcons(HWND window) {
-    const int size = ui::ScaleForWindow(window, kIconSize);
-    const HIMAGELIST images = ImageList_Create(size, size, ILC_COLOR32 | ILC_MASK, std::size(kIcons), 0);
-    for (const int id : kIcons) {
-        const ui::Icon icon = ui::LoadIconOfSize(id, size);
-        ImageList_AddIcon(images, icon.Get());
-    }
-    return images;
-}
 
 // The command for a key of the list, 0 for none.
 int CommandOf(UINT message, WPARAM key) noexcept {
@@ -51,13 +40,13 @@ void AssociationView::Attach(HWND window) {
     view_.SetExtendedStyle(LVS_EX_FULLROWSELECT | LVS_EX_DOUBLEBUFFER | LVS_EX_LABELTIP);
     view_.AddColumn(ui::LoadText(IDS_COLUMN_SCENARIO));
     view_.AddColumn(ui::LoadText(IDS_COLUMN_FILE));
-    ListView_SetImageList(window, MakeIcons(window), LVSIL_SMALL);  // the view destroys it
-    MakeCheckImages();
+    MakeImages();
     ListView_SetCallbackMask(window, LVIS_STATEIMAGEMASK);
     SetWindowSubclass(window, &AssociationView::KeyProcedure, kSubclassId, 0);
 }
 
-void AssociationView::MakeCheckImages() const {
+void AssociationView::MakeImages() const {
+    view_.SetIcons(kIcons);
     ImageList_Destroy(ListView_SetImageList(view_.Window(), CheckImages(view_.Window()), LVSIL_STATE));
 }
 

@@ -22,8 +22,8 @@ public:
     void Refill() const;
     void FitColumns() const;
     void Redraw(int row) const { ListView_RedrawItems(view_.Window(), row, row); }
-    // After a change of the theme.
-    void MakeCheckImages() const;
+    // After a change of the theme or the resolution.
+    void MakeImages() const;
 
     // The selected row, or kNoRow.
     int Selected() const;

@@ -1,21 +1,16 @@
 #include "settings/CheckImages.h"
 
-#include <uxtheme.h>
 #include <vssym32.h>
 
+#include "ui/Dpi.h"
 #include "ui/Handles.h"
-#include "ui/Picture.h"
+#include "ui/Theme.h"
 
 namespace recoveryui::settings {
 namespace {
 
 constexpr int kImageSize = 16;  // at 96 DPI
 constexpr int kBoxSize = 13;    // at 96 DPI, where the theme does not say
-
-struct ThemeCloser {
-    void operator()(HTHEME theme) const noexcept { CloseThemeData(theme); }
-};
-using Theme = ui::Owned<HTHEME, ThemeCloser>;
 
 RECT Centered(int size, SIZE box) {
     const LONG left = (size - box.cx) / 2, top = (size - box.cy) / 2;
@@ -43,7 +38,7 @@ HIMAGELIST CheckImages(HWND window) {
     const int size = ui::ScaleForWindow(window, kImageSize);
     const HIMAGELIST images = ImageList_Create(size, size, ILC_COLOR24, 2, 0);
     // For no window: the list would draw its own border with the theme that was opened for it last.
-    const Theme theme(OpenThemeData(nullptr, L"BUTTON"));
+    const ui::Theme theme = ui::OpenTheme(nullptr, L"BUTTON");
     const HDC screen = GetDC(window);
     const HDC memory = CreateCompatibleDC(screen);
     for (const bool checked : {false, true}) {

@@ -132,10 +132,12 @@ bool RecoveryTab::OnMessage(UINT message, WPARAM, LPARAM lParam, LRESULT&) {
             return true;
         }
         case WM_SIZE: anchors_.Follow(); return true;
-        case WM_THEMECHANGED: view_.MakeCheckImages(); return false;
+        case WM_THEMECHANGED: view_.MakeImages(); return false;
         default: return false;
     }
 }
+
+void RecoveryTab::OnDpiChanged() { view_.MakeImages(); }
 
 void RecoveryTab::OnHelp() {
     ui::ShowHelpTopic(Window(), support::topics::kRecoveryTab, rack_.Get());

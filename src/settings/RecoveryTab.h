@@ -21,6 +21,7 @@ public:
     RecoveryTab(IObjectRack* rack, std::shared_ptr<RecoverySettings> settings, std::function<void()> changed);
 
     void OnHelp() override;
+    void OnDpiChanged() override;
 
 private:
     void OnInit() override;

@@ -1,5 +1,8 @@
 #include "ui/Anchors.h"
 
+#include <utility>
+
+#include "ui/Dpi.h"
 #include "ui/Window.h"
 
 namespace recoveryui::ui {
@@ -16,6 +19,7 @@ void Stretch(LONG& low, LONG& high, LONG growth, bool followsLow, bool followsHi
 
 void Anchors::Begin(HWND window) {
     window_ = window;
+    dpi_ = DpiOf(window);
     RECT client{}, whole{};
     GetClientRect(window, &client);
     GetWindowRect(window, &whole);
@@ -30,8 +34,20 @@ void Anchors::Add(std::initializer_list<int> controls, unsigned edges) {
     }
 }
 
-void Anchors::Follow() const {
+void Anchors::FollowDpi() {
+    const int now = DpiOf(window_), before = std::exchange(dpi_, now);
+    if (now == before) return;
+    for (SIZE* size : {&client_, &smallest_})
+        *size = {MulDiv(size->cx, now, before), MulDiv(size->cy, now, before)};
+    for (Control& control : controls_)
+        for (LONG* edge :
+             {&control.start.left, &control.start.top, &control.start.right, &control.start.bottom})
+            *edge = MulDiv(*edge, now, before);
+}
+
+void Anchors::Follow() {
     if (!window_) return;
+    FollowDpi();
     RECT client{};
     GetClientRect(window_, &client);
     HDWP moves = BeginDeferWindowPos(static_cast<int>(controls_.size()));
@@ -50,8 +66,10 @@ void Anchors::Follow() const {
     if (moves) EndDeferWindowPos(moves);
 }
 
-void Anchors::LimitTo(MINMAXINFO& info) const {
-    if (window_) info.ptMinTrackSize = {smallest_.cx, smallest_.cy};
+void Anchors::LimitTo(MINMAXINFO& info) {
+    if (!window_) return;
+    FollowDpi();
+    info.ptMinTrackSize = {smallest_.cx, smallest_.cy};
 }
 
 }  // namespace recoveryui::ui

@@ -22,8 +22,8 @@ public:
     void Add(std::initializer_list<int> controls, unsigned edges);
 
     // For WM_SIZE and WM_GETMINMAXINFO.
-    void Follow() const;
-    void LimitTo(MINMAXINFO& info) const;
+    void Follow();
+    void LimitTo(MINMAXINFO& info);
 
 private:
     struct Control {
@@ -32,7 +32,11 @@ private:
         RECT start;
     };
 
+    // What is kept in pixels, at another resolution than before.
+    void FollowDpi();
+
     HWND window_ = nullptr;
+    int dpi_ = 0;
     SIZE client_{};
     SIZE smallest_{};
     std::vector<Control> controls_;

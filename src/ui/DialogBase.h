@@ -35,6 +35,9 @@ protected:
     // Every message that the base does not handle itself.
     virtual bool OnMessage(UINT, WPARAM, LPARAM, LRESULT&) { return false; }
     virtual void OnHelp() {}
+    // The window came to a monitor of another resolution: Windows has scaled fonts and places, and the
+    // columns of its list views have followed. Pictures are left.
+    virtual void OnDpiChanged() {}
     // An exception ended OnInit; called inside the catch block.
     virtual void OnInitFailed() noexcept {}
 
@@ -56,9 +59,11 @@ protected:
 
 private:
     bool Handle(UINT message, WPARAM wParam, LPARAM lParam, LRESULT& answer);
+    void FollowDpi();
 
     int templateId_;
     int muted_ = 0;
+    int dpi_ = 0;
     HWND window_ = nullptr;
     com::LiveObject live_;
 };

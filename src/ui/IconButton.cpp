@@ -2,6 +2,7 @@
 
 #include <commctrl.h>
 
+#include "ui/Dpi.h"
 #include "ui/Picture.h"
 
 namespace recoveryui::ui {
@@ -20,9 +21,14 @@ IconButton::~IconButton() {
 void IconButton::Attach(HWND button, int iconId, Kind kind) {
     button_ = button;
     kind_ = kind;
-    size_ = ScaleForWindow(button, kIconSize);
-    icon_ = LoadIconOfSize(iconId, size_);
+    iconId_ = iconId;
+    LoadPicture();
     SetWindowSubclass(button, &IconButton::Procedure, kSubclassId, reinterpret_cast<DWORD_PTR>(this));
+}
+
+void IconButton::LoadPicture() noexcept {
+    size_ = ScaleForWindow(button_, kIconSize);
+    icon_ = LoadIconOfSize(iconId_, size_);
 }
 
 LRESULT CALLBACK IconButton::Procedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR,
@@ -57,6 +63,10 @@ LRESULT IconButton::Handle(UINT message, WPARAM wParam, LPARAM lParam) noexcept 
             return 0;
         case WM_LBUTTONDBLCLK:
             message = WM_LBUTTONDOWN;  // a second quick click is a click
+            break;
+        case kDpiChangedAfterParent:
+            LoadPicture();
+            InvalidateRect(button, nullptr, TRUE);
             break;
         case WM_MOUSEMOVE: TrackMouse(true); break;
         case WM_MOUSELEAVE: TrackMouse(false); break;

@@ -32,6 +32,7 @@ private:
     bool AsksForMenu(UINT message, WPARAM wParam, LPARAM lParam) const noexcept;
     void DropMenu() const noexcept;
     void TrackMouse(bool over) noexcept;
+    void LoadPicture() noexcept;
 
     RECT MenuPart(RECT button) const noexcept;
     void DrawFace(HDC device, const RECT& place, UINT state) const;
@@ -40,6 +41,7 @@ private:
 
     HWND button_ = nullptr;
     Kind kind_ = Kind::Plain;
+    int iconId_ = 0;
     int size_ = 0;
     Icon icon_;
     bool hot_ = false;

@@ -1,22 +1,17 @@
 // How an icon button looks: the theme's push button where there is a theme.
 #include <windows.h>
 
-#include <uxtheme.h>
 #include <vssym32.h>
 
+#include "ui/Dpi.h"
 #include "ui/IconButton.h"
-#include "ui/Picture.h"
+#include "ui/Theme.h"
 #include "ui/Window.h"
 
 namespace recoveryui::ui {
 namespace {
 
 constexpr BYTE kDisabledOpacity = 90;
-
-struct ThemeCloser {
-    void operator()(HTHEME theme) const noexcept { CloseThemeData(theme); }
-};
-using Theme = Owned<HTHEME, ThemeCloser>;
 
 // Draws the icon faintly over what is there.
 void DrawFaint(HDC device, int x, int y, int size, HICON icon) {
@@ -54,7 +49,7 @@ void IconButton::Draw(const DRAWITEMSTRUCT& item) const {
 
 void IconButton::DrawFace(HDC device, const RECT& place, UINT state) const {
     FillRect(device, &place, GetSysColorBrush(COLOR_3DFACE));
-    const Theme theme(OpenThemeData(button_, L"BUTTON"));
+    const Theme theme = OpenTheme(button_, L"BUTTON");
     if (theme) {
         const int look = state & ODS_DISABLED   ? PBS_DISABLED
                          : state & ODS_SELECTED ? PBS_PRESSED

@@ -1,7 +1,11 @@
 #include "ui/ListView.h"
 
+#include "ui/Picture.h"
+
 namespace recoveryui::ui {
 namespace {
+
+constexpr int kIconSize = 16;  // at 96 DPI
 
 LVITEMW StateItem(UINT state) {
     LVITEMW item{};
@@ -14,6 +18,11 @@ LVITEMW StateItem(UINT state) {
 
 void ListView::SetExtendedStyle(DWORD style) const {
     SendMessageW(window_, LVM_SETEXTENDEDLISTVIEWSTYLE, style, static_cast<LPARAM>(style));
+}
+
+void ListView::SetIcons(std::span<const int> ids) const {
+    // The view destroys its last list itself.
+    ImageList_Destroy(ListView_SetImageList(window_, LoadIcons(window_, ids, kIconSize), LVSIL_SMALL));
 }
 
 void ListView::AddColumn(const std::wstring& title) const {
@@ -50,8 +59,8 @@ std::wstring ListView::Text(int row, int column) const {
         item.iSubItem = column;
         item.pszText = text.data();
         item.cchTextMax = static_cast<int>(text.size());
-        const auto length = static_cast<size_t>(
-            SendMessageW(window_, LVM_GETITEMTEXTW, static_cast<WPARAM>(row), reinterpret_cast<LPARAM>(&item)));
+        const auto length = static_cast<size_t>(SendMessageW(
+            window_, LVM_GETITEMTEXTW, static_cast<WPARAM>(row), reinterpret_cast<LPARAM>(&item)));
         if (length + 1 < text.size()) {
             text.resize(length);
             return text;
@@ -60,10 +69,18 @@ std::wstring ListView::Text(int row, int column) const {
     }
 }
 
-void ListView::DeleteRow(int row) const { ListView_DeleteItem(window_, row); }
-void ListView::Clear() const { ListView_DeleteAllItems(window_); }
-int ListView::Count() const { return ListView_GetItemCount(window_); }
-int ListView::Selected() const { return ListView_GetNextItem(window_, -1, LVNI_SELECTED); }
+void ListView::DeleteRow(int row) const {
+    ListView_DeleteItem(window_, row);
+}
+void ListView::Clear() const {
+    ListView_DeleteAllItems(window_);
+}
+int ListView::Count() const {
+    return ListView_GetItemCount(window_);
+}
+int ListView::Selected() const {
+    return ListView_GetNextItem(window_, -1, LVNI_SELECTED);
+}
 
 std::vector<int> ListView::AllSelected() const {
     std::vector<int> rows;
@@ -93,7 +110,9 @@ int ListView::Find(const std::wstring& text, int after) const {
         SendMessageW(window_, LVM_FINDITEMW, static_cast<WPARAM>(after), reinterpret_cast<LPARAM>(&find)));
 }
 
-void ListView::FitColumnToContents(int column) const { ListView_SetColumnWidth(window_, column, LVSCW_AUTOSIZE); }
+void ListView::FitColumnToContents(int column) const {
+    ListView_SetColumnWidth(window_, column, LVSCW_AUTOSIZE);
+}
 
 void ListView::FitColumnToHeader(int column) const {
     ListView_SetColumnWidth(window_, column, LVSCW_AUTOSIZE_USEHEADER);
@@ -117,7 +136,8 @@ void ListView::FitColumn(int column) const {
     FitColumnToContents(column);
     const int contents = ListView_GetColumnWidth(window_, column);
     FitColumnToHeader(column);
-    if (ListView_GetColumnWidth(window_, column) < contents) ListView_SetColumnWidth(window_, column, contents);
+    if (ListView_GetColumnWidth(window_, column) < contents)
+        ListView_SetColumnWidth(window_, column, contents);
 }
 
 // Inserting into a visible list without this costs a repaint a row.

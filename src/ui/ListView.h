@@ -5,6 +5,7 @@
 
 #include <commctrl.h>
 
+#include <span>
 #include <string>
 #include <vector>
 
@@ -16,6 +17,8 @@ public:
 
     HWND Window() const noexcept { return window_; }
     void SetExtendedStyle(DWORD style) const;
+    // Small icons of the module, in place of those before.
+    void SetIcons(std::span<const int> ids) const;
     void AddColumn(const std::wstring& title) const;
     // Gives the index of the new row; -1 on failure.
     int InsertRow(int index, const std::wstring& text, int image = -1, LPARAM data = 0) const;

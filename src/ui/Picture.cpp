@@ -5,6 +5,7 @@
 
 #include "com/Module.h"
 #include "com/Ptr.h"
+#include "ui/Dpi.h"
 
 namespace recoveryui::ui {
 namespace {
@@ -27,8 +28,8 @@ com::Ptr<IWICBitmapSource> Decode(IWICImagingFactory& factory, int id) {
                                                decoder.GetAddressOf())) ||
         FAILED(decoder->GetFrame(0, frame.GetAddressOf())) ||
         FAILED(factory.CreateFormatConverter(converter.GetAddressOf())) ||
-        FAILED(converter->Initialize(frame.Get(), GUID_WICPixelFormat32bppBGR, WICBitmapDitherTypeNone, nullptr, 0,
-                                     WICBitmapPaletteTypeCustom)))
+        FAILED(converter->Initialize(frame.Get(), GUID_WICPixelFormat32bppBGR, WICBitmapDitherTypeNone,
+                                     nullptr, 0, WICBitmapPaletteTypeCustom)))
         return nothing;
     return com::Ptr<IWICBitmapSource>(converter.Get());
 }
@@ -42,7 +43,8 @@ Bitmap CopyToBitmap(IWICBitmapSource& source, UINT width, UINT height) {
     info.bmiHeader.biBitCount = 32;
     void* pixels = nullptr;
     Bitmap bitmap(CreateDIBSection(nullptr, &info, DIB_RGB_COLORS, &pixels, nullptr, 0));
-    if (!bitmap || FAILED(source.CopyPixels(nullptr, width * 4, width * height * 4, static_cast<BYTE*>(pixels))))
+    if (!bitmap ||
+        FAILED(source.CopyPixels(nullptr, width * 4, width * height * 4, static_cast<BYTE*>(pixels))))
         return {};
     return bitmap;
 }
@@ -51,7 +53,8 @@ Bitmap Stretch(HBITMAP source, SIZE from, SIZE to) {
     const HDC screen = GetDC(nullptr);
     const HDC sourceDc = CreateCompatibleDC(screen), targetDc = CreateCompatibleDC(screen);
     Bitmap target(CreateCompatibleBitmap(screen, to.cx, to.cy));
-    const HGDIOBJ oldSource = SelectObject(sourceDc, source), oldTarget = SelectObject(targetDc, target.Get());
+    const HGDIOBJ oldSource = SelectObject(sourceDc, source),
+                  oldTarget = SelectObject(targetDc, target.Get());
     SetStretchBltMode(targetDc, HALFTONE);
     SetBrushOrgEx(targetDc, 0, 0, nullptr);
     StretchBlt(targetDc, 0, 0, to.cx, to.cy, sourceDc, 0, 0, from.cx, from.cy, SRCCOPY);
@@ -67,8 +70,8 @@ Bitmap Stretch(HBITMAP source, SIZE from, SIZE to) {
 
 Bitmap LoadPicture(int id, SIZE size) {
     com::Ptr<IWICImagingFactory> factory;
-    if (FAILED(CoCreateInstance(CLSID_WICImagingFactory, nullptr, CLSCTX_INPROC_SERVER, IID_IWICImagingFactory,
-                                reinterpret_cast<void**>(factory.GetAddressOf()))))
+    if (FAILED(CoCreateInstance(CLSID_WICImagingFactory, nullptr, CLSCTX_INPROC_SERVER,
+                                IID_IWICImagingFactory, reinterpret_cast<void**>(factory.GetAddressOf()))))
         return {};
     for (const int variant : {id, id + 1000, id + 2000}) {
         const com::Ptr<IWICBitmapSource> source = Decode(*factory.Get(), variant);
@@ -85,15 +88,16 @@ Bitmap LoadPicture(int id, SIZE size) {
 }
 
 Icon LoadIconOfSize(int id, int pixels) {
-    return Icon(static_cast<HICON>(LoadImageW(com::Module::Instance(), MAKEINTRESOURCEW(id), IMAGE_ICON, pixels,
-                                              pixels, LR_DEFAULTCOLOR)));
+    return Icon(static_cast<HICON>(LoadImageW(com::Module::Instance(), MAKEINTRESOURCEW(id), IMAGE_ICON,
+                                              pixels, pixels, LR_DEFAULTCOLOR)));
 }
 
-int ScaleForWindow(HWND window, int pixels) {
-    const HDC device = GetDC(window);
-    const int dpi = GetDeviceCaps(device, LOGPIXELSY);
-    ReleaseDC(window, device);
-    return MulDiv(pixels, dpi, 96);
+HIMAGELIST LoadIcons(HWND window, std::span<const int> ids, int pixels) {
+    const int size = ScaleForWindow(window, pixels);
+    const HIMAGELIST images =
+        ImageList_Create(size, size, ILC_COLOR32 | ILC_MASK, static_cast<int>(ids.size()), 0);
+    for (const int id : ids) ImageList_AddIcon(images, LoadIconOfSize(id, size).Get());
+    return images;
 }
 
 }  // namespace recoveryui::ui

@@ -3,6 +3,10 @@
 
 #include <windows.h>
 
+#include <commctrl.h>
+
+#include <span>
+
 #include "ui/Handles.h"
 
 namespace recoveryui::ui {
@@ -14,7 +18,7 @@ Bitmap LoadPicture(int id, SIZE size);
 // An icon resource in the given pixel size (square).
 Icon LoadIconOfSize(int id, int pixels);
 
-// Pixels for a length given at 96 DPI, on the window's device.
-int ScaleForWindow(HWND window, int pixels);
+// Icon resources as an image list for the window, in a size given at 96 DPI. The caller owns it.
+HIMAGELIST LoadIcons(HWND window, std::span<const int> ids, int pixels);
 
 }  // namespace recoveryui::ui

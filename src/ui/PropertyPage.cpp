@@ -33,14 +33,9 @@ bool PropertyPage::OnNotify(NMHDR& header, LRESULT& answer) {
                 answer = kStay;
             }
             return true;
-        case PSN_QUERYINITIALFOCUS:
-            answer = reinterpret_cast<LRESULT>(FirstFocus());
-            return true;
-        case PSN_HELP:
-            OnHelp();
-            return true;
-        default:
-            return false;
+        case PSN_QUERYINITIALFOCUS: answer = reinterpret_cast<LRESULT>(FirstFocus()); return true;
+        case PSN_HELP: OnHelp(); return true;
+        default: return false;
     }
 }
 

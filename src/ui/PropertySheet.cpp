@@ -3,23 +3,28 @@
 #include <commctrl.h>
 
 #include "com/Guard.h"
+#include "ui/Dpi.h"
 
 namespace recoveryui::ui {
 namespace {
 
-constexpr UINT_PTR kHelpSubclass = 1;
+constexpr UINT_PTR kSheetSubclass = 1;
 
 // F1 on a button of the sheet's own asks the sheet, which leaves it to nobody: it is to do what Help does.
-LRESULT CALLBACK HelpProcedure(HWND sheet, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR id,
-                               DWORD_PTR) noexcept {
-    if (message == WM_NCDESTROY) RemoveWindowSubclass(sheet, &HelpProcedure, id);
+LRESULT CALLBACK SheetProcedure(HWND sheet, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR id,
+                                DWORD_PTR) noexcept {
+    if (message == WM_DPICHANGED) RememberDpi(sheet, HIWORD(wParam));
+    if (message == WM_NCDESTROY) {
+        ForgetDpi(sheet);
+        RemoveWindowSubclass(sheet, &SheetProcedure, id);
+    }
     if (message != WM_HELP) return DefSubclassProc(sheet, message, wParam, lParam);
     SendMessageW(sheet, WM_COMMAND, IDHELP, 0);
     return TRUE;
 }
 
 int CALLBACK OnSheet(HWND sheet, UINT event, LPARAM) noexcept {
-    if (event == PSCB_INITIALIZED) SetWindowSubclass(sheet, &HelpProcedure, kHelpSubclass, 0);
+    if (event == PSCB_INITIALIZED) SetWindowSubclass(sheet, &SheetProcedure, kSheetSubclass, 0);
     return 0;
 }
 

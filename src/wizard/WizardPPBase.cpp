@@ -2,6 +2,7 @@
 
 #include "com/Guard.h"
 #include "resources/ids.h"
+#include "ui/Dpi.h"
 #include "ui/Help.h"
 #include "ui/Picture.h"
 #include "ui/Strings.h"
@@ -22,9 +23,7 @@ ui::Font TitleFont(HWND page) {
     LOGFONTW font{};
     const auto own = reinterpret_cast<HFONT>(SendMessageW(page, WM_GETFONT, 0, 0));
     if (!GetObjectW(own, sizeof font, &font)) return {};
-    const HDC device = GetDC(page);
-    font.lfHeight = -MulDiv(kTitlePoints, GetDeviceCaps(device, LOGPIXELSY), kPointsPerInch);
-    ReleaseDC(page, device);
+    font.lfHeight = -MulDiv(kTitlePoints, ui::DpiOf(page), kPointsPerInch);
     font.lfWeight = FW_BOLD;
     return ui::Font(CreateFontIndirectW(&font));
 }
@@ -68,8 +67,8 @@ HWND WizardPPBase::NextFocus() const {
     return first ? first : GetDlgItem(Sheet(), IDCANCEL);
 }
 
-void WizardPPBase::OnInit() {
-    titleFont_ = TitleFont(Window());
+void WizardPPBase::ShowFrame() {
+    ui::Font before = std::exchange(titleFont_, TitleFont(Window()));
     SendMessageW(Item(IDC_PAGE_TITLE), WM_SETFONT, reinterpret_cast<WPARAM>(titleFont_.Get()), FALSE);
 
     const HWND frame = Item(IDC_PAGE_BITMAP);
@@ -79,6 +78,18 @@ void WizardPPBase::OnInit() {
     SendMessageW(frame, STM_SETIMAGE, IMAGE_BITMAP, reinterpret_cast<LPARAM>(picture_.Get()));
 }
 
+void WizardPPBase::ShowIcon(ButtonIcon& button) {
+    ui::Icon before = std::exchange(
+        button.icon, ui::LoadIconOfSize(button.iconId, ui::ScaleForWindow(Window(), button.size)));
+    SendDlgItemMessageW(Window(), button.control, BM_SETIMAGE, IMAGE_ICON,
+                        reinterpret_cast<LPARAM>(button.icon.Get()));
+}
+
+void WizardPPBase::OnDpiChanged() {
+    ShowFrame();
+    for (ButtonIcon& button : icons_) ShowIcon(button);
+}
+
 LRESULT WizardPPBase::OnSetActive() {
     if (!CanBeShown()) return kStay;
     OnActivate();
@@ -86,7 +97,9 @@ LRESULT WizardPPBase::OnSetActive() {
     return 0;
 }
 
-void WizardPPBase::OnHelp() { ui::ShowHelpTopic(Window(), page_.helpTopic, State().rack.Get()); }
+void WizardPPBase::OnHelp() {
+    ui::ShowHelpTopic(Window(), page_.helpTopic, State().rack.Get());
+}
 
 Leave WizardPPBase::TakeTrigger(IUnknown* trigger) {
     com::Ptr<IRecoveryTrigger> general;
@@ -103,9 +116,8 @@ Leave WizardPPBase::AddOperation(IUnknown* operation) {
 }
 
 void WizardPPBase::SetButtonIcon(int control, int iconId, int size) {
-    ui::Icon icon = ui::LoadIconOfSize(iconId, ui::ScaleForWindow(Window(), size));
-    SendDlgItemMessageW(Window(), control, BM_SETIMAGE, IMAGE_ICON, reinterpret_cast<LPARAM>(icon.Get()));
-    icons_.push_back(std::move(icon));
+    icons_.push_back({control, iconId, size, {}});
+    ShowIcon(icons_.back());
 }
 
 }  // namespace recoveryui::wizard

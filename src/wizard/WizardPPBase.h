@@ -33,7 +33,7 @@ protected:
     void UpdateWizardButtons() const;
 
     // Pages that override OnInit call this one first.
-    void OnInit() override;
+    void OnInit() override { ShowFrame(); }
     // A page that says no is not shown.
     virtual bool CanBeShown() const { return true; }
     // Each time the page is shown.
@@ -60,13 +60,22 @@ private:
     LRESULT OnWizardFinish() final { return OnFinish() ? 0 : kStay; }
 
     HWND NextFocus() const final;
+    void OnDpiChanged() final;
+
+    struct ButtonIcon {
+        int control, iconId, size;
+        ui::Icon icon;
+    };
+    void ShowIcon(ButtonIcon& button);
+    // The picture and the bold title.
+    void ShowFrame();
 
     WizardPS& sheet_;
     const Page& page_;
     bool canAdvance_;
     ui::Font titleFont_;
     ui::Bitmap picture_;
-    std::vector<ui::Icon> icons_;
+    std::vector<ButtonIcon> icons_;
 };
 
 }  // namespace recoveryui::wizard
