@@ -82,6 +82,39 @@ TEST(Looks, TextsThatCodePutsIntoControlsFit) {
     }
 }
 
+// How many pixels of a square stay what they were, and how many take an icon's colours.
+std::pair<int, int> Drawn(HMODULE module, int id, int size, COLORREF ground) {
+    const HDC screen = GetDC(nullptr), memory = CreateCompatibleDC(screen);
+    const HBITMAP bitmap = CreateCompatibleBitmap(screen, size, size);
+    SelectObject(memory, bitmap);
+    const RECT whole{0, 0, size, size};
+    SetDCBrushColor(memory, ground);
+    FillRect(memory, &whole, static_cast<HBRUSH>(GetStockObject(DC_BRUSH)));
+    const auto icon = static_cast<HICON>(LoadImageW(module, MAKEINTRESOURCEW(id), IMAGE_ICON, size, size, 0));
+    DrawIconEx(memory, 0, 0, icon, size, size, 0, nullptr, DI_NORMAL);
+    int left = 0;
+    for (int pixel = 0; pixel < size * size; ++pixel) left += GetPixel(memory, pixel % size, pixel / size) == ground;
+    DestroyIcon(icon);
+    DeleteDC(memory);
+    DeleteObject(bitmap);
+    ReleaseDC(nullptr, screen);
+    return {left, size * size - left};
+}
+
+// A packed picture without 32 bits per pixel is drawn on black: all of the square takes its colours.
+TEST(Looks, IconsAreDrawnOnWhateverIsThere) {
+    const Module module(L"RecoveryUI.dll");
+    for (int id = IDI_POINTING_HAND; id <= IDI_RECOVERY_FILE; ++id) {
+        for (const int size : {16, 20, 24, 32}) {
+            for (const COLORREF ground : {RGB(255, 255, 255), RGB(0, 0, 0), RGB(0, 120, 215)}) {
+                const auto [left, taken] = Drawn(module.handle, id, size, ground);
+                EXPECT_GT(left, size) << id << " at " << size;
+                EXPECT_GT(taken, size) << id << " at " << size;
+            }
+        }
+    }
+}
+
 // ---- The checks find what is wrong
 
 Control Made(Kind kind, int id, RECT place, const wchar_t* text = L"", DWORD style = 0) {

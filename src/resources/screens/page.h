@@ -10,7 +10,7 @@
     FONT 8, "MS Shell Dlg", 400, 0, 1
 
 #define PAGE_FRAME(title)                                                          \
-    CONTROL "", IDC_PAGE_BITMAP, "Static", SS_BITMAP | SS_REALSIZECONTROL, 0, 0, 90, 230 \
+    CONTROL "", IDC_PAGE_BITMAP, "Static", SS_BITMAP | SS_REALSIZECONTROL | WS_GROUP, 0, 0, 90, 230 \
     LTEXT title, IDC_PAGE_TITLE, 100, 7, 273, 14
 
 // A page of the properties sheet; its caption is its tab.
