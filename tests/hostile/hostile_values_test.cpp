@@ -3,6 +3,9 @@
 
 #include <commctrl.h>
 
+#include <filesystem>
+
+#include "com/Object.h"
 #include "manager/ManagerTest.h"
 #include "model/CMRUComboBox.h"
 #include "objects/services/NamedMembers.h"
@@ -57,7 +60,21 @@ com::Variant OfArray(SAFEARRAY* array, VARTYPE type) {
     return made;
 }
 
-class HostileOptionsTest : public SettingsTest {};
+class HostileOptionsTest : public SettingsTest {
+protected:
+    // The tab, its frame and everything that they ask get their answers from the hostile object.
+    void OpenSettings(HostileOptions* hostile, const std::function<void(UserScreen&, HWND)>& script) {
+        rack_.Put(L"TestOptions", static_cast<ITestOptions*>(hostile));
+        const auto page = New<IPropertyPage>(L"Vantrel.RecoveryPP");
+        TestFrame frame(page.Get(), rack_.Get(), hostile, false);
+        User user([&](UserScreen& screen) {
+            const HWND window = screen.WaitForWindow(L"Test Settings");
+            script(screen, window);
+            screen.Press(window, IDCANCEL);
+        });
+        frame.ShowModal();
+    }
+};
 
 TEST_F(HostileOptionsTest, TheTabOpensOnOptionsOfEveryType) {
     static LONG number = 7;
@@ -83,13 +100,11 @@ TEST_F(HostileOptionsTest, TheTabOpensOnOptionsOfEveryType) {
                   {com::Variant(wide), 0},
                   {com::Variant(many), 2000}};
     const auto hostile = HostileOptions::Make();
-    rack_.Put(L"TestOptions", static_cast<ITestOptions*>(hostile.Get()));
-    options_ = com::Ptr<ITestOptions>(hostile.Get());
     for (const auto& [value, rows] : values) {
         SCOPED_TRACE(value.Type());
         hostile->value = value;
         hostile->registryPath = nul;
-        OpenSettings([&](UserScreen& screen, HWND frame) {
+        OpenSettings(hostile.Get(), [&](UserScreen& screen, HWND frame) {
             EXPECT_EQ(screen.Ask(screen.Control(frame, IDC_RECOVERY_LIST), LVM_GETITEMCOUNT), rows);
             EXPECT_TRUE(screen.IsEnabled(frame, IDC_RECOVERY_ADD));
             if (rows != 1) return;
@@ -100,7 +115,7 @@ TEST_F(HostileOptionsTest, TheTabOpensOnOptionsOfEveryType) {
     // A branch that is none.
     for (const com::Variant& item : {OfType(VT_NULL, 0), OfType(VT_DISPATCH, 0), com::Variant(L"x")}) {
         hostile->item = item;
-        OpenSettings([&](UserScreen& screen, HWND frame) {
+        OpenSettings(hostile.Get(), [&](UserScreen& screen, HWND frame) {
             EXPECT_EQ(screen.RowsOf(frame, IDC_RECOVERY_LIST), Rows{});
         });
     }
@@ -172,12 +187,12 @@ TEST_F(HostileFilesTest, AForeignOrHugeFileIsRefusedAndLeftAsItIs) {
     ASSERT_TRUE(CopyFileW(itself, program.c_str(), FALSE));
 
     const auto repository = Load({}, false);
-    EXPECT_EQ(repository->AddScenario(Scenario(L"d").Get(), Text(L"kept").Get(), 0), S_OK);
+    EXPECT_EQ(repository->AddScenario(Scenario(L"d").Get(), com::Bstr(L"kept").Get(), 0), S_OK);
     for (const std::wstring& path : {huge, program}) {
         for (const VARIANT_BOOL readOnly : {VARIANT_TRUE, VARIANT_FALSE})
-            EXPECT_EQ(repository->Load(Text(path).Get(), readOnly), STG_E_DOCFILECORRUPT);
+            EXPECT_EQ(repository->Load(com::Bstr(path).Get(), readOnly), STG_E_DOCFILECORRUPT);
         com::Ptr<IUnknown> kept;
-        EXPECT_EQ(repository->GetScenario(Text(L"kept").Get(), kept.GetAddressOf()), S_OK);
+        EXPECT_EQ(repository->GetScenario(com::Bstr(L"kept").Get(), kept.GetAddressOf()), S_OK);
         EXPECT_TRUE(kept);
     }
     EXPECT_EQ(std::filesystem::file_size(huge), 3ull << 30);
