@@ -21,8 +21,8 @@ public:
     HRESULT STDMETHODCALLTYPE OnConnection(IUnknown* manager, LONG) noexcept override {
         const auto alive = KeepAlive();
         return com::Guarded([&] {
-            Disconnect();
             if (!manager) return E_INVALIDARG;
+            Disconnect();
             com::Ptr<IObjectRack> rack;
             HRESULT hr = RackOf(manager, rack);
             if (FAILED(hr)) return hr;

@@ -14,8 +14,11 @@ HRESULT CountLibrary(const TypeLibrary& library) {
 
 HRESULT RegisterLibrary() {
     const TypeLibrary library;
-    const HRESULT hr = library.Register();
-    return SUCCEEDED(hr) ? CountLibrary(library) : hr;
+    const bool wasRegistered = static_cast<bool>(library.OpenPlatformKey());
+    HRESULT hr = library.Register();
+    if (SUCCEEDED(hr)) hr = CountLibrary(library);
+    if (FAILED(hr) && !wasRegistered) [[maybe_unused]] const HRESULT undone = library.Unregister();
+    return hr;
 }
 
 }  // namespace

@@ -14,8 +14,8 @@ struct KeyCloser {
 };
 using RegistryKey = ui::Owned<HKEY, KeyCloser>;
 
-// Opens a key for full access; empty when it cannot be opened. The view is that of this program's width, or
-// KEY_WOW64_32KEY, KEY_WOW64_64KEY.
+// Opens a key for full access; empty when it cannot be opened. The view is that of this program's width,
+// KEY_WOW64_32KEY or KEY_WOW64_64KEY.
 RegistryKey OpenKey(HKEY parent, const std::wstring& path, REGSAM view = 0);
 // Opens a key for full access, made if needed; empty when that fails.
 RegistryKey CreateKey(HKEY parent, const std::wstring& path);

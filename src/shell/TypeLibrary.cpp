@@ -41,8 +41,9 @@ HRESULT TypeLibrary::Unregister() const {
 
 // A 64-bit Windows has the interfaces twice, once for programs of each width.
 void TypeLibrary::RemoveInterfaces() const {
-    const RegistryKey views[] = {OpenKey(HKEY_CLASSES_ROOT, L"Interface", KEY_WOW64_64KEY),
-                                 OpenKey(HKEY_CLASSES_ROOT, L"Interface", KEY_WOW64_32KEY)};
+    constexpr REGSAM kOtherWidth = sizeof(void*) == 8 ? KEY_WOW64_32KEY : KEY_WOW64_64KEY;
+    const RegistryKey views[] = {OpenKey(HKEY_CLASSES_ROOT, L"Interface"),
+                                 OpenKey(HKEY_CLASSES_ROOT, L"Interface", kOtherWidth)};
     for (UINT index = 0; index < library_->GetTypeInfoCount(); ++index) {
         com::Ptr<ITypeInfo> info;
         TYPEATTR* attributes = nullptr;

@@ -89,6 +89,8 @@ TEST_F(AddInTest, ConnectsItsCommandAndItsSettingsPageAndTakesThemBack) {
     CoTaskMemFree(pages.pElems);
     EXPECT_EQ(specifier->GetPages(nullptr), E_POINTER);
 
+    EXPECT_EQ(addIn_->OnConnection(nullptr, 0), E_INVALIDARG);
+    EXPECT_TRUE(IsConnected()) << "no manager changes nothing";
     EXPECT_EQ(Connect(), S_OK) << "a second connection replaces the first";
     EXPECT_TRUE(IsConnected());
     com::Bstr name;

@@ -5,6 +5,7 @@
 
 #include "RecoveryUI.h"
 #include "harness/ComTest.h"
+#include "harness/ProcessWindows.h"
 #include "shell/Classes.h"
 #include "shell/ClassRegistration.h"
 #include "shell/RegistryScript.h"
@@ -120,16 +121,18 @@ TEST_F(RegistrationTest, MissingAndForeignCountsAreZero) {
 
 TEST_F(RegistrationTest, AFailureHalfWayTakesBackWhatWasDone) {
     // Nothing lasting can be made below a volatile key.
-    const std::wstring last = L"CLSID\\" + shell::GuidText(*shell::Classes().back().clsid);
-    HKEY volatileKey = nullptr;
-    RegCreateKeyW(HKEY_CLASSES_ROOT, L"CLSID", &volatileKey);
-    RegCloseKey(volatileKey);
-    ASSERT_EQ(RegCreateKeyExW(HKEY_CLASSES_ROOT, last.c_str(), 0, nullptr, REG_OPTION_VOLATILE, KEY_ALL_ACCESS,
-                              nullptr, &volatileKey, nullptr),
-              ERROR_SUCCESS);
-    RegCloseKey(volatileKey);
-    EXPECT_TRUE(FAILED(Register()));
-    EXPECT_EQ(Leftovers(), L"");
+    for (const std::wstring& key : {L"CLSID\\" + shell::GuidText(*shell::Classes().back().clsid),
+                                    L"TypeLib\\" + shell::GuidText(LIBID_RecoveryUILib)}) {
+        HKEY made = nullptr;
+        RegCreateKeyW(HKEY_CLASSES_ROOT, key.substr(0, key.find(L'\\')).c_str(), &made);
+        RegCloseKey(made);
+        ASSERT_EQ(RegCreateKeyExW(HKEY_CLASSES_ROOT, key.c_str(), 0, nullptr, REG_OPTION_VOLATILE, KEY_ALL_ACCESS,
+                                  nullptr, &made, nullptr),
+                  ERROR_SUCCESS);
+        RegCloseKey(made);
+        EXPECT_TRUE(FAILED(Register())) << Utf8(key);
+        EXPECT_EQ(Leftovers(), L"") << Utf8(key);
+    }
     EXPECT_EQ(Register(), S_OK) << "and the way is free again";
 }
 
