@@ -8,6 +8,7 @@ RequestExecutionLevel admin
 SetCompressor /SOLID lzma
 !include LogicLib.nsh
 !include x64.nsh
+!include MUI2.nsh
 
 !define TITLE "Recovery UI for Tovarin"
 !define UNINSTALL_KEY "Software\Microsoft\Windows\CurrentVersion\Uninstall\TovarinRecoveryUI"
@@ -22,10 +23,14 @@ VIAddVersionKey "FileVersion" "${VERSION}"
 VIAddVersionKey "FileDescription" "${TITLE}, installation"
 VIAddVersionKey "LegalCopyright" ""
 
-Page directory
-Page instfiles
-UninstPage uninstConfirm
-UninstPage instfiles
+BrandingText " "
+!define MUI_ICON "../host/app/art/tovarin_host.ico"
+!define MUI_UNICON "${MUI_ICON}"
+!insertmacro MUI_PAGE_DIRECTORY
+!insertmacro MUI_PAGE_INSTFILES
+!insertmacro MUI_UNPAGE_CONFIRM
+!insertmacro MUI_UNPAGE_INSTFILES
+!insertmacro MUI_LANGUAGE English
 
 !macro Fail CODE TEXT
   MessageBox MB_OK|MB_ICONSTOP "${TEXT}" /SD IDOK
