@@ -11,6 +11,7 @@
 #include "manager/ScenarioList.h"
 #include "model/RecentFiles.h"
 #include "model/TestOptions.h"
+#include "support/ScopedFlag.h"
 #include "ui/Anchors.h"
 #include "ui/Dialog.h"
 #include "ui/IconButton.h"
@@ -97,11 +98,7 @@ private:
 template <class Body>
 void ManagerDlg::Exclusively(Body&& body) {
     if (busy_) return;
-    struct Busy {
-        bool& flag;
-        explicit Busy(bool& on) noexcept : flag(on) { flag = true; }
-        ~Busy() { flag = false; }
-    } busy(busy_);
+    const support::ScopedFlag busy(busy_);
     body();
 }
 

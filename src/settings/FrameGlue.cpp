@@ -4,6 +4,7 @@
 
 #include <utility>
 
+#include "support/ScopedFlag.h"
 #include "ui/Messages.h"
 #include "ui/ModuleState.h"
 #include "ui/Window.h"
@@ -121,11 +122,7 @@ FrameEvent FrameGlue::EventOf(UINT message, WPARAM wParam, LPARAM lParam) noexce
 // not read again for those.
 FrameDecision FrameGlue::DecideOn(FrameEvent event, ITestOptions* settings) {
     if (isReading_ || !settings) return {.release = event == FrameEvent::FinalDestroy};
-    struct Reading {
-        bool& flag;
-        explicit Reading(bool& on) noexcept : flag(on) { flag = true; }
-        ~Reading() { flag = false; }
-    } reading(isReading_);
+    const support::ScopedFlag reading(isReading_);
     const Globals values(settings);
     (void)values.IsSet(Globals::kAlreadyInit);
     FrameFlags flags;

@@ -4,6 +4,7 @@
 #include "com/Create.h"
 #include "com/Guard.h"
 #include "shell/Rack.h"
+#include "support/ScopedFlag.h"
 #include "ui/Window.h"
 
 namespace recoveryui::wizard {
@@ -46,17 +47,6 @@ private:
     std::vector<Place> windows_;
 };
 
-class Raised {
-public:
-    explicit Raised(bool& flag) noexcept : flag_(flag) { flag_ = true; }
-    ~Raised() { flag_ = false; }
-    Raised(const Raised&) = delete;
-    Raised& operator=(const Raised&) = delete;
-
-private:
-    bool& flag_;
-};
-
 }  // namespace
 
 std::vector<com::Ptr<IDispatch>> PointedAt::Objects() const {
@@ -75,7 +65,7 @@ std::wstring PointedAt::Title() const {
 std::optional<PointedAt> PointingHand::Point(HWND page, IObjectRack* rack) {
     com::Ptr<IVtlFinger> finger;
     if (pointing_ || FAILED(com::Create(L"Vantrel.VtlFinger", finger))) return std::nullopt;
-    const Raised raised(pointing_);
+    const support::ScopedFlag pointing(pointing_);
     const Aside aside(GetParent(page));
 
     long x = 0, y = 0, cancelled = 0;
