@@ -2,7 +2,7 @@
 #include <algorithm>
 
 #include "Fuzz.h"
-#include "manager/NameSearch.h"
+#include "model/NameSearch.h"
 #include "process/ProcessNames.h"
 #include "support/Text.h"
 #include "wizard/FunctionName.h"
@@ -48,11 +48,12 @@ void Functions(const std::vector<std::wstring>& names, const std::wstring& text)
 }
 
 void Search(const std::vector<std::wstring>& names, const std::wstring& text, int start) {
+    const auto count = static_cast<int>(names.size());
+    const auto nameAt = [&](int row) -> std::wstring_view { return names[static_cast<std::size_t>(row)]; };
     for (const bool prefix : {true, false}) {
-        const int found = manager::FindName(names, text, start, {prefix, true});
-        const auto count = static_cast<int>(names.size());
+        const int found = model::FindName(count, nameAt, text, start, {prefix, true});
         Require(found >= -1 && found < count, "a found row exists");
-        const int forward = manager::FindName(names, text, start, {prefix, false});
+        const int forward = model::FindName(count, nameAt, text, start, {prefix, false});
         Require(forward == -1 || forward == found, "rows below come first");
         const bool exists = std::any_of(names.begin(), names.end(), [&](const std::wstring& name) {
             return EqualIgnoringCase(prefix ? name.substr(0, text.size()) : name, text);

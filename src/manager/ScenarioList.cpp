@@ -1,14 +1,11 @@
 #include "manager/ScenarioList.h"
 
-#include "manager/NameSearch.h"
-#include "resources/ids.h"
+#include "model/ScenarioRows.h"
 
 namespace recoveryui::manager {
 namespace {
 
 constexpr signed char kUnknown = -1;
-constexpr int kIcons[] = {IDI_TRIGGER_OBJECT_STATE, IDI_TRIGGER_POPUP, IDI_TRIGGER_ERROR, IDI_TRIGGER_CRASH,
-                          IDI_SCENARIO_UNREADABLE};
 
 }  // namespace
 
@@ -21,7 +18,9 @@ void ScenarioList::Attach(HWND window, ImageOf imageOf) {
     FitColumn();
 }
 
-void ScenarioList::MakeImages() const { view_.SetIcons(kIcons); }
+void ScenarioList::MakeImages() const {
+    view_.SetIcons(model::kScenarioIcons);
+}
 
 void ScenarioList::Fill(std::vector<std::wstring> names) {
     names_ = std::move(names);
@@ -47,7 +46,10 @@ int ScenarioList::Selected() const {
 bool ScenarioList::OnNotify(NMHDR& header, LRESULT& answer) {
     switch (header.code) {
         case LVN_GETDISPINFOW: Show(reinterpret_cast<NMLVDISPINFOW&>(header).item); return true;
-        case LVN_ODFINDITEMW: answer = Find(reinterpret_cast<const NMLVFINDITEMW&>(header)); return true;
+        case LVN_ODFINDITEMW:
+            answer = model::FindRow(reinterpret_cast<const NMLVFINDITEMW&>(header), Count(),
+                                    [this](int row) -> std::wstring_view { return names_[row]; });
+            return true;
         default: return false;
     }
 }
@@ -59,13 +61,6 @@ void ScenarioList::Show(LVITEMW& item) {
     if (!(item.mask & LVIF_IMAGE)) return;
     if (images_[row] == kUnknown) images_[row] = static_cast<signed char>(imageOf_(names_[row]));
     item.iImage = images_[row];
-}
-
-int ScenarioList::Find(const NMLVFINDITEMW& request) const {
-    const UINT flags = request.lvfi.flags;
-    if (!(flags & (LVFI_STRING | LVFI_PARTIAL)) || !request.lvfi.psz) return -1;
-    return FindName(names_, request.lvfi.psz, request.iStart,
-                    {.prefix = (flags & LVFI_PARTIAL) != 0, .wrap = (flags & LVFI_WRAP) != 0});
 }
 
 }  // namespace recoveryui::manager

@@ -35,7 +35,6 @@ public:
 
 private:
     void Show(LVITEMW& item);
-    int Find(const NMLVFINDITEMW& request) const;
 
     ui::ListView view_{nullptr};
     ImageOf imageOf_;

@@ -61,7 +61,7 @@ bool CMRUComboBox::LoadMRU(HKEY parent, const std::wstring& keyPath, const std::
     HKEY key = nullptr;
     if (keyPath.empty() || RegOpenKeyExW(parent, keyPath.c_str(), 0, KEY_ALL_ACCESS, &key) != ERROR_SUCCESS)
         return false;
-    key_ = ui::Owned<HKEY, RegistryKeyCloser>(key);
+    key_ = ui::RegistryKey(key);
     const auto value = ReadValue(key, valueName);
     if (!value) return false;
     SendMessageW(combo_, CB_RESETCONTENT, 0, 0);

@@ -5,13 +5,9 @@
 #include <string>
 
 #include "model/MruList.h"
-#include "ui/Handles.h"
+#include "ui/RegistryKey.h"
 
 namespace recoveryui::model {
-
-struct RegistryKeyCloser {
-    void operator()(HKEY key) const noexcept { RegCloseKey(key); }
-};
 
 // A drop-down combo box that remembers its entries in a value of the registry. The value is written when
 // the control is destroyed, whatever became of its dialog.
@@ -44,7 +40,7 @@ private:
     HWND combo_ = nullptr;
     std::wstring valueName_;
     int maximum_ = 0;
-    ui::Owned<HKEY, RegistryKeyCloser> key_;
+    ui::RegistryKey key_;
     bool bound_ = false;
 };
 

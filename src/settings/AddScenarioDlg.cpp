@@ -5,6 +5,7 @@
 
 #include "model/FileDialog.h"
 #include "model/FileLocator.h"
+#include "model/HostMode.h"
 #include "model/Repository.h"
 #include "model/TestOptions.h"
 #include "resources/ids.h"
@@ -21,13 +22,6 @@ namespace {
 
 // Posted, so that the combo has its new text and the focus has arrived where it goes.
 enum Later : UINT { kFileChosen = WM_APP + 1, kFileLeft };
-
-bool HostModeSaysYes(IObjectRack* rack) {
-    com::Ptr<IHostApplication> application;
-    VARIANT_BOOL yes = VARIANT_FALSE;
-    return SUCCEEDED(shell::FetchAnywhere(rack, L"HostApplication", application)) &&
-           SUCCEEDED(application->HostModeQuery(&yes)) && yes != VARIANT_FALSE;
-}
 
 bool ComesBefore(const std::wstring& left, const std::wstring& right) {
     return CompareStringW(LOCALE_USER_DEFAULT, NORM_IGNORECASE, left.c_str(), static_cast<int>(left.size()),
@@ -105,7 +99,7 @@ void AddScenarioDlg::Browse() {
     const std::wstring caption = ui::LoadText(IDS_FILE_OPEN_CAPTION);
     const auto path = model::AskForFile({.filter = ui::LoadText(IDS_FILE_FILTER),
                                          .caption = caption,
-                                         .showFileSystemButton = HostModeSaysYes(rack_.Get())});
+                                         .showFileSystemButton = model::HostModeSaysYes(rack_.Get())});
     if (!path) return;
     ShowAsRecent(*path);
     LoadFile();

@@ -2,9 +2,9 @@
 
 #include <algorithm>
 
+#include "model/ScenarioRows.h"
 #include "resources/ids.h"
 #include "settings/CheckImages.h"
-#include "support/Text.h"
 #include "ui/Dpi.h"
 #include "ui/Strings.h"
 
@@ -14,9 +14,6 @@ namespace {
 constexpr UINT_PTR kSubclassId = 1;
 constexpr int kPicturesWidth = 50;  // at 96 DPI: check box, icon and what stands between
 constexpr int kMeasuredNames = 200;
-// By trigger kind; the last one is kIconUnreadable.
-constexpr int kIcons[] = {IDI_TRIGGER_OBJECT_STATE, IDI_TRIGGER_POPUP, IDI_TRIGGER_ERROR, IDI_TRIGGER_CRASH,
-                          IDI_SCENARIO_UNREADABLE};
 enum Column { kNameColumn, kFileColumn };
 enum StateImage : UINT { kUnchecked = 1, kChecked = 2 };
 
@@ -46,7 +43,7 @@ void AssociationView::Attach(HWND window) {
 }
 
 void AssociationView::MakeImages() const {
-    view_.SetIcons(kIcons);
+    view_.SetIcons(model::kScenarioIcons);
     ImageList_Destroy(ListView_SetImageList(view_.Window(), CheckImages(view_.Window()), LVSIL_STATE));
 }
 
@@ -94,7 +91,10 @@ int AssociationView::IconOf(int row) const {
 bool AssociationView::OnNotify(NMHDR& header, LRESULT& answer) const {
     switch (header.code) {
         case LVN_GETDISPINFOW: Show(reinterpret_cast<NMLVDISPINFOW&>(header).item); return true;
-        case LVN_ODFINDITEMW: answer = Find(reinterpret_cast<const NMLVFINDITEMW&>(header)); return true;
+        case LVN_ODFINDITEMW:
+            answer = model::FindRow(reinterpret_cast<const NMLVFINDITEMW&>(header), list_.Size(),
+                                    [this](int row) -> std::wstring_view { return list_.Items()[row].name; });
+            return true;
         default: return false;
     }
 }
@@ -111,21 +111,6 @@ void AssociationView::Show(LVITEMW& item) const {
         item.stateMask = LVIS_STATEIMAGEMASK;
     }
     if (item.mask & LVIF_IMAGE) item.iImage = looks_.Of(shown, list_).icon;
-}
-
-int AssociationView::Find(const NMLVFINDITEMW& request) const {
-    const UINT flags = request.lvfi.flags;
-    if (!(flags & (LVFI_STRING | LVFI_PARTIAL)) || !request.lvfi.psz) return -1;
-    const std::wstring_view text = request.lvfi.psz;
-    const int count = list_.Size(), start = list_.Has(request.iStart) ? request.iStart : 0;
-    for (int step = 0; step < count; ++step) {
-        const int row = (start + step) % count;
-        if (row < start && !(flags & LVFI_WRAP)) break;
-        std::wstring_view name = list_.Items()[row].name;
-        if (flags & LVFI_PARTIAL) name = name.substr(0, text.size());
-        if (support::EqualIgnoringCase(name, text)) return row;
-    }
-    return -1;
 }
 
 int AssociationView::ClickedCheckBox(const NMITEMACTIVATE& click) const {

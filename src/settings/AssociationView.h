@@ -39,7 +39,6 @@ public:
 private:
     int LongestName() const;
     void Show(LVITEMW& item) const;
-    int Find(const NMLVFINDITEMW& request) const;
     static LRESULT CALLBACK KeyProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR id,
                                          DWORD_PTR) noexcept;
 

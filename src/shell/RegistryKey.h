@@ -1,18 +1,15 @@
-// The owner of one open registry key.
+// The keys of a registration.
 #pragma once
 
 #include <windows.h>
 
 #include <string>
 
-#include "ui/Handles.h"
+#include "ui/RegistryKey.h"
 
 namespace recoveryui::shell {
 
-struct KeyCloser {
-    void operator()(HKEY key) const noexcept { RegCloseKey(key); }
-};
-using RegistryKey = ui::Owned<HKEY, KeyCloser>;
+using ui::RegistryKey;
 
 // Opens a key for full access; empty when it cannot be opened. The view is that of this program's width,
 // KEY_WOW64_32KEY or KEY_WOW64_64KEY.

@@ -1,6 +1,7 @@
 #include "wizard/SummaryPP.h"
 
 #include "com/Guard.h"
+#include "model/HostMode.h"
 #include "resources/ids.h"
 #include "shell/Rack.h"
 #include "ui/Strings.h"
@@ -20,18 +21,11 @@ void SummaryPP::OnInit() {
     WizardPPBase::OnInit();
     const bool editing = State().scenario != nullptr;
     ui::Show(Item(IDC_SUMMARY_ADD_CURRENT), !editing);
-    ui::Show(Item(IDC_SUMMARY_ADD_DEFAULT), !editing && !HostAnswersYes());
+    ui::Show(Item(IDC_SUMMARY_ADD_DEFAULT), !editing && !model::HostModeSaysYes(State().rack.Get()));
 
     const HWND box = Item(IDC_SUMMARY_TEXT);
     SendMessageW(box, EM_SETTABSTOPS, 1, reinterpret_cast<LPARAM>(&kTabStop));
     ui::SetText(box, Summary());
-}
-
-bool SummaryPP::HostAnswersYes() const {
-    com::Ptr<IHostApplication> application;
-    VARIANT_BOOL yes = VARIANT_FALSE;
-    return SUCCEEDED(shell::Fetch(State().rack.Get(), L"HostApplication", application)) &&
-           SUCCEEDED(application->HostModeQuery(&yes)) && yes != VARIANT_FALSE;
 }
 
 std::wstring SummaryPP::Summary() const {

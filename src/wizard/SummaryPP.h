@@ -13,7 +13,6 @@ private:
     void OnInit() override;
     bool OnFinish() override;
 
-    bool HostAnswersYes() const;
     std::wstring Summary() const;
 };
 

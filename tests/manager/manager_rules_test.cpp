@@ -3,13 +3,13 @@
 
 #include "manager/AddedScenarios.h"
 #include "manager/CommandStates.h"
-#include "manager/NameSearch.h"
 #include "manager/OpenResult.h"
 #include "manager/SaveQuestion.h"
 #include "manager/SelectionRules.h"
 #include "manager/StorePlan.h"
 #include "manager/TestLists.h"
 #include "model/FailureCodes.h"
+#include "model/NameSearch.h"
 #include "resources/ids.h"
 
 #ifdef _WIN32
@@ -181,10 +181,11 @@ TEST(AddedScenarios, FollowTheScenarioUntilItsFileIsSavedAndLeft) {
 
 TEST(NameSearch, FindsWhatIsTypedFromARowOn) {
     const std::wstring names[] = {L"Popup", L"crash", L"Crashed", L"popup 2"};
+    const auto nameAt = [&](int row) { return std::wstring_view(names[row]); };
     const struct {
         const wchar_t* text;
         int start;
-        NameSearch how;
+        model::NameSearch how;
         int row;
     } cases[] = {
         {L"c", 0, {}, 1},
@@ -200,7 +201,7 @@ TEST(NameSearch, FindsWhatIsTypedFromARowOn) {
         {L"popup 22", 0, {}, -1},
     };
     for (const auto& c : cases)
-        EXPECT_EQ(FindName(names, c.text, c.start, c.how), c.row) << c.text << c.start;
+        EXPECT_EQ(model::FindName(4, nameAt, c.text, c.start, c.how), c.row) << c.text << c.start;
 }
 
 }  // namespace

@@ -109,7 +109,10 @@ TEST_F(RecoveryTabTest, ScenariosOfTwoFilesAreAddedOrderedSwitchedOffAndFoundAga
                                                        {IDC_RECOVERY_DOWN, L"Move down"},
                                                        {IDC_RECOVERY_PROPERTIES, L"Properties"}};
         for (const auto& [id, tip] : tips) EXPECT_EQ(screen.Tip(frame, id), tip);
-        for (const auto& row : {popup, error, crash}) screen.Choose(frame, kList, row);
+        for (const auto& row : {popup, crash, error}) screen.Choose(frame, kList, row);
+        EXPECT_FALSE(screen.IsEnabled(frame, kFrameApply));
+        screen.Press(frame, IDC_RECOVERY_UP);
+        EXPECT_TRUE(screen.IsEnabled(frame, kFrameApply)) << "another order is a change";
     });
     const std::wstring calls = Calls();
     const size_t first = calls.find(L"common.trs\", true)");
