@@ -112,11 +112,9 @@
 #define IDS_TIP_PASTE 349
 #define IDS_MENU_COPY 350
 #define IDS_MENU_PASTE 351
-#define IDS_MENU_BROWSE 352
 #define IDS_MENU_SAVE 353
 #define IDS_MENU_SAVE_AS 354
 #define IDS_MENU_OPEN 355
-#define IDS_MENU_CLOSE 356
 
 // ---- Strings: test settings -----------------------------------------------------------------------
 #define IDS_ACTIVATE_EVERY_STEP 380
