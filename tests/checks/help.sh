@@ -49,6 +49,20 @@ links() {
   done
 }
 
+# Each is there, in the size that its page says, and shown.
+pictures() {
+  local page source width height
+  while IFS='|' read -r page source width height; do
+    [ -f "help/$source" ] || { echo "$page shows $source, which is not there"; continue; }
+    [ "$(od -An -tu4 --endian=big -j16 -N8 "help/$source" | tr -s ' ')" = " $width $height" ] ||
+      echo "$page shows $source in another size than its own"
+  done < <(grep -oE '<img src="[^"]+" alt="[^"]+" width="[0-9]+" height="[0-9]+"' help/*.htm |
+    sed -E 's/^([^:]+):<img src="([^"]+)".* width="([0-9]+)" height="([0-9]+)"$/\1|\2|\3|\4/')
+  for source in help/images/*.png; do
+    grep -qF "src=\"${source#help/}\"" help/*.htm || echo "no page shows $source"
+  done
+}
+
 topics() {
   local topic headings
   while read -r topic; do
@@ -121,7 +135,7 @@ words() {
     sed 's/^/no window says: /' || true
 }
 
-found=$(pages; links; topics; windows; words)
+found=$(pages; links; pictures; topics; windows; words)
 [ -z "$found" ] || printf '%s\n' "$found"
 count=$(ls help/*.htm | wc -l)
 echo "$count pages, $(printf '%s' "$found" | grep -c '' || true) complaints"

@@ -1,6 +1,6 @@
 # Complaints about one page: tags that do not nest, bare characters, ids that stand twice, and what a page that
 # opens from a folder in any viewer must not have. Names elements as the page writes them, in lower case.
-BEGIN { split("meta link br", names); for (i in names) empty[names[i]] = 1 }
+BEGIN { split("meta link br img", names); for (i in names) empty[names[i]] = 1 }
 { text = text $0 "\n" }
 END {
   while (match(text, /<[^>]*>/)) {
@@ -17,7 +17,9 @@ function open_tag(tag, name) {
   if (tag !~ /^[a-z][a-z0-9]*( [a-z-]+="[^"<>]*")*$/) complain("<" tag "> is no tag")
   name = tag
   sub(/ .*/, "", name)
-  if (name ~ /^(script|img|iframe|object|style|form)$/ || tag ~ / (on[a-z]+|style|src)=/)
+  if (name == "img" && tag !~ / src="images\/[a-z-]+\.png" alt="[^"]+" width="[0-9]+" height="[0-9]+"$/)
+    complain("<" tag "> is no picture of the help")
+  if (name ~ /^(script|iframe|object|style|form)$/ || tag ~ / (on[a-z]+|style)=/ || (name != "img" && tag ~ / src=/))
     complain("<" tag "> does not belong here")
   if (match(tag, / id="[^"]*"/) && ids[substr(tag, RSTART, RLENGTH)]++) complain("<" tag "> has an id that stands twice")
   if (!(name in empty)) open[++depth] = name

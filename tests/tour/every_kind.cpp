@@ -47,10 +47,10 @@ protected:
         screen.Next(wizard);
         return wizard;
     }
-    static void PictureProperties(UserScreen& screen, HWND manager, const std::wstring& picture) {
+    static void PictureProperties(UserScreen& screen, HWND manager, const std::wstring& picture, int page = 1) {
         screen.Press(manager, IDC_MANAGER_PROPERTIES);
         const HWND sheet = screen.WaitForWindow(L"Recovery Scenario Properties");
-        screen.Do([sheet] { PostMessageW(sheet, PSM_SETCURSEL, 1, 0); });
+        screen.Do([=] { PostMessageW(sheet, PSM_SETCURSEL, static_cast<WPARAM>(page), 0); });
         screen.Picture(sheet, picture);
         screen.Press(sheet, IDCANCEL);
         screen.WaitUntilClosed(sheet);
@@ -87,6 +87,10 @@ TEST_F(EveryKind, IsMadeStoredAndReadBack) {
         screen.Picture(wizard, L"43-object-hierarchy");
         screen.Next(wizard);
         screen.Picture(wizard, L"44-object-properties");
+        screen.Press(wizard, IDC_OBJECT_PROPS_ADD_REMOVE);
+        const HWND edited = screen.WaitForWindow(L"Edit Properties");
+        screen.Picture(edited, L"49-edit-properties");
+        screen.Press(edited, IDCANCEL);
         screen.Next(wizard);
         AddOperation(screen, wizard, IDC_SELECT_OPERATION_PROCESS);
         screen.Press(wizard, IDC_PROCESSES_NEW);
@@ -151,6 +155,8 @@ TEST_F(EveryKind, IsMadeStoredAndReadBack) {
         EXPECT_EQ(screen.RowsOf(wizard, IDC_OPERATION_LIST_ROWS), Rows{functionRow});
         screen.Cancel(wizard);
         PictureProperties(screen, manager, L"53-properties-error");
+        PictureProperties(screen, manager, L"55-properties-operations", 2);
+        PictureProperties(screen, manager, L"56-properties-post-recovery", 3);
         wizard = Edit(screen, manager, L"4 Crash");
         EXPECT_EQ(screen.RowsOf(wizard, IDC_PROCESSES_CHOSEN), Rows{L"target.exe"});
         screen.Cancel(wizard);
