@@ -14,7 +14,7 @@ mkdir -p "$component" "$host"
 page() {
     rsvg-convert -w "$3" -h "$4" "pages/page$1.svg" -o "$work/page.png"
     convert "$work/page.png" -alpha off "PNG24:$work/opaque.png"
-    pngquant --nofs --speed 1 --strip --force -o "$work/page.png" 64 "$work/opaque.png"
+    pngquant --nofs --speed 1 --strip --force -o "$work/page.png" 48 "$work/opaque.png"
     zopflipng -y "$work/page.png" "$component/page$1$2.png" >/dev/null
 }
 

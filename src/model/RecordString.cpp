@@ -1,5 +1,6 @@
 #include "model/RecordString.h"
 
+#include <algorithm>
 #include <limits>
 
 namespace recoveryui::model {
@@ -7,6 +8,7 @@ namespace {
 
 constexpr wchar_t kBetweenFields = L';';
 constexpr wchar_t kAfterRecord = L'*';
+constexpr std::size_t kShortestRecord = 8;
 constexpr std::size_t kLongestRest = 13;  // ";" three times, enabled, eight digits, "*"
 
 // strtok's rule with a separator of its own for each token: only a leading run of the current
@@ -61,10 +63,16 @@ std::uint32_t NumericPrefix(std::wstring_view text, unsigned base) {
     return negative ? 0u - number : number;
 }
 
-void AppendHex(std::wstring& text, std::uint32_t value) {
+// What follows the name.
+void AppendRest(std::wstring& text, bool enabled, std::uint32_t mode) {
+    wchar_t rest[kLongestRest];
+    wchar_t* end = rest;
+    for (const wchar_t character : {kBetweenFields, enabled ? L'1' : L'0', kBetweenFields}) *end++ = character;
     int shift = 28;
-    while (shift > 0 && (value >> shift) == 0) shift -= 4;
-    for (; shift >= 0; shift -= 4) text += L"0123456789abcdef"[(value >> shift) & 0xF];
+    while (shift > 0 && (mode >> shift) == 0) shift -= 4;
+    for (; shift >= 0; shift -= 4) *end++ = L"0123456789abcdef"[(mode >> shift) & 0xF];
+    *end++ = kAfterRecord;
+    text.append(rest, end);
 }
 
 // Remembers the last path: the records of a test come in runs of one file.
@@ -93,6 +101,8 @@ private:
 
 std::vector<ScenarioAssociation> ReadRecords(std::wstring_view text, const PathConversion& toFull) {
     std::vector<ScenarioAssociation> records;
+    const auto ends = static_cast<std::size_t>(std::count(text.begin(), text.end(), kAfterRecord));
+    records.reserve(std::min(ends, text.size() / kShortestRecord) + 1);
     Tokens tokens(text);
     Converter fullPath(toFull);
     while (const auto file = tokens.Next(kBetweenFields)) {
@@ -118,11 +128,7 @@ std::wstring WriteRecords(std::span<const ScenarioAssociation> records, std::opt
         text += storedPath(record.file);
         text += kBetweenFields;
         text += record.name;
-        text += kBetweenFields;
-        text += record.enabled ? L'1' : L'0';
-        text += kBetweenFields;
-        AppendHex(text, static_cast<std::uint32_t>(mode.value_or(record.ActivationMode)));
-        text += kAfterRecord;
+        AppendRest(text, record.enabled, static_cast<std::uint32_t>(mode.value_or(record.ActivationMode)));
     }
     return text;
 }

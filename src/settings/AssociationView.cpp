@@ -13,7 +13,7 @@ namespace {
 
 constexpr UINT_PTR kSubclassId = 1;
 constexpr int kPicturesWidth = 50;  // at 96 DPI: check box, icon and what stands between
-constexpr int kMeasuredNames = 200;
+constexpr int kMeasuredNames = 30;
 enum Column { kNameColumn, kFileColumn };
 enum StateImage : UINT { kUnchecked = 1, kChecked = 2 };
 

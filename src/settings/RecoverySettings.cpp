@@ -33,17 +33,22 @@ void RecoverySettings::Load(IObjectRack* rack) {
     current_ = options_ ? options_->ReadText(options::kScenarios) : std::nullopt;
     defaults_ = options_ ? options_->ReadText(options::kDefaultScenarios) : std::nullopt;
     const auto enabled = options_ ? options_->ReadInteger(options::kEnabled) : std::nullopt;
+    changed_ = false;
     list = AssociationList(model::ReadRecords(current_.value_or(std::wstring()), toFull_));
     activation = model::ActivationOnReading(enabled, list.Items());
 }
 
 bool RecoverySettings::CanSetAsDefault() const {
-    return options_ && model::CanSetAsDefault(current_, defaults_);
+    if (!options_) return false;
+    // That anything differs from nothing is known without writing all of it.
+    if (changed_ && !defaults_) return true;
+    return model::CanSetAsDefault(changed_ ? Records() : current_, defaults_);
 }
 
 bool RecoverySettings::SetAsDefault() {
     if (!Write(options::kDefaultScenarios, Store::Defaults)) return false;
     current_ = defaults_ = Records();
+    changed_ = false;
     return true;
 }
 

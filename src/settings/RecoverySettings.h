@@ -23,7 +23,7 @@ public:
     int currentRow = kNoRow;
 
     // After a change of the list or the activation.
-    void Changed() { current_ = Records(); }
+    void Changed() noexcept { changed_ = true; }
     bool CanSetAsDefault() const;
 
     // For the current test, and for new tests. False when a value was refused.
@@ -40,9 +40,11 @@ private:
     std::optional<model::TestOptions> options_;
     model::PathConversion toFull_;
     model::PathConversion toStored_;
-    // The record strings of the test and of the defaults, absent where nothing is stored.
+    // The record strings of the test and of the defaults, absent where nothing is stored. The first one is as
+    // it was read while nothing has changed.
     std::optional<std::wstring> current_;
     std::optional<std::wstring> defaults_;
+    bool changed_ = false;
 };
 
 }  // namespace recoveryui::settings

@@ -97,9 +97,15 @@ void ListView::Select(int row) const {
     ListView_EnsureVisible(window_, row, FALSE);
 }
 
+// Told to clear all rows, a virtual list walks through them; mostly there is one to be told about.
 void ListView::ClearSelection() const {
-    LVITEMW item = StateItem(0);
-    SendMessageW(window_, LVM_SETITEMSTATE, static_cast<WPARAM>(-1), reinterpret_cast<LPARAM>(&item));
+    const bool several = ListView_GetSelectedCount(window_) > 1;
+    for (const UINT state : {LVNI_SELECTED, LVNI_FOCUSED}) {
+        const int row = several ? -1 : ListView_GetNextItem(window_, -1, state);
+        if (row < 0 && !several) continue;
+        LVITEMW item = StateItem(0);
+        SendMessageW(window_, LVM_SETITEMSTATE, static_cast<WPARAM>(row), reinterpret_cast<LPARAM>(&item));
+    }
 }
 
 int ListView::Find(const std::wstring& text, int after) const {

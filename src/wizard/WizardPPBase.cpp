@@ -74,8 +74,8 @@ void WizardPPBase::ShowFrame() {
     const HWND frame = Item(IDC_PAGE_BITMAP);
     RECT area{};
     GetClientRect(frame, &area);
-    picture_ = ui::LoadPicture(page_.bitmapId, {area.right, area.bottom});
-    SendMessageW(frame, STM_SETIMAGE, IMAGE_BITMAP, reinterpret_cast<LPARAM>(picture_.Get()));
+    const HBITMAP picture = sheet_.Picture(page_.bitmapId, {area.right, area.bottom});
+    SendMessageW(frame, STM_SETIMAGE, IMAGE_BITMAP, reinterpret_cast<LPARAM>(picture));
 }
 
 void WizardPPBase::ShowIcon(ButtonIcon& button) {

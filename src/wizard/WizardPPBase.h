@@ -74,7 +74,6 @@ private:
     const Page& page_;
     bool canAdvance_;
     ui::Font titleFont_;
-    ui::Bitmap picture_;
     std::vector<ButtonIcon> icons_;
 };
 

@@ -53,6 +53,12 @@ WizardPS::WizardPS() : PropertySheet(Kind::Wizard, ui::LoadText(IDS_WIZARD_TITLE
     AddPage(std::make_unique<SummaryPP>(*this));
 }
 
+HBITMAP WizardPS::Picture(int id, SIZE size) {
+    ui::Bitmap& picture = pictures_[{id, size.cy}];
+    if (!picture) picture = ui::LoadPicture(id, size);
+    return picture.Get();
+}
+
 bool WizardPS::Run(HWND owner) {
     const bool finished = ShowModal(owner);
     if (!finished) state_.originalIdentification.Restore();

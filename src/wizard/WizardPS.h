@@ -1,6 +1,10 @@
 // The wizard's sheet: fifteen pages around one state.
 #pragma once
 
+#include <map>
+#include <utility>
+
+#include "ui/Picture.h"
 #include "ui/PropertySheet.h"
 #include "wizard/WizardState.h"
 
@@ -11,6 +15,8 @@ public:
     WizardPS();
 
     WizardState& State() noexcept { return state_; }
+    // The picture of that number, made once for all pages that show it in that size.
+    HBITMAP Picture(int id, SIZE size);
     // Takes trigger, operations, option, name and description over from an existing scenario. The restart
     // flag is not derived from the option. E_FAIL when the scenario cannot be edited.
     [[nodiscard]] HRESULT Load(IRecoveryScenario* scenario, std::wstring name);
@@ -19,6 +25,7 @@ public:
 
 private:
     WizardState state_;
+    std::map<std::pair<int, LONG>, ui::Bitmap> pictures_;  // by number and height
 };
 
 }  // namespace recoveryui::wizard

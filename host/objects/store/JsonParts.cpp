@@ -5,7 +5,8 @@
 
 namespace tovarin::store {
 namespace {
-constexpr std::size_t kMostKeys = 16;  // of one object; the format's largest has five
+constexpr std::size_t kMostKeys = 16;   // of one object
+constexpr std::size_t kMostFields = 5;  // of the format's largest one
 }  // namespace
 
 bool JsonParts::key(string_t& name) {
@@ -51,6 +52,7 @@ bool JsonParts::Open(Json container) {
     if (depth >= kMostDepth || (depth <= 2 && isArray != (depth == 1))) return false;
     if (depth == 1 && levels_.back().key == kVersionKey) return false;
     if (depth == 2 && ++scenarios_ > kMostScenarios) return false;
+    if (!isArray) container.get_ref<Json::object_t&>().reserve(kMostFields);
     levels_.push_back({std::move(container), {}});
     return true;
 }

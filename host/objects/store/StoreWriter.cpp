@@ -2,6 +2,7 @@
 #include <cmath>
 
 #include "objects/store/Json.h"
+#include "objects/store/JsonLines.h"
 #include "objects/store/StoreFormat.h"
 #include "objects/store/StoreText.h"
 #include "objects/store/StoreWords.h"
@@ -9,112 +10,111 @@
 namespace tovarin::store {
 namespace {
 
-Json ToJson(const Value& value) {
-    const ValueWord* word = FindValueWord(value.type);
-    Json json = {{"type", word->word}};
-    switch (word->family) {
-        case ValueFamily::Nothing: break;
-        case ValueFamily::Whole: json["value"] = value.integer; break;
-        case ValueFamily::Unsigned: json["value"] = static_cast<std::uint64_t>(value.integer); break;
-        case ValueFamily::Text: json["value"] = ToUtf8(value.text); break;
-        case ValueFamily::Truth: json["value"] = value.integer != 0; break;
-        case ValueFamily::Real:
-            // JSON has no word for these
-            if (std::isnan(value.real)) {
-                json["value"] = "nan";
-            } else if (std::isinf(value.real)) {
-                json["value"] = value.real < 0 ? "-infinite" : "infinite";
-            } else {
-                json["value"] = value.real;
-            }
+// The parts of a scenario, each as its own kind of JSON.
+class Parts {
+public:
+    Parts(std::string& text, int level) : to_(text, level) {}
+
+    void Put(std::wstring_view name, const Scenario& scenario) {
+        Object("name", name, "description", scenario.description, "postRecoveryOption",
+               scenario.postRecoveryOption, "trigger", scenario.trigger, "operations", scenario.operations);
     }
-    return json;
-}
 
-Json ToJson(const std::wstring& text) {
-    return ToUtf8(text);
-}
-Json ToJson(std::uint32_t number) {
-    return number;
-}
+private:
+    void Put(std::int32_t number) { to_.Number(number); }
+    void Put(std::uint32_t number) { to_.Number(number); }
+    void Put(std::int64_t number) { to_.Number(number); }
+    void Put(std::uint64_t number) { to_.Number(number); }
+    void Put(std::wstring_view text) { to_.Text(ToUtf8(text)); }
+    void Put(const std::wstring& text) { Put(std::wstring_view(text)); }
+    void Put(const char* word) { to_.Text(word); }
+    void Put(std::string_view word) { to_.Text(word); }
+    void Put(std::monostate) { to_.Word("null"); }
+    void PutReal(double number) {
+        // JSON has no word for these
+        if (std::isnan(number)) return Put("nan");
+        if (std::isinf(number)) return Put(number < 0 ? "-infinite" : "infinite");
+        to_.Word(Json(number).dump());
+    }
 
-Json ToJson(const Property& property) {
-    return {{"name", ToUtf8(property.name)},
-            {"value", ToJson(property.value)},
-            {"regularExpression", property.isRegularExpression},
-            {"checked", property.isChecked}};
-}
+    void Put(const Value& value) {
+        const ValueWord* word = FindValueWord(value.type);
+        to_.Enclose("{}", [&] {
+            Fields("type", word->word);
+            if (word->family == ValueFamily::Nothing) return;
+            to_.Key("value");
+            switch (word->family) {
+                case ValueFamily::Nothing: break;
+                case ValueFamily::Whole: Put(value.integer); break;
+                case ValueFamily::Unsigned: Put(static_cast<std::uint64_t>(value.integer)); break;
+                case ValueFamily::Text: Put(value.text); break;
+                case ValueFamily::Truth: to_.Word(value.integer != 0 ? "true" : "false"); break;
+                case ValueFamily::Real: PutReal(value.real); break;
+            }
+        });
+    }
+    void Put(const Property& property) {
+        Object("name", property.name, "value", property.value, "regularExpression", property.isRegularExpression,
+               "checked", property.isChecked);
+    }
+    void Put(const TestObject& object) {
+        Object("displayName", object.displayName, "properties", object.properties);
+    }
+    void Put(const Condition& condition) {
+        Object("text", condition.text, "regularExpression", condition.isRegularExpression);
+    }
 
-Json ToJson(const TestObject& object);
-template <class... Kinds>
-Json ToJson(const std::variant<Kinds...>& part);
+    void Put(const PopUpTrigger& trigger) {
+        Object("kind", "popUp", "windowTitle", trigger.windowTitle, "windowText", trigger.windowText, "option",
+               trigger.option);
+    }
+    void Put(const ErrorTrigger& trigger) { Object("kind", "error", "code", trigger.code); }
+    void Put(const CrashTrigger& trigger) {
+        Object("kind", "crash", "option", trigger.option, "processes", trigger.processes);
+    }
+    void Put(const ObjectStateTrigger& trigger) {
+        Object("kind", "objectState", "option", trigger.option, "objects", trigger.objects);
+    }
 
-template <class Item>
-Json ListToJson(const std::vector<Item>& items) {
-    Json list = Json::array();
-    for (const Item& item : items) list.push_back(ToJson(item));
-    return list;
-}
+    void Put(const PressKeys& operation) { Object("kind", "pressKeys", "keys", operation.keys); }
+    void Put(const AccessObject& operation) {
+        Object("kind", "accessObject", "targetKind", operation.targetKind, "method", operation.method, "arguments",
+               operation.arguments);
+    }
+    void Put(const CloseProcesses& operation) { Object("kind", "closeProcesses", "processes", operation.processes); }
+    void Put(const CallFunction& operation) {
+        Object("kind", "callFunction", "function", operation.function, "library", operation.library,
+               "prototypeMode", operation.prototypeMode);
+    }
 
-Json ToJson(const TestObject& object) {
-    return {{"displayName", ToUtf8(object.displayName)}, {"properties", ListToJson(object.properties)}};
-}
+    template <class... Kinds>
+    void Put(const std::variant<Kinds...>& part) {
+        std::visit([this](const auto& kind) { Put(kind); }, part);
+    }
+    template <class Item>
+    void Put(const std::vector<Item>& items) {
+        to_.Enclose("[]", [&] {
+            for (const Item& item : items) {
+                to_.Next();
+                Put(item);
+            }
+        });
+    }
 
-Json ToJson(const Condition& condition) {
-    return {{"text", ToUtf8(condition.text)}, {"regularExpression", condition.isRegularExpression}};
-}
+    // Keys and values in turn.
+    template <class... Rest>
+    void Object(const Rest&... fields) {
+        to_.Enclose("{}", [&] { Fields(fields...); });
+    }
+    template <class Field, class... Rest>
+    void Fields(const char* key, const Field& field, const Rest&... rest) {
+        to_.Key(key);
+        Put(field);
+        if constexpr (sizeof...(Rest) > 0) Fields(rest...);
+    }
 
-Json ToJson(std::monostate) {
-    return nullptr;
-}
-
-Json ToJson(const PopUpTrigger& trigger) {
-    return {{"kind", "popUp"},
-            {"windowTitle", ToJson(trigger.windowTitle)},
-            {"windowText", ToJson(trigger.windowText)},
-            {"option", trigger.option}};
-}
-Json ToJson(const ErrorTrigger& trigger) {
-    return {{"kind", "error"}, {"code", trigger.code}};
-}
-Json ToJson(const CrashTrigger& trigger) {
-    return {{"kind", "crash"}, {"option", trigger.option}, {"processes", ListToJson(trigger.processes)}};
-}
-Json ToJson(const ObjectStateTrigger& trigger) {
-    return {{"kind", "objectState"}, {"option", trigger.option}, {"objects", ListToJson(trigger.objects)}};
-}
-
-Json ToJson(const PressKeys& operation) {
-    return {{"kind", "pressKeys"}, {"keys", ListToJson(operation.keys)}};
-}
-Json ToJson(const AccessObject& operation) {
-    return {{"kind", "accessObject"},
-            {"targetKind", operation.targetKind},
-            {"method", ToUtf8(operation.method)},
-            {"arguments", ListToJson(operation.arguments)}};
-}
-Json ToJson(const CloseProcesses& operation) {
-    return {{"kind", "closeProcesses"}, {"processes", ListToJson(operation.processes)}};
-}
-Json ToJson(const CallFunction& operation) {
-    return {{"kind", "callFunction"},
-            {"function", ToUtf8(operation.function)},
-            {"library", ToUtf8(operation.library)},
-            {"prototypeMode", operation.prototypeMode}};
-}
-
-template <class... Kinds>
-Json ToJson(const std::variant<Kinds...>& part) {
-    return std::visit([](const auto& kind) { return ToJson(kind); }, part);
-}
-
-Json ToJson(std::wstring_view name, const Scenario& scenario) {
-    return {{"name", ToUtf8(name)},
-            {"description", ToUtf8(scenario.description)},
-            {"postRecoveryOption", scenario.postRecoveryOption},
-            {"trigger", ToJson(scenario.trigger)},
-            {"operations", ListToJson(scenario.operations)}};
-}
+    JsonLines to_;
+};
 
 // Walks everything that has a limit.
 struct LimitCheck {
@@ -168,16 +168,9 @@ StoreWriter::StoreWriter() {
 }
 
 void StoreWriter::Add(std::wstring_view name, const Scenario& scenario) {
-    // A line feed inside a text is escaped, so every real one ends a line that moves in by two levels.
     text_ += empty_ ? "\n    " : ",\n    ";
     empty_ = false;
-    const std::string lines = ToJson(name, scenario).dump(2);
-    for (size_t at = 0; at < lines.size();) {
-        const size_t end = std::min(lines.find('\n', at), lines.size() - 1) + 1;
-        text_.append(lines, at, end - at);
-        if (lines[end - 1] == '\n') text_ += "    ";
-        at = end;
-    }
+    Parts(text_, 2).Put(name, scenario);
 }
 
 std::string StoreWriter::Finish() {
