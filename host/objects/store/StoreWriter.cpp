@@ -89,7 +89,7 @@ private:
 
     template <class... Kinds>
     void Put(const std::variant<Kinds...>& part) {
-        std::visit([this](const auto& kind) { Put(kind); }, part);
+        std::visit([this](const auto& kind) { this->Put(kind); }, part);
     }
     template <class Item>
     void Put(const std::vector<Item>& items) {
