@@ -55,7 +55,7 @@ std::wstring AskForFile(const FileQuestion& question) {
     com::Check(dialog->GetResult(item.GetAddressOf()));
     LPWSTR path = nullptr;
     com::Check(item->GetDisplayName(SIGDN_FILESYSPATH, &path));
-    const std::wstring chosen = path;
+    std::wstring chosen = path;
     CoTaskMemFree(path);
     return chosen;
 }

@@ -118,7 +118,7 @@ private:
     static void Note(Body&& body) noexcept {
         static_cast<void>(com::Guarded([&] { body(); }));
     }
-    static void Append(std::wstring& list, std::wstring text) {
+    static void Append(std::wstring& list, const std::wstring& text) {
         if (!list.empty()) list += L", ";
         list += text;
     }

@@ -1,5 +1,7 @@
 #include "com/Automation.h"
 
+#include <algorithm>
+#include <iterator>
 #include <vector>
 
 #include "com/Guard.h"
@@ -11,7 +13,7 @@ HRESULT InvokeByName(IDispatch* object, const wchar_t* name, WORD flags, DISPPAR
                      VARIANT* result) noexcept {
     if (!object) return E_POINTER;
     DISPID id = DISPID_UNKNOWN;
-    LPOLESTR member = const_cast<LPOLESTR>(name);
+    auto* member = const_cast<LPOLESTR>(name);
     const HRESULT hr = object->GetIDsOfNames(IID_NULL, &member, 1, LOCALE_USER_DEFAULT, &id);
     if (FAILED(hr)) return hr;
     EXCEPINFO exception{};
@@ -41,8 +43,8 @@ HRESULT CallMethod(IDispatch* object, const wchar_t* name, std::span<const Varia
     return Guarded([&] {
         std::vector<VARIANT> reversed;
         reversed.reserve(arguments.size());
-        for (auto argument = arguments.rbegin(); argument != arguments.rend(); ++argument)
-            reversed.push_back(argument->Get());
+        std::transform(arguments.rbegin(), arguments.rend(), std::back_inserter(reversed),
+                       [](const Variant& argument) { return argument.Get(); });
         DISPPARAMS parameters{reversed.data(), nullptr, static_cast<UINT>(reversed.size()), 0};
         return InvokeByName(object, name, DISPATCH_METHOD, &parameters, result ? result->Put() : nullptr);
     });

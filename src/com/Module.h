@@ -28,7 +28,7 @@ class LiveObject {
 public:
     LiveObject() noexcept { Module::AddObject(); }
     LiveObject(const LiveObject&) noexcept : LiveObject() {}
-    LiveObject& operator=(const LiveObject&) noexcept { return *this; }
+    LiveObject& operator=(const LiveObject&) noexcept = default;
     ~LiveObject() { Module::RemoveObject(); }
 };
 

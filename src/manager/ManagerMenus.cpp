@@ -51,7 +51,7 @@ void AppendSeparator(const ui::Menu& menu) {
 std::wstring EntryOf(std::wstring path) {
     constexpr size_t kLongest = 100, kBeginning = 30;
     if (path.size() > kLongest)
-        path = path.substr(0, kBeginning) + L"..." + path.substr(path.size() - (kLongest - kBeginning));
+        path.replace(kBeginning, path.size() - kLongest, L"...");
     return support::ReplaceAll(path, L"&", L"&&");
 }
 

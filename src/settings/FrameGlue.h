@@ -23,6 +23,7 @@ public:
     static void Install(HWND frame);
 
 private:
+    // cppcheck-suppress uninitMemberVarPrivate ; it takes a function for a member
     explicit FrameGlue(HWND frame) noexcept : frame_(frame) {}
 
     static LRESULT CALLBACK Procedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR id,

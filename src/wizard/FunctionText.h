@@ -13,7 +13,7 @@ inline constexpr const wchar_t* kDefaultFunctionName = L"RecoveryFunction1";
 // How a function is called for a kind of trigger: its first line, and the number that tells the operation.
 struct Prototype {
     std::wstring head;
-    std::int32_t mode;
+    std::int32_t mode = 0;
 };
 
 // The prototype for a trigger's kind; nothing for a kind without meaning.

@@ -162,10 +162,9 @@ struct LimitCheck {
 
 }  // namespace
 
-StoreWriter::StoreWriter() {
-    text_ = "{\n  \"" + std::string(kVersionKey) + "\": " + std::to_string(kFormatVersion) + ",\n  \"" +
-            std::string(kScenariosKey) + "\": [";
-}
+StoreWriter::StoreWriter()
+    : text_("{\n  \"" + std::string(kVersionKey) + "\": " + std::to_string(kFormatVersion) + ",\n  \"" +
+            std::string(kScenariosKey) + "\": [") {}
 
 void StoreWriter::Add(std::wstring_view name, const Scenario& scenario) {
     text_ += empty_ ? "\n    " : ",\n    ";
