@@ -20,7 +20,7 @@ bool PropertyPage::OnNotify(NMHDR& header, LRESULT& answer) {
     switch (header.code) {
         case PSN_SETACTIVE:
             answer = OnSetActive();
-            KeepFocusLater();
+            PostMessageW(Window(), kKeepFocus, kShown, 0);
             return true;
         case PSN_WIZNEXT:
         case PSN_WIZBACK:
@@ -41,15 +41,18 @@ bool PropertyPage::OnNotify(NMHDR& header, LRESULT& answer) {
 
 bool PropertyPage::OnMessage(UINT message, WPARAM wParam, LPARAM lParam, LRESULT& answer) {
     if (message != kKeepFocus) return DialogBase::OnMessage(message, wParam, lParam, answer);
-    KeepFocus();
+    KeepFocus(wParam == kShown);
     return true;
 }
 
 // A disabled or hidden control takes no keys.
-void PropertyPage::KeepFocus() const {
+void PropertyPage::KeepFocus(bool shown) const {
     const HWND focus = GetFocus();
-    if (GetActiveWindow() != Sheet() || (focus && IsWindowEnabled(focus) && IsWindowVisible(focus))) return;
-    SendMessageW(Sheet(), WM_NEXTDLGCTL, reinterpret_cast<WPARAM>(NextFocus()), TRUE);
+    if (GetActiveWindow() != Sheet()) return;
+    // Some sheets begin on a page's first control without asking.
+    const bool elsewhere = shown && focus == GetNextDlgTabItem(Window(), nullptr, FALSE) && focus != FirstFocus();
+    if (!elsewhere && focus && IsWindowEnabled(focus) && IsWindowVisible(focus)) return;
+    SendMessageW(Sheet(), WM_NEXTDLGCTL, reinterpret_cast<WPARAM>(elsewhere ? FirstFocus() : NextFocus()), TRUE);
 }
 
 INT_PTR CALLBACK PropertyPage::Procedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam) noexcept {

@@ -43,7 +43,8 @@ protected:
 
 private:
     static constexpr UINT kKeepFocus = WM_APP;
-    void KeepFocus() const;
+    static constexpr WPARAM kShown = 1;
+    void KeepFocus(bool shown) const;
     static INT_PTR CALLBACK Procedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam) noexcept;
 
     std::wstring title_;
