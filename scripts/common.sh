@@ -88,3 +88,8 @@ build() {
     fail "Building $preset failed; all of it is in $log"
   fi
 }
+
+# What the proofs of the last test run of a preset counted.
+show_figures() { # PRESET
+  grep -h '^ *PROOF ' "build/$1/Testing/Temporary/LastTest.log" 2>/dev/null || true
+}

@@ -2,6 +2,7 @@
 
 #include <commctrl.h>
 
+#include "com/ExceptionReserve.h"
 #include "com/Module.h"
 
 namespace recoveryui::ui {
@@ -10,6 +11,7 @@ constexpr WORD kManifestResource = 2;  // the number that the loader expects in 
 }
 
 ModuleScope::ModuleScope() noexcept {
+    com::PrepareExceptions();
     ACTCTXW request{};
     request.cbSize = sizeof request;
     request.dwFlags = ACTCTX_FLAG_HMODULE_VALID | ACTCTX_FLAG_RESOURCE_NAME_VALID;

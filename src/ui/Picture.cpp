@@ -28,23 +28,25 @@ com::Ptr<IWICBitmapSource> Decode(IWICImagingFactory& factory, int id) {
                                                decoder.GetAddressOf())) ||
         FAILED(decoder->GetFrame(0, frame.GetAddressOf())) ||
         FAILED(factory.CreateFormatConverter(converter.GetAddressOf())) ||
-        FAILED(converter->Initialize(frame.Get(), GUID_WICPixelFormat32bppBGR, WICBitmapDitherTypeNone,
+        FAILED(converter->Initialize(frame.Get(), GUID_WICPixelFormat24bppBGR, WICBitmapDitherTypeNone,
                                      nullptr, 0, WICBitmapPaletteTypeCustom)))
         return nothing;
     return com::Ptr<IWICBitmapSource>(converter.Get());
 }
 
+// Without an alpha channel: of a bitmap that has one, a static control makes a copy that nobody destroys.
 Bitmap CopyToBitmap(IWICBitmapSource& source, UINT width, UINT height) {
     BITMAPINFO info{};
     info.bmiHeader.biSize = sizeof info.bmiHeader;
     info.bmiHeader.biWidth = static_cast<LONG>(width);
     info.bmiHeader.biHeight = -static_cast<LONG>(height);
     info.bmiHeader.biPlanes = 1;
-    info.bmiHeader.biBitCount = 32;
+    info.bmiHeader.biBitCount = 24;
+    const UINT stride = (width * 3 + 3) / 4 * 4;
     void* pixels = nullptr;
     Bitmap bitmap(CreateDIBSection(nullptr, &info, DIB_RGB_COLORS, &pixels, nullptr, 0));
     if (!bitmap ||
-        FAILED(source.CopyPixels(nullptr, width * 4, width * height * 4, static_cast<BYTE*>(pixels))))
+        FAILED(source.CopyPixels(nullptr, stride, stride * height, static_cast<BYTE*>(pixels))))
         return {};
     return bitmap;
 }

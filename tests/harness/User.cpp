@@ -74,21 +74,24 @@ bool UiThread::WaitForIdle(ULONGLONG deadline) const {
     }
 }
 
-User::User(Script script, unsigned patienceSeconds) : script_(std::move(script)), patience_(patienceSeconds) {
-    thread_ = CreateThread(nullptr, 0, Run, this, 0, nullptr);
-}
-
-User::~User() {
-    ui_.End();
+void PumpUntil(HANDLE signal) {
     // Messages that somebody has looked at without taking them count as well.
-    while (MsgWaitForMultipleObjectsEx(1, &thread_, INFINITE, QS_ALLINPUT, MWMO_INPUTAVAILABLE) !=
-           WAIT_OBJECT_0) {
+    while (MsgWaitForMultipleObjectsEx(1, &signal, INFINITE, QS_ALLINPUT, MWMO_INPUTAVAILABLE) != WAIT_OBJECT_0) {
         MSG message;
         while (PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE)) {
             TranslateMessage(&message);
             DispatchMessageW(&message);
         }
     }
+}
+
+User::User(Script script, unsigned patienceSeconds) : script_(std::move(script)), patience_(patienceSeconds) {
+    thread_ = CreateThread(nullptr, 0, Run, this, 0, nullptr);
+}
+
+User::~User() {
+    ui_.End();
+    PumpUntil(thread_);
     CloseHandle(thread_);
 }
 

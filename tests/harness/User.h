@@ -45,6 +45,9 @@ private:
     std::atomic<bool> ended_{false};
 };
 
+// Runs this thread's messages until the handle is signalled.
+void PumpUntil(HANDLE signal);
+
 class User {
 public:
     using Script = std::function<void(UserScreen&)>;

@@ -49,7 +49,7 @@ LRESULT UserScreen::Ask(HWND window, UINT message, WPARAM wParam, LPARAM lParam)
 }
 
 void UserScreen::WaitUntil(const char* what, const std::function<bool()>& condition) {
-    const ULONGLONG limit = GetTickCount64() + kStepLimit;
+    const ULONGLONG limit = GetTickCount64() + patience_;
     while (!condition()) {
         const ULONGLONG now = GetTickCount64();
         if (now > limit || now > deadline_) Fail(std::string("waited in vain: ") + what);

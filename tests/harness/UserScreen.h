@@ -23,6 +23,9 @@ class UserScreen {
 public:
     UserScreen(const UiThread& ui, ULONGLONG deadline) : ui_(ui), deadline_(deadline) {}
 
+    // How long a window or a change is waited for.
+    void SetPatience(DWORD milliseconds) { patience_ = milliseconds; }
+
     // ---- Windows
     // A visible window that takes input. Without a title: any of the class.
     HWND WaitForWindow(const wchar_t* title, const wchar_t* windowClass = L"#32770");
@@ -101,6 +104,7 @@ private:
 
     const UiThread& ui_;
     ULONGLONG deadline_;
+    DWORD patience_ = 15000;
 };
 
 }  // namespace recoveryui::test

@@ -1,0 +1,139 @@
+#include "proof/Actor.h"
+
+#include <stdexcept>
+
+#include "harness/ProcessWindows.h"
+
+namespace recoveryui::proof {
+namespace {
+
+constexpr int kTries = 3;
+constexpr int kBoxText = 0xFFFF;
+constexpr ULONGLONG kHang = 5000;
+// What the harness says when the message loop stands still.
+constexpr const char* kStandsStill = "the windows do not answer";
+
+HWND FindBox() {
+    for (const HWND window : test::TopLevelWindows()) {
+        if (IsWindowVisible(window) && test::ClassOf(window) == L"#32770" && GetDlgItem(window, kBoxText))
+            return window;
+    }
+    return nullptr;
+}
+
+}  // namespace
+
+Player::Player(const test::UiThread& ui, Actor& actor, DWORD patience)
+    : UserScreen(ui, GetTickCount64() + 60'000), actor_(actor) {
+    SetPatience(patience);
+}
+
+bool Player::ReadBoxAway() {
+    const HWND box = FindBox();
+    if (!box) return false;
+    const std::wstring caption = test::TextOf(box), text = test::TextOf(GetDlgItem(box, kBoxText));
+    actor_.boxes_.push_back(text);
+    if (caption != L"Tovarin" && !caption.empty())
+        actor_.problems_.push_back("an unexpected message: " + test::Utf8(caption) + ": " + test::Utf8(text));
+    for (const WORD id : {IDCANCEL, IDNO, IDOK}) {
+        if (!GetDlgItem(box, id)) continue;
+        Press(box, id);
+        break;
+    }
+    WaitUntilClosed(box);
+    return true;
+}
+
+void Player::Try(const std::function<void()>& step) {
+    for (int attempt = 1;; ++attempt) {
+        try {
+            step();
+            return;
+        } catch (const std::runtime_error& problem) {
+            if (std::string(problem.what()) == kStandsStill) throw;
+            const bool boxed = ReadBoxAway();
+            if (attempt == kTries || (!boxed && std::string(problem.what()).find("has returned") != std::string::npos))
+                throw;
+        }
+    }
+}
+
+void Player::NextTo(HWND wizard, const wchar_t* title) {
+    Try([&] {
+        if (PageTitle(wizard) == title) return;
+        Next(wizard);
+        WaitUntil("the next page", [&] { return PageTitle(wizard) == title; });
+    });
+}
+
+void Player::Leave(HWND window, int button) {
+    Try([&] {
+        if (!IsWindow(window)) return;
+        Press(window, button);
+        WaitUntilClosed(window);
+    });
+}
+
+void Player::Fill(HWND window, int id, const std::wstring& text) {
+    Try([&] {
+        Enter(window, id, text);
+        if (Text(window, id) != text) throw std::runtime_error("the text does not stay");
+    });
+}
+
+void Player::AnswerIfAsked(WORD button) {
+    if (const HWND box = FindBox()) {
+        actor_.boxes_.push_back(test::TextOf(GetDlgItem(box, kBoxText)));
+        Press(box, button);
+        WaitUntilClosed(box);
+    }
+}
+
+HRESULT Actor::During(const std::function<HRESULT()>& call, Script script) {
+    test::UiThread ui;
+    struct Parts {
+        Actor* actor;
+        const test::UiThread* ui;
+        const Script* script;
+    } parts{this, &ui, &script};
+    const auto run = [](void* given) -> DWORD {
+        const auto& parts = *static_cast<Parts*>(given);
+        parts.actor->Act(*parts.ui, *parts.script);
+        return 0;
+    };
+    const HANDLE user = CreateThread(nullptr, 0, run, &parts, 0, nullptr);
+    const HRESULT result = call();
+    ui.End();
+    test::PumpUntil(user);
+    CloseHandle(user);
+    return result;
+}
+
+void Actor::Act(const test::UiThread& ui, const Script& script) {
+    try {
+        Player player(ui, *this, patience_);
+        script(player);
+    } catch (const std::exception& problem) {
+        gaveUp_ = problem.what();
+        if (gaveUp_ == kStandsStill) problems_.push_back("no answer for a long time\n" + test::DescribeWindows());
+    }
+    CloseAll(ui);
+}
+
+void Actor::CloseAll(const test::UiThread& ui) {
+    const ULONGLONG begun = GetTickCount64();
+    for (int grace = 0; grace < 10 && !ui.Ended(); ++grace) Sleep(1);
+    bool lifted = false;
+    while (!ui.Ended()) {
+        const ULONGLONG passed = GetTickCount64() - begun;
+        if (passed > kHang && !lifted) {
+            problems_.push_back("there is no way out while calls fail\n" + test::DescribeWindows());
+            lift_();
+            lifted = true;
+        }
+        test::CloseWindows();
+        Sleep(3);
+    }
+}
+
+}  // namespace recoveryui::proof

@@ -1,0 +1,134 @@
+#include "proof/Counts.h"
+
+#include <windows.h>
+#include <objbase.h>
+
+#include <atomic>
+
+#include "com/Object.h"
+#include "harness/ProcessWindows.h"
+#include "proof/OutwardCalls.h"
+
+namespace recoveryui::proof {
+namespace {
+
+std::atomic<long> taskBlocks{0};
+
+class TaskMemorySpy final : public com::Object<TaskMemorySpy, IMallocSpy> {
+public:
+    SIZE_T STDMETHODCALLTYPE PreAlloc(SIZE_T bytes) noexcept override { return bytes; }
+    void* STDMETHODCALLTYPE PostAlloc(void* block) noexcept override {
+        if (block) ++taskBlocks;
+        return block;
+    }
+    void* STDMETHODCALLTYPE PreFree(void* block, BOOL spied) noexcept override {
+        if (block && spied) --taskBlocks;
+        return block;
+    }
+    void STDMETHODCALLTYPE PostFree(BOOL) noexcept override {}
+    SIZE_T STDMETHODCALLTYPE PreRealloc(void* block, SIZE_T bytes, void** given, BOOL spied) noexcept override {
+        *given = block;
+        wasFresh_ = !block || !spied;
+        return bytes;
+    }
+    void* STDMETHODCALLTYPE PostRealloc(void* block, BOOL) noexcept override {
+        if (block && wasFresh_) ++taskBlocks;
+        return block;
+    }
+    void* STDMETHODCALLTYPE PreGetSize(void* block, BOOL) noexcept override { return block; }
+    SIZE_T STDMETHODCALLTYPE PostGetSize(SIZE_T bytes, BOOL) noexcept override { return bytes; }
+    void* STDMETHODCALLTYPE PreDidAlloc(void* block, BOOL) noexcept override { return block; }
+    int STDMETHODCALLTYPE PostDidAlloc(void*, BOOL, int did) noexcept override { return did; }
+    void STDMETHODCALLTYPE PreHeapMinimize() noexcept override {}
+    void STDMETHODCALLTYPE PostHeapMinimize() noexcept override {}
+
+private:
+    bool wasFresh_ = false;
+};
+
+// The handles of menus and icons, by the lower half that is enough to name them.
+template <class IsOne>
+long CountUserHandles(IsOne isOne) {
+    long count = 0;
+    for (ULONG_PTR handle = 0x20; handle < 0x8000; handle += 2) count += isOne(handle);
+    return count;
+}
+
+bool IsIcon(ULONG_PTR handle) {
+    ICONINFO info{};
+    if (!GetIconInfo(reinterpret_cast<HICON>(handle), &info)) return false;
+    DeleteObject(info.hbmMask);
+    if (info.hbmColor) DeleteObject(info.hbmColor);
+    return true;
+}
+
+// GetGuiResources always answers 0 where this runs; the table that the platform shares with every process
+// tells. An entry without a type is free.
+long CountGdiObjects() {
+    constexpr size_t kTableInPeb = 0xF8, kEntrySize = 24, kTypeInEntry = 14, kEntries = 0x4000;
+    static const auto currentPeb = reinterpret_cast<char*(WINAPI*)()>(
+        reinterpret_cast<void*>(GetProcAddress(GetModuleHandleW(L"ntdll.dll"), "RtlGetCurrentPeb")));
+    const char* const peb = currentPeb();
+    const char* const table = *reinterpret_cast<char* const*>(peb + kTableInPeb);
+    long count = 0;
+    for (size_t i = 0; table && i < kEntries; ++i)
+        count += *reinterpret_cast<const WORD*>(table + i * kEntrySize + kTypeInEntry) != 0;
+    return count;
+}
+
+long CountWindows() {
+    long count = static_cast<long>(test::TopLevelWindows().size());
+    for (HWND window = nullptr; (window = FindWindowExW(HWND_MESSAGE, window, nullptr, nullptr));) {
+        DWORD process = 0;
+        GetWindowThreadProcessId(window, &process);
+        count += process == GetCurrentProcessId();
+    }
+    return count;
+}
+
+long Lives(const wchar_t* module) {
+    const HMODULE loaded = GetModuleHandleW(module);
+    if (!loaded) return 0;
+    const auto canUnload = reinterpret_cast<HRESULT(STDAPICALLTYPE*)()>(
+        reinterpret_cast<void*>(GetProcAddress(loaded, "DllCanUnloadNow")));
+    return canUnload() != S_OK;
+}
+
+}  // namespace
+
+void Counts::WatchTaskMemory() { CoRegisterMallocSpy(TaskMemorySpy::Make().Get()); }
+
+Counts Counts::Take() {
+    Counts counts;
+    const OutwardCalls::Heap heap = OutwardCalls::LiveHeap();
+    counts.heapBlocks = heap.blocks;
+    counts.heapBytes = heap.bytes;
+    counts.taskMemory = taskBlocks;
+    counts.windows = CountWindows();
+    counts.gdi = CountGdiObjects();
+    counts.menus = CountUserHandles([](ULONG_PTR handle) { return IsMenu(reinterpret_cast<HMENU>(handle)); });
+    counts.icons = CountUserHandles(IsIcon);
+    counts.components = Lives(L"RecoveryUI.dll");
+    counts.standIns = Lives(L"TovarinObjects.dll");
+    return counts;
+}
+
+std::string Counts::Against(const Counts& before) const {
+    std::string text;
+    const auto add = [&](const char* name, long long now, long long then) {
+        if (now == then) return;
+        text += std::string(name) + (now > then ? " +" : " ") + std::to_string(now - then) + " ";
+    };
+    add("windows", windows, before.windows);
+    add("menus", menus, before.menus);
+    add("icons", icons, before.icons);
+    add("GDI objects", gdi, before.gdi);
+    add("live component", components, before.components);
+    add("live stand-ins", standIns, before.standIns);
+    add("task memory blocks", taskMemory, before.taskMemory);
+    add("heap blocks", heapBlocks, before.heapBlocks);
+    add("heap bytes", heapBytes, before.heapBytes);
+    return text;
+}
+
+}  // namespace recoveryui::proof

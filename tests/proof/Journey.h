@@ -1,0 +1,65 @@
+// A way of a user through the product, played again and again while calls fail.
+#pragma once
+
+#include <memory>
+#include <span>
+#include <string>
+#include <vector>
+
+#include "proof/Actor.h"
+
+namespace recoveryui::proof {
+
+// One playing of a journey. What its constructor and destructor do is done without faults.
+class Stage {
+public:
+    virtual ~Stage() = default;
+
+    // Everything that the user and the host do.
+    virtual void Play(Actor& actor) = 0;
+    // What is to be kept or changed as a whole: files, objects, values. Asked without faults.
+    virtual std::wstring State() = 0;
+    // The journey has reported success to its caller: its last state must have been reached.
+    bool IsDone() const { return isDone_; }
+    // Promises that were broken on the way; `State` may find some.
+    const std::vector<std::string>& Broken() const { return broken_; }
+    // The states at which a playing that is given up may stop, the first and the last included.
+    const std::vector<std::wstring>& Marks() const { return marks_; }
+    // Notes the states on the way; not while calls fail.
+    void MarkStates() { isMarking_ = true; }
+
+protected:
+    void Mark() {
+        if (isMarking_) marks_.push_back(State());
+    }
+    void SetDone(bool done) { isDone_ = done; }
+    void Promise(bool kept, const std::string& what) {
+        if (!kept) broken_.push_back(what);
+    }
+
+private:
+    bool isDone_ = false, isMarking_ = false;
+    std::vector<std::string> broken_;
+    std::vector<std::wstring> marks_;
+};
+
+struct Journey {
+    const char* name;
+    std::unique_ptr<Stage> (*make)();
+};
+
+template <class Made>
+std::unique_ptr<Stage> MakeStage() {
+    return std::make_unique<Made>();
+}
+
+// In the order in which they are played.
+std::vector<Journey> Journeys();
+std::span<const Journey> WizardJourneys();
+std::span<const Journey> ManagerJourneys();
+std::span<const Journey> SettingsJourneys();
+std::span<const Journey> ShellJourneys();
+// Journeys with a fault of their own, which must be found.
+std::span<const Journey> PlantedJourneys();
+
+}  // namespace recoveryui::proof

@@ -1,0 +1,239 @@
+#include "proof/OutwardCalls.h"
+
+#include <commctrl.h>
+#include <oleauto.h>
+#include <prsht.h>
+#include <uxtheme.h>
+
+#include <cstdlib>
+#include <mutex>
+#include <unordered_map>
+
+#include "proof/ImportTable.h"
+
+namespace recoveryui::proof {
+namespace {
+
+struct Block {
+    size_t bytes;
+    void* caller;
+    bool sinceOrder;
+};
+
+struct State {
+    DWORD thread = 0;  // whose calls count; 0: nobody's
+    Fault fault;
+    long calls = 0;
+    const char* failed = nullptr;
+    bool recording = false;
+    std::vector<std::uint64_t> callers;
+    char* module = nullptr;
+    std::mutex heapMutex;
+    std::unordered_map<void*, Block> heap;
+};
+State& state = *new State;
+
+constexpr int kFrames = 10;
+
+std::uint64_t CallersNow(const char* name) {
+    void* frames[kFrames] = {};
+    const USHORT count = RtlCaptureStackBackTrace(3, kFrames, frames, nullptr);
+    std::uint64_t hash = 14695981039346656037u;
+    const auto mix = [&](std::uint64_t value) { hash = (hash ^ value) * 1099511628211u; };
+    for (const char* letter = name; *letter; ++letter) mix(static_cast<unsigned char>(*letter));
+    for (USHORT i = 0; i < count; ++i) {
+        const auto offset = static_cast<std::uint64_t>(static_cast<char*>(frames[i]) - state.module);
+        if (offset < 0x1000000) mix(offset);
+    }
+    return hash;
+}
+
+// Counts a call and tells whether it is to fail.
+[[gnu::noinline]] bool Fails(Outside outside, const char* name) {
+    if (state.thread != GetCurrentThreadId() || outside != state.fault.outside) return false;
+    const long call = ++state.calls;
+    if (state.recording) state.callers.push_back(CallersNow(name));
+    const Fault& fault = state.fault;
+    if (fault.nth == 0 || call < fault.nth || (call > fault.nth && !fault.lasting)) return false;
+    if (!state.failed) state.failed = name;
+    return true;
+}
+
+void Remember(void* block, size_t bytes, void* caller) {
+    if (!block) return;
+    const std::lock_guard lock(state.heapMutex);
+    state.heap[block] = {bytes, caller, state.thread != 0};
+}
+void Forget(void* block) {
+    const std::lock_guard lock(state.heapMutex);
+    state.heap.erase(block);
+}
+
+void* FailingMalloc(size_t bytes) {
+    if (Fails(Outside::Memory, "malloc")) return nullptr;
+    void* const block = std::malloc(bytes);
+    Remember(block, bytes, __builtin_return_address(0));
+    return block;
+}
+void* FailingCalloc(size_t count, size_t bytes) {
+    if (Fails(Outside::Memory, "calloc")) return nullptr;
+    void* const block = std::calloc(count, bytes);
+    Remember(block, count * bytes, __builtin_return_address(0));
+    return block;
+}
+void* FailingRealloc(void* before, size_t bytes) {
+    if (Fails(Outside::Memory, "realloc")) return nullptr;
+    Forget(before);  // where the platform itself has no memory left, nothing is counted any more
+    void* const block = std::realloc(before, bytes);
+    Remember(block, bytes, __builtin_return_address(0));
+    return block;
+}
+void WatchedFree(void* block) {
+    if (block) Forget(block);
+    std::free(block);
+}
+
+
+struct Row {
+    const char* name;
+    Outside outside;
+    INT_PTR answer;  // of a failed call
+    DWORD error;     // its last error
+    void* replacement;
+};
+extern const Row kRows[];
+extern void* originals[];
+
+template <class Function>
+struct Hook;
+template <class Result, class... Arguments>
+struct Hook<Result WINAPI(Arguments...)> {
+    template <int slot>
+    static Result WINAPI Call(Arguments... arguments) {
+        const Row& row = kRows[slot];
+        if (Fails(row.outside, row.name)) {
+            SetLastError(row.error);
+            return (Result)row.answer;
+        }
+        return reinterpret_cast<Result(WINAPI*)(Arguments...)>(originals[slot])(arguments...);
+    }
+};
+
+constexpr int kFirst = __COUNTER__ + 1;
+#define OUTWARD(function, outside, answer, error)                     \
+    {#function, Outside::outside, (INT_PTR)(answer), error,           \
+     reinterpret_cast<void*>(&Hook<decltype(function)>::Call<__COUNTER__ - kFirst>)}
+
+const Row kRows[] = {
+    OUTWARD(SysAllocStringLen, Memory, 0, 0),
+    OUTWARD(SafeArrayCreate, Memory, 0, 0),
+    OUTWARD(SafeArrayCopy, Memory, E_OUTOFMEMORY, 0),
+    OUTWARD(SafeArrayPutElement, Memory, E_OUTOFMEMORY, 0),
+    OUTWARD(SafeArrayGetElement, Memory, E_OUTOFMEMORY, 0),
+    OUTWARD(VariantCopy, Memory, E_OUTOFMEMORY, 0),
+    OUTWARD(VariantChangeType, Memory, E_OUTOFMEMORY, 0),
+    OUTWARD(VariantChangeTypeEx, Memory, E_OUTOFMEMORY, 0),
+    OUTWARD(CoTaskMemAlloc, Memory, 0, 0),
+    OUTWARD(GlobalAlloc, Memory, 0, ERROR_NOT_ENOUGH_MEMORY),
+
+    OUTWARD(CLSIDFromProgID, Platform, REGDB_E_READREGDB, 0),
+    OUTWARD(CoCreateInstance, Platform, E_OUTOFMEMORY, 0),
+    OUTWARD(LoadTypeLib, Platform, TYPE_E_CANTLOADLIBRARY, 0),
+    OUTWARD(RegisterTypeLib, Platform, TYPE_E_REGISTRYACCESS, 0),
+    OUTWARD(UnRegisterTypeLib, Platform, TYPE_E_REGISTRYACCESS, 0),
+    OUTWARD(CreateFileW, Platform, -1, ERROR_ACCESS_DENIED),
+    OUTWARD(WriteFile, Platform, FALSE, ERROR_DISK_FULL),
+    OUTWARD(OpenProcess, Platform, 0, ERROR_ACCESS_DENIED),
+    OUTWARD(LoadLibraryW, Platform, 0, ERROR_MOD_NOT_FOUND),
+    OUTWARD(GetModuleFileNameW, Platform, 0, ERROR_NOT_ENOUGH_MEMORY),
+    OUTWARD(RegCreateKeyExW, Platform, ERROR_ACCESS_DENIED, 0),
+    OUTWARD(RegOpenKeyExW, Platform, ERROR_ACCESS_DENIED, 0),
+    OUTWARD(RegSetValueExW, Platform, ERROR_ACCESS_DENIED, 0),
+    OUTWARD(RegQueryValueExW, Platform, ERROR_ACCESS_DENIED, 0),
+    OUTWARD(RegDeleteTreeW, Platform, ERROR_ACCESS_DENIED, 0),
+    OUTWARD(RegDeleteValueW, Platform, ERROR_ACCESS_DENIED, 0),
+    OUTWARD(OpenClipboard, Platform, FALSE, ERROR_ACCESS_DENIED),
+    OUTWARD(SetClipboardData, Platform, 0, ERROR_NOT_ENOUGH_MEMORY),
+    OUTWARD(LoadStringW, Platform, 0, ERROR_NOT_ENOUGH_MEMORY),
+    OUTWARD(LoadImageW, Platform, 0, ERROR_NOT_ENOUGH_MEMORY),
+    OUTWARD(LoadResource, Platform, 0, ERROR_NOT_ENOUGH_MEMORY),
+    OUTWARD(CreateActCtxW, Platform, -1, ERROR_NOT_ENOUGH_MEMORY),
+    OUTWARD(CreateWindowExW, Platform, 0, ERROR_NOT_ENOUGH_MEMORY),
+    OUTWARD(CreateDialogParamW, Platform, 0, ERROR_NOT_ENOUGH_MEMORY),
+    OUTWARD(DialogBoxParamW, Platform, -1, ERROR_NOT_ENOUGH_MEMORY),
+    OUTWARD(CreatePopupMenu, Platform, 0, ERROR_NOT_ENOUGH_MEMORY),
+    OUTWARD(AppendMenuW, Platform, FALSE, ERROR_NOT_ENOUGH_MEMORY),
+    OUTWARD(BeginDeferWindowPos, Platform, 0, ERROR_NOT_ENOUGH_MEMORY),
+    OUTWARD(GetDC, Platform, 0, ERROR_NOT_ENOUGH_MEMORY),
+    OUTWARD(CreateFontIndirectW, Platform, 0, ERROR_NOT_ENOUGH_MEMORY),
+    OUTWARD(CreateCompatibleBitmap, Platform, 0, ERROR_NOT_ENOUGH_MEMORY),
+    OUTWARD(CreateCompatibleDC, Platform, 0, ERROR_NOT_ENOUGH_MEMORY),
+    OUTWARD(CreateDIBSection, Platform, 0, ERROR_NOT_ENOUGH_MEMORY),
+    OUTWARD(ImageList_Create, Platform, 0, ERROR_NOT_ENOUGH_MEMORY),
+    OUTWARD(ImageList_Add, Platform, -1, ERROR_NOT_ENOUGH_MEMORY),
+    OUTWARD(ImageList_ReplaceIcon, Platform, -1, ERROR_NOT_ENOUGH_MEMORY),
+    OUTWARD(CreatePropertySheetPageW, Platform, 0, ERROR_NOT_ENOUGH_MEMORY),
+    OUTWARD(PropertySheetW, Platform, -1, ERROR_NOT_ENOUGH_MEMORY),
+    OUTWARD(SetWindowSubclass, Platform, FALSE, ERROR_NOT_ENOUGH_MEMORY),
+    OUTWARD(OpenThemeData, Platform, 0, ERROR_NOT_ENOUGH_MEMORY),
+};
+#undef OUTWARD
+void* originals[std::size(kRows)];
+
+}  // namespace
+
+void OutwardCalls::Catch(HMODULE module) {
+    state.module = reinterpret_cast<char*>(module);
+    for (size_t slot = 0; slot < std::size(kRows); ++slot)
+        originals[slot] = PutImport(module, kRows[slot].name, kRows[slot].replacement);
+    PutImport(module, "malloc", reinterpret_cast<void*>(&FailingMalloc));
+    PutImport(module, "calloc", reinterpret_cast<void*>(&FailingCalloc));
+    PutImport(module, "realloc", reinterpret_cast<void*>(&FailingRealloc));
+    PutImport(module, "free", reinterpret_cast<void*>(&WatchedFree));
+}
+
+void OutwardCalls::Order(const Fault& fault) {
+    {
+        const std::lock_guard lock(state.heapMutex);
+        for (auto& [address, block] : state.heap) block.sinceOrder = false;
+    }
+    state.fault = fault;
+    state.calls = 0;
+    state.failed = nullptr;
+    state.callers.clear();
+    state.thread = GetCurrentThreadId();
+}
+
+void OutwardCalls::Lift() { state.fault.nth = 0; }
+
+long OutwardCalls::Stop() {
+    state.thread = 0;
+    return state.calls;
+}
+
+bool OutwardCalls::HasFailed() { return state.failed != nullptr; }
+std::string OutwardCalls::Failed() { return state.failed ? state.failed : "nothing"; }
+std::vector<std::uint64_t> OutwardCalls::Callers() { return state.callers; }
+void OutwardCalls::RecordCallers(bool record) { state.recording = record; }
+
+OutwardCalls::Heap OutwardCalls::LiveHeap() {
+    const std::lock_guard lock(state.heapMutex);
+    Heap heap{static_cast<long>(state.heap.size()), 0};
+    for (const auto& [address, block] : state.heap) heap.bytes += static_cast<long long>(block.bytes);
+    return heap;
+}
+
+std::string OutwardCalls::Leaks() {
+    const std::lock_guard lock(state.heapMutex);
+    std::string text;
+    for (const auto& [address, block] : state.heap) {
+        if (!block.sinceOrder) continue;
+        char line[80];
+        std::snprintf(line, sizeof line, " %zu bytes from +0x%llx", block.bytes,
+                      static_cast<unsigned long long>(static_cast<char*>(block.caller) - state.module));
+        text += line;
+    }
+    return text;
+}
+
+}  // namespace recoveryui::proof

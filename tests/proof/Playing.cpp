@@ -1,0 +1,144 @@
+#include "proof/Playing.h"
+
+#include <windows.h>
+
+#include <algorithm>
+#include <stdexcept>
+
+#include "HostObjects.h"
+#include "com/Bstr.h"
+#include "com/Create.h"
+#include "com/Guard.h"
+#include "harness/ProcessWindows.h"
+
+namespace recoveryui::proof {
+namespace {
+
+constexpr DWORD kPatient = 10'000, kImpatient = 150;
+
+void RunPendingMessages() {
+    MSG message;
+    while (PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE)) DispatchMessageW(&message);
+}
+
+// The faults of one playing, on both sides of the border.
+class Order {
+public:
+    explicit Order(const Fault& fault) : fault_(fault) {
+        com::Check(com::Create(L"Tovarin.CallJournal", journal_));
+        com::Check(journal_->Clear());
+        OutwardCalls::Order(fault);
+        if (fault.outside == Outside::Host && fault.nth > 0)
+            com::Check(journal_->FailCall(com::Bstr(L"").Get(), com::Bstr(L"").Get(), fault.nth, E_FAIL, !fault.lasting));
+    }
+    ~Order() { End(); }
+    void End() {
+        if (!std::exchange(isOn_, false)) return;
+        OutwardCalls::Stop();
+        journal_->ClearFaults();
+        com::Bstr text;
+        journal_->GetText(text.Put());
+        std::wstring all = text.Text();
+        for (size_t end; (end = all.find(L'\n')) != all.npos; all.erase(0, end + 1))
+            hostCalls_.push_back(test::Utf8(all.substr(0, std::min(end, all.find(L'(')))));
+        journal_->Clear();
+    }
+    void Lift() {
+        OutwardCalls::Lift();
+        journal_->ClearFaults();
+    }
+    // The host's calls by name.
+    const std::vector<std::string>& HostCalls() const { return hostCalls_; }
+    bool HasFailed() const {
+        return fault_.outside == Outside::Host ? static_cast<long>(hostCalls_.size()) >= fault_.nth
+                                               : OutwardCalls::HasFailed();
+    }
+    std::string Failed() const {
+        if (!HasFailed()) return "nothing";
+        return fault_.outside == Outside::Host ? hostCalls_[static_cast<size_t>(fault_.nth) - 1] : OutwardCalls::Failed();
+    }
+
+private:
+    Fault fault_;
+    com::Ptr<ICallJournal> journal_;
+    bool isOn_ = true;
+    std::vector<std::string> hostCalls_;
+};
+
+}  // namespace
+
+Rehearsal::Rehearsal(const Journey& journey) : journey_(journey) {
+    for (int round = 0; round < 2; ++round) Rehearse();
+}
+
+void Rehearsal::Rehearse() {
+    const auto stage = journey_.make();
+    stage->MarkStates();
+    Actor actor(kPatient, [] {});
+    stage->Play(actor);
+    if (!actor.GaveUp().empty()) throw std::runtime_error("the journey itself does not work: " + actor.GaveUp());
+    if (!stage->IsDone()) throw std::runtime_error("the journey itself does not come to its end");
+    marks_ = stage->Marks();
+}
+
+Playing Rehearsal::Play(const Fault& fault) {
+    Playing playing = PlayOnce(fault);
+    // What the platform keeps from the first time on, such as the looks of a message box, is kept once.
+    if (!playing.left.empty()) playing = PlayOnce(fault);
+    if (!playing.left.empty()) playing.problems.push_back("left behind: " + playing.left);
+    return playing;
+}
+
+Playing Rehearsal::PlayOnce(const Fault& fault) {
+    Playing playing;
+    RunPendingMessages();
+    const Counts before = Counts::Take();
+    {
+        const auto stage = journey_.make();
+        Order order(fault);
+        Actor actor(kImpatient, [&] { order.Lift(); });
+        stage->Play(actor);
+        order.End();
+        playing.hasFailed = order.HasFailed();
+        playing.failed = order.Failed();
+        playing.isDone = stage->IsDone();
+        playing.problems = actor.Problems();
+        const std::wstring state = stage->State();
+        playing.problems.insert(playing.problems.end(), stage->Broken().begin(), stage->Broken().end());
+        if (stage->IsDone() && state != marks_.back())
+            playing.problems.push_back("reported success, but the outcome is another one:\n" + test::Utf8(state));
+        if (!stage->IsDone() && std::find(marks_.begin(), marks_.end(), state) == marks_.end())
+            playing.problems.push_back("neither the old nor the new state:\n" + test::Utf8(state));
+        if (!playing.hasFailed && !playing.isDone) playing.problems.push_back("nothing failed, and yet: " + actor.GaveUp());
+    }
+    RunPendingMessages();
+    const Counts after = Counts::Take();
+    if (!(after == before)) playing.left = after.Against(before) + OutwardCalls::Leaks() + WindowsLeft();
+    return playing;
+}
+
+std::vector<std::uint64_t> Rehearsal::Survey(Outside outside) {
+    const auto stage = journey_.make();
+    Order order({outside, 0, false});
+    OutwardCalls::RecordCallers(true);
+    Actor actor(kPatient, [] {});
+    stage->Play(actor);
+    order.End();
+    OutwardCalls::RecordCallers(false);
+    if (outside != Outside::Host) return OutwardCalls::Callers();
+    std::vector<std::uint64_t> calls;
+    for (const std::string& call : order.HostCalls()) calls.push_back(std::hash<std::string>()(call));
+    return calls;
+}
+
+std::string Rehearsal::WindowsLeft() const {
+    std::string text;
+    for (const HWND window : test::TopLevelWindows()) {
+        const std::wstring name = test::ClassOf(window);
+        if (name == L"IME" || name == L"MSCTFIME UI") continue;  // the system's own
+        text += " window " + test::Utf8(name) + " \"" + test::Utf8(test::TextOf(window)) + "\"";
+    }
+    return text;
+}
+
+}  // namespace recoveryui::proof

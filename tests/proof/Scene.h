@@ -1,0 +1,51 @@
+// What every journey has around it: the host's objects in a rack, a folder and a registry branch of its own.
+#pragma once
+
+#include <windows.h>
+
+#include <string>
+
+#include "HostInterfaces.h"
+#include "RecoveryUI.h"
+#include "com/Bstr.h"
+#include "com/Create.h"
+#include "com/Guard.h"
+#include "harness/ComTest.h"
+#include "proof/Journey.h"
+#include "resources/ids.h"
+
+namespace recoveryui::proof {
+
+class Scene : public Stage {
+protected:
+    Scene();
+    ~Scene() override;
+
+    std::wstring Path(const std::wstring& name) const { return folder_ + L"\\" + name; }
+    // Gives the full path.
+    std::wstring Write(const std::wstring& name, const std::string& bytes) const;
+    // Bytes, one character each; "no file".
+    static std::wstring Read(const std::wstring& path);
+    // A recovery file with one scenario of every kind: "Pop-up", "State", "Error" and "Crash".
+    std::wstring WriteEveryKind(const std::wstring& name) const;
+    // A scenario of such a file.
+    com::Ptr<IUnknown> Scenario(const std::wstring& file, const wchar_t* name) const;
+    // All that a scenario holds, as a recovery file would.
+    std::wstring Describe(IUnknown* scenario, const std::wstring& name) const;
+    // A new repository, loaded.
+    com::Ptr<IRecoveryRepository> Load(const std::wstring& path) const;
+    // The user's defaults and the values of the open test.
+    std::wstring Options() const;
+
+    // Gives a component object the rack; false when it could not be created or takes none.
+    bool HandRack(IUnknown* object) const;
+
+    static constexpr wchar_t kBranch[] = L"Software\\Tovarin\\Proof";
+    test::Rack rack_;
+    com::Ptr<ITestOptions> options_;
+
+private:
+    std::wstring folder_;
+};
+
+}  // namespace recoveryui::proof

@@ -1,0 +1,215 @@
+// A scenario of each kind made, and one of each kind edited.
+#include <windows.h>
+
+#include <commctrl.h>
+
+#include "proof/Scene.h"
+
+namespace recoveryui::proof {
+namespace {
+
+constexpr int kFinish = 0x3025, kEditOfCombo = 1001;
+constexpr wchar_t kTitle[] = L"Recovery Scenario Wizard", kTriggers[] = L"Select Trigger Event",
+                  kOperations[] = L"Recovery Operations", kTypes[] = L"Recovery Operation",
+                  kFlow[] = L"Post-Recovery Test Run Options", kName[] = L"Name and Description",
+                  kSummary[] = L"Completing the Recovery Scenario Wizard";
+
+class WizardStage : public Scene {
+protected:
+    explicit WizardStage(const wchar_t* edited = nullptr)
+        : library_(Write(L"library.vbs", "Function Log(Object)\r\nEnd Function\r\n")), repository_(Load({})) {
+        if (!edited) return;
+        name_ = edited;
+        original_ = Scenario(WriteEveryKind(L"kinds.trs"), edited);
+        before_ = Describe(original_.Get(), name_);
+    }
+
+    virtual void Walk(Player& player, HWND wizard) = 0;
+
+    void Play(Actor& actor) override {
+        Mark();
+        if (FAILED(com::Create(L"Vantrel.RecoveryWizard", wizard_)) || !HandRack(wizard_.Get())) return;
+        if (FAILED(wizard_->put_Repository(repository_.Get()))) return;
+        if (original_ && (FAILED(wizard_->put_Scenario(original_.Get())) ||
+                          FAILED(wizard_->put_ScenarioName(com::Bstr(name_).Get()))))
+            return;
+        const HRESULT hr = actor.During([&] { return com::Query<IRecoveryDlg>(wizard_.Get())->DoModal(); },
+                                        [&](Player& player) {
+                                            HWND wizard = nullptr;
+                                            player.Try([&] { wizard = player.WaitForWindow(kTitle); });
+                                            Walk(player, wizard);
+                                        });
+        SetDone(hr == S_OK);
+        Promise(hr != S_OK || actor.GaveUp().empty(), "finished although the user gave up: " + actor.GaveUp());
+        if (hr == S_OK) Mark();
+    }
+
+    std::wstring State() override {
+        com::Ptr<IUnknown> scenario;
+        com::Bstr name;
+        if (wizard_) {
+            com::Check(wizard_->get_Scenario(scenario.GetAddressOf()));
+            com::Check(wizard_->get_ScenarioName(name.Put()));
+        }
+        // What the caller put in comes out again unless the wizard has made another.
+        if (!original_) return Describe(scenario.Get(), name.Text()) + Read(library_);
+        const std::wstring now = Describe(original_.Get(), name_);
+        Promise(now == before_, "the edited scenario itself has changed");
+        return scenario && scenario.Get() != original_.Get() ? Describe(scenario.Get(), name.Text()) : before_;
+    }
+
+    static void ChooseTrigger(Player& player, HWND wizard, int radio) {
+        player.NextTo(wizard, kTriggers);
+        player.Try([&] { player.Check(wizard, radio); });
+    }
+    static void AddOperation(Player& player, HWND wizard, int radio, const wchar_t* page) {
+        player.Try([&] { player.Check(wizard, IDC_OPERATION_LIST_ANOTHER, true); });
+        player.NextTo(wizard, kTypes);
+        player.Try([&] { player.Check(wizard, radio); });
+        player.NextTo(wizard, page);
+    }
+    // From the list of operations to the end.
+    static void Finish(Player& player, HWND wizard, const wchar_t* name) {
+        player.NextTo(wizard, kOperations);
+        player.Try([&] { player.Check(wizard, IDC_OPERATION_LIST_ANOTHER, false); });
+        player.NextTo(wizard, kFlow);
+        player.Try([&] {
+            // A restart of Windows leaves fewer options.
+            if (player.IsVisible(wizard, IDC_TEST_FLOW_FIRST + 1)) player.Check(wizard, IDC_TEST_FLOW_FIRST + 1);
+        });
+        player.NextTo(wizard, kName);
+        player.Fill(wizard, IDC_SCEN_NAME, name);
+        player.Fill(wizard, IDC_SCEN_DESCRIPTION, L"What it does.");
+        player.NextTo(wizard, kSummary);
+        player.Leave(wizard, kFinish);
+    }
+    static void FillPopup(Player& player, HWND wizard) {
+        player.NextTo(wizard, L"Specify Pop-up Window Conditions");
+        player.Fill(wizard, IDC_POPUP_TITLE, L"(Error|Warning).*");
+        player.Try([&] { player.Check(wizard, IDC_POPUP_TITLE_REGEX); });
+        player.Try([&] { player.Check(wizard, IDC_POPUP_TEXT_CHECK); });
+        player.Fill(wizard, IDC_POPUP_TEXT, L"It failed.");
+    }
+    static void Expect(Player& player, HWND window, int list, const test::Rows& rows) {
+        player.Try([&] { player.WaitUntil("the rows", [&] { return player.RowsOf(window, list) == rows; }); });
+    }
+
+    const std::wstring library_;
+
+private:
+    com::Ptr<IRecoveryRepository> repository_;
+    com::Ptr<IRecoveryWizard> wizard_;
+    com::Ptr<IUnknown> original_;
+    std::wstring name_, before_;
+};
+
+class PopupWithKeys final : public WizardStage {
+    void Walk(Player& player, HWND wizard) override {
+        ChooseTrigger(player, wizard, IDC_SELECT_TRIGGER_POPUP);
+        FillPopup(player, wizard);
+        player.NextTo(wizard, kOperations);
+        AddOperation(player, wizard, IDC_SELECT_OPERATION_CLICK, L"Recovery Operation - Click Button or Press Key");
+        player.Try([&] { player.Check(wizard, IDC_CLICK_KEYS); });
+        player.Do([page = player.Page(wizard)] {
+            SendDlgItemMessageW(page, IDC_CLICK_HOTKEY, HKM_SETHOTKEY, MAKEWORD('D', HOTKEYF_CONTROL | HOTKEYF_ALT), 0);
+        });
+        player.NextTo(wizard, kOperations);
+        AddOperation(player, wizard, IDC_SELECT_OPERATION_RESTART, kOperations);
+        Expect(player, wizard, IDC_OPERATION_LIST_ROWS,
+               {L"Keyboard click | Control + Alt + D", L"Restart Microsoft Windows | "});
+        Finish(player, wizard, L"Pop-up");
+    }
+};
+
+class ErrorWithFunction final : public WizardStage {
+    void Walk(Player& player, HWND wizard) override {
+        ChooseTrigger(player, wizard, IDC_SELECT_TRIGGER_ERROR);
+        player.NextTo(wizard, L"Select Test Run Error");
+        player.Try([&] {
+            player.Choose(wizard, IDC_SELECT_ERROR_LIST, L"Object not found");
+            player.WaitUntil("the error is chosen",
+                             [&] { return player.Chosen(wizard, IDC_SELECT_ERROR_LIST).size() == 1; });
+        });
+        player.NextTo(wizard, kOperations);
+        AddOperation(player, wizard, IDC_SELECT_OPERATION_FUNCTION, L"Recovery Operation - Function Call");
+        player.Try([&] {
+            player.Enter(wizard, kEditOfCombo, library_);
+            player.Keys({VK_RETURN});
+            player.Check(wizard, IDC_FUNC_DEFINE);
+        });
+        player.Fill(wizard, IDC_FUNC_NAME, L"Restore");
+        player.NextTo(wizard, kOperations);
+        Expect(player, wizard, IDC_OPERATION_LIST_ROWS, {L"Function call | " + library_ + L"::Restore"});
+        Finish(player, wizard, L"Error");
+    }
+};
+
+class CrashWithProcess final : public WizardStage {
+    void AddRunning(Player& player, HWND wizard) {
+        const std::wstring self = L"prove.exe";
+        player.Try([&] {
+            player.Choose(wizard, IDC_PROCESSES_RUNNING, self);
+            player.Press(wizard, IDC_PROCESSES_ADD_SELECTED);
+            player.WaitUntil("the process is added", [&] {
+                return player.RowsOf(wizard, IDC_PROCESSES_CHOSEN) == test::Rows{self};
+            });
+        });
+    }
+    void Walk(Player& player, HWND wizard) override {
+        ChooseTrigger(player, wizard, IDC_SELECT_TRIGGER_CRASH);
+        player.NextTo(wizard, L"Select Processes");
+        AddRunning(player, wizard);
+        player.NextTo(wizard, kOperations);
+        AddOperation(player, wizard, IDC_SELECT_OPERATION_PROCESS, L"Recovery Operation - Close Processes");
+        player.Try([&] {
+            player.Press(wizard, IDC_PROCESSES_NEW);
+            player.Type(L"order entry.exe");
+            player.Keys({VK_RETURN});
+            player.WaitUntil("the process is typed", [&] {
+                return player.RowsOf(wizard, IDC_PROCESSES_CHOSEN) == test::Rows{L"order entry.exe"};
+            });
+        });
+        player.NextTo(wizard, kOperations);
+        Finish(player, wizard, L"Crash");
+    }
+};
+
+// From the first page to the last, with another name.
+class EditEachPage : public WizardStage {
+protected:
+    EditEachPage(const wchar_t* name, std::vector<const wchar_t*> pages) : WizardStage(name), pages_(std::move(pages)) {}
+    void Walk(Player& player, HWND wizard) override {
+        player.NextTo(wizard, kTriggers);
+        for (const wchar_t* page : pages_) player.NextTo(wizard, page);
+        player.NextTo(wizard, kOperations);
+        Finish(player, wizard, L"Another name");
+    }
+
+private:
+    std::vector<const wchar_t*> pages_;
+};
+struct EditPopup final : EditEachPage {
+    EditPopup() : EditEachPage(L"Pop-up", {L"Specify Pop-up Window Conditions"}) {}
+};
+struct EditState final : EditEachPage {
+    EditState() : EditEachPage(L"State", {L"Select Object", L"Set Object Properties and Values"}) {}
+};
+struct EditError final : EditEachPage {
+    EditError() : EditEachPage(L"Error", {L"Select Test Run Error"}) {}
+};
+struct EditCrash final : EditEachPage {
+    EditCrash() : EditEachPage(L"Crash", {L"Select Processes"}) {}
+};
+
+constexpr Journey kJourneys[] = {
+    {"wizard-popup", MakeStage<PopupWithKeys>}, {"wizard-error", MakeStage<ErrorWithFunction>},
+    {"wizard-crash", MakeStage<CrashWithProcess>}, {"edit-popup", MakeStage<EditPopup>},
+    {"edit-state", MakeStage<EditState>},       {"edit-error", MakeStage<EditError>},
+    {"edit-crash", MakeStage<EditCrash>},
+};
+
+}  // namespace
+
+std::span<const Journey> WizardJourneys() { return kJourneys; }
+
+}  // namespace recoveryui::proof
