@@ -1,6 +1,7 @@
 // The Manager's commands on the file as a whole.
 #include <algorithm>
 
+#include "com/Guard.h"
 #include "manager/ManagerDlg.h"
 #include "manager/SaveQuestion.h"
 #include "manager/SelectionRules.h"
@@ -150,8 +151,11 @@ bool ManagerDlg::Saved(HRESULT result, const std::wstring& path) {
 
 void ManagerDlg::Close() {
     if (!MayLeave()) return;
-    added_.FileLeft();
-    WriteSettings();
+    // What cannot be remembered does not hold the window open.
+    static_cast<void>(com::Guarded([&] {
+        added_.FileLeft();
+        WriteSettings();
+    }));
     End(IDCANCEL);
 }
 

@@ -45,12 +45,18 @@ HRESULT RunScript(const std::vector<RegistryEntry>& entries) {
     return S_OK;
 }
 
-void RemoveAll(const std::vector<RegistryEntry>& entries) {
-    for (const std::wstring& key : OwnedKeys(entries)) DeleteTree(HKEY_CLASSES_ROOT, key);
+// As much as can be removed; gives the first failure.
+LSTATUS RemoveAll(const std::vector<RegistryEntry>& entries) {
+    LSTATUS result = ERROR_SUCCESS;
+    for (const std::wstring& key : OwnedKeys(entries)) {
+        const LSTATUS status = DeleteTree(HKEY_CLASSES_ROOT, key);
+        if (result == ERROR_SUCCESS) result = status;
+    }
+    return result;
 }
 
-RegistryKey OpenServerKey(const com::ClassEntry& entry) {
-    return OpenKey(HKEY_CLASSES_ROOT, L"CLSID\\" + GuidText(*entry.clsid) + L"\\InprocServer32");
+RegistryKey OpenServerKey(const com::ClassEntry& entry, LSTATUS* status = nullptr) {
+    return OpenKey(HKEY_CLASSES_ROOT, L"CLSID\\" + GuidText(*entry.clsid) + L"\\InprocServer32", 0, status);
 }
 
 }  // namespace
@@ -79,14 +85,16 @@ HRESULT RegisterClassEntry(const com::ClassEntry& entry) {
 }
 
 HRESULT UnregisterClassEntry(const com::ClassEntry& entry) {
+    const auto entries = EntriesOf(entry);  // nothing has been counted yet when this fails
     DWORD left = 0;
     {
-        const RegistryKey key = OpenServerKey(entry);
-        if (!key) return E_FAIL;
+        LSTATUS status = ERROR_SUCCESS;
+        const RegistryKey key = OpenServerKey(entry, &status);
+        if (status == ERROR_FILE_NOT_FOUND || status == ERROR_PATH_NOT_FOUND) return S_FALSE;
+        if (!key) return HRESULT_FROM_WIN32(status);
         left = TakeOne(key.Get());
     }
-    if (left == 0) RemoveAll(EntriesOf(entry));
-    return S_OK;
+    return left == 0 ? HRESULT_FROM_WIN32(RemoveAll(entries)) : S_OK;
 }
 
 }  // namespace recoveryui::shell

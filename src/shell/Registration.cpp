@@ -1,5 +1,6 @@
 #include "shell/Registration.h"
 
+#include "com/ExceptionReserve.h"
 #include "com/Guard.h"
 #include "shell/ClassRegistration.h"
 #include "shell/TypeLibrary.h"
@@ -24,6 +25,7 @@ HRESULT RegisterLibrary() {
 }  // namespace
 
 HRESULT RegisterServer(std::span<const com::ClassEntry> classes) noexcept {
+    com::PrepareExceptions();
     size_t done = 0;
     HRESULT hr = S_OK;
     for (; done < classes.size() && SUCCEEDED(hr); ++done)
@@ -39,17 +41,22 @@ HRESULT RegisterServer(std::span<const com::ClassEntry> classes) noexcept {
 }
 
 HRESULT UnregisterServer(std::span<const com::ClassEntry> classes) noexcept {
+    com::PrepareExceptions();
     return com::Guarded([&] {
         const TypeLibrary library;
+        if (!library.OpenPlatformKey()) return E_FAIL;
+        // One that cannot be removed does not keep the others; the library stays, so that all can be tried again.
+        HRESULT failed = S_OK;
+        for (const com::ClassEntry& entry : classes) {
+            const HRESULT removed = com::Guarded([&] { return UnregisterClassEntry(entry); });
+            if (FAILED(removed)) failed = removed;
+        }
+        if (FAILED(failed)) return failed;
         DWORD left = 0;
         {
             const RegistryKey key = library.OpenPlatformKey();
             if (!key) return E_FAIL;
             left = TakeOne(key.Get());
-        }
-        for (const com::ClassEntry& entry : classes) {
-            // A class that somebody has removed by hand is no reason to leave the others behind.
-            [[maybe_unused]] const HRESULT removed = com::Guarded([&] { return UnregisterClassEntry(entry); });
         }
         const HRESULT hr = left > 0 ? library.Register() : library.Unregister();
         if (FAILED(hr)) return hr;

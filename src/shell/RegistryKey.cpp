@@ -5,10 +5,11 @@ namespace {
 constexpr wchar_t kRefCount[] = L"RefCount";
 }
 
-RegistryKey OpenKey(HKEY parent, const std::wstring& path, REGSAM view) {
+RegistryKey OpenKey(HKEY parent, const std::wstring& path, REGSAM view, LSTATUS* status) {
     HKEY key = nullptr;
-    const LSTATUS status = RegOpenKeyExW(parent, path.c_str(), 0, KEY_ALL_ACCESS | view, &key);
-    return status == ERROR_SUCCESS ? RegistryKey(key) : RegistryKey();
+    const LSTATUS opened = RegOpenKeyExW(parent, path.c_str(), 0, KEY_ALL_ACCESS | view, &key);
+    if (status) *status = opened;
+    return opened == ERROR_SUCCESS ? RegistryKey(key) : RegistryKey();
 }
 
 RegistryKey CreateKey(HKEY parent, const std::wstring& path) {

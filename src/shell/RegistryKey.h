@@ -11,9 +11,9 @@ namespace recoveryui::shell {
 
 using ui::RegistryKey;
 
-// Opens a key for full access; empty when it cannot be opened. The view is that of this program's width,
-// KEY_WOW64_32KEY or KEY_WOW64_64KEY.
-RegistryKey OpenKey(HKEY parent, const std::wstring& path, REGSAM view = 0);
+// Opens a key for full access; empty when it cannot be opened, for the reason in the status. The view is that
+// of this program's width, KEY_WOW64_32KEY or KEY_WOW64_64KEY.
+RegistryKey OpenKey(HKEY parent, const std::wstring& path, REGSAM view = 0, LSTATUS* status = nullptr);
 // Opens a key for full access, made if needed; empty when that fails.
 RegistryKey CreateKey(HKEY parent, const std::wstring& path);
 

@@ -81,12 +81,27 @@ void Player::Fill(HWND window, int id, const std::wstring& text) {
     });
 }
 
-void Player::AnswerIfAsked(WORD button) {
-    if (const HWND box = FindBox()) {
-        actor_.boxes_.push_back(test::TextOf(GetDlgItem(box, kBoxText)));
-        Press(box, button);
-        WaitUntilClosed(box);
-    }
+void Player::GiveFile(const wchar_t* caption, const std::wstring& path) {
+    constexpr int kFileName = 0x47C;  // the number of the list, of the box in it and of the edit in that
+    const HWND dialog = WaitForWindow(caption);
+    Enter(Control(Control(dialog, kFileName), kFileName), kFileName, path);
+    Do([=] { PostMessageW(GetDlgItem(dialog, IDOK), BM_CLICK, 0, 0); });
+    WaitUntilClosed(dialog);
+}
+
+bool Player::CloseWithAnswer(HWND window, WORD answer) {
+    bool asked = false;
+    Try([&] {
+        if (!IsWindow(window)) return;
+        Press(window, IDCANCEL);
+        WaitUntil("an end or a question", [&] { return !IsWindow(window) || FindBox(); });
+        const HWND box = IsWindow(window) ? FindBox() : nullptr;
+        if (!box || !GetDlgItem(box, answer)) return;
+        asked = true;
+        Press(box, answer);
+        WaitUntilClosed(window);
+    });
+    return asked;
 }
 
 HRESULT Actor::During(const std::function<HRESULT()>& call, Script script) {

@@ -2,9 +2,10 @@
 
 namespace recoveryui::proof {
 
-PROCESS_INFORMATION StartChild(const std::wstring& arguments, HANDLE output) {
+PROCESS_INFORMATION StartChild(const std::wstring& arguments, HANDLE output, const wchar_t* other) {
     std::wstring program(32768, L'\0');
     program.resize(GetModuleFileNameW(nullptr, program.data(), static_cast<DWORD>(program.size())));
+    if (other) program.replace(program.rfind(L'\\') + 1, program.npos, other);
     std::wstring command = L"\"" + program + L"\" " + arguments;
     STARTUPINFOW start{};
     start.cb = sizeof start;
@@ -13,18 +14,19 @@ PROCESS_INFORMATION StartChild(const std::wstring& arguments, HANDLE output) {
         start.hStdOutput = start.hStdError = output;
     }
     PROCESS_INFORMATION child{};
-    CreateProcessW(program.c_str(), command.data(), nullptr, nullptr, output != nullptr, 0, nullptr, nullptr, &start,
+    CreateProcessW(program.c_str(), command.data(), nullptr, nullptr, output != nullptr, DETACHED_PROCESS, nullptr, nullptr, &start,
                    &child);
     CloseHandle(child.hThread);
     return child;
 }
 
-DWORD RunChild(const std::wstring& arguments, const std::function<void(const std::string& line)>& onLine) {
+DWORD RunChild(const std::wstring& arguments, const std::function<void(const std::string& line)>& onLine,
+               const wchar_t* program) {
     SECURITY_ATTRIBUTES inherited{sizeof inherited, nullptr, TRUE};
     HANDLE reading = nullptr, writing = nullptr;
     CreatePipe(&reading, &writing, &inherited, 0);
     SetHandleInformation(reading, HANDLE_FLAG_INHERIT, 0);
-    const PROCESS_INFORMATION child = StartChild(arguments, writing);
+    const PROCESS_INFORMATION child = StartChild(arguments, writing, program);
     CloseHandle(writing);
     std::string pending;
     char buffer[4096];

@@ -1,4 +1,4 @@
-// Other processes of this program: what they crash in stays theirs.
+// Other processes: what they crash in stays theirs.
 #pragma once
 
 #include <windows.h>
@@ -8,10 +8,11 @@
 
 namespace recoveryui::proof {
 
-// Starts this program with other arguments. Everything else of it is the caller's.
-PROCESS_INFORMATION StartChild(const std::wstring& arguments, HANDLE output = nullptr);
+// Starts a program of this one's folder, or this one itself; the process handle is the caller's.
+PROCESS_INFORMATION StartChild(const std::wstring& arguments, HANDLE output = nullptr, const wchar_t* program = nullptr);
 
 // Runs it to its end, with each line of its output; gives its exit code.
-DWORD RunChild(const std::wstring& arguments, const std::function<void(const std::string& line)>& onLine);
+DWORD RunChild(const std::wstring& arguments, const std::function<void(const std::string& line)>& onLine,
+               const wchar_t* program = nullptr);
 
 }  // namespace recoveryui::proof

@@ -12,6 +12,7 @@
 
 #include "harness/ProcessWindows.h"
 #include "proof/Children.h"
+#include "proof/Openings.h"
 #include "proof/Options.h"
 #include "proof/Playing.h"
 
@@ -44,8 +45,17 @@ std::vector<std::string> Words(const std::string& list) {
     return words;
 }
 
+std::vector<Journey> Journeys() {
+    std::vector<Journey> all;
+    for (const auto part : {WizardJourneys(), ManagerJourneys(), SettingsJourneys(), ShellJourneys()})
+        all.insert(all.end(), part.begin(), part.end());
+    return all;
+}
+
 Journey JourneyNamed(const std::wstring& name) {
-    for (const Journey& journey : Journeys())
+    std::vector<Journey> all = Journeys();
+    all.insert(all.end(), PlantedJourneys().begin(), PlantedJourneys().end());
+    for (const Journey& journey : all)
         if (test::Utf8(name) == journey.name) return journey;
     throw std::runtime_error("no such journey: " + test::Utf8(name));
 }
@@ -55,11 +65,7 @@ struct Theatre {
     Theatre() {
         test::ReportCrashes();
         test::StartWatchdog(kWatchdogSeconds);
-        CoInitializeEx(nullptr, COINIT_APARTMENTTHREADED);
-        Counts::WatchTaskMemory();
-        const HMODULE component = LoadLibraryW(L"RecoveryUI.dll");
-        if (!component || !LoadLibraryW(L"TovarinObjects.dll")) throw std::runtime_error("a module is missing");
-        OutwardCalls::Catch(component);
+        LoadModules();
     }
     // Whatever the modules' ends would do is another test's matter.
     ~Theatre() {
@@ -200,8 +206,23 @@ int SurveyFaults(const Options& options) {
     return 0;
 }
 
+// Each planted journey must be found out.
+int PlantedFaults() {
+    int missed = 0;
+    for (const Journey& journey : PlantedJourneys()) {
+        Season season(journey);
+        season.Play({"m1"});
+        if (season.Of(Outside::Memory).problems > 0) continue;
+        std::printf("  PROBLEM %s was not found\n", journey.name);
+        ++missed;
+    }
+    std::printf("PROOF faults, planted: %zu journeys that break a promise, %d not found\n", PlantedJourneys().size(), missed);
+    return missed ? 1 : 0;
+}
+
 int Faults(const Options& options) {
     SetEnvironmentVariableW(L"OANOCACHE", L"1");  // every BSTR is allocated and freed
+    if (options.Text(L"--journey") == L"planted") return PlantedFaults();
     const std::string wanted = test::Utf8(options.Text(L"--journey"));
     const auto seed = static_cast<unsigned>(options.Number(L"--seed", 1));
     std::vector<std::string> faults = Words(test::Utf8(options.Text(L"--calls")));

@@ -29,6 +29,7 @@ public:
     void MarkStates() { isMarking_ = true; }
 
 protected:
+    bool IsMarking() const { return isMarking_; }
     void Mark() {
         if (isMarking_) marks_.push_back(State());
     }
@@ -53,8 +54,6 @@ std::unique_ptr<Stage> MakeStage() {
     return std::make_unique<Made>();
 }
 
-// In the order in which they are played.
-std::vector<Journey> Journeys();
 std::span<const Journey> WizardJourneys();
 std::span<const Journey> ManagerJourneys();
 std::span<const Journey> SettingsJourneys();

@@ -28,5 +28,10 @@ private:
 int Faults(const Options& options);
 int PlayFaults(const Options& options);
 int SurveyFaults(const Options& options);
+int Kills(const Options& options);
+int LongUse(const Options& options);
+int OpenOften(const Options& options);
+int Monkeys(const Options& options);
+int PlayMonkey(const Options& options);
 
 }  // namespace recoveryui::proof

@@ -17,6 +17,9 @@
 namespace recoveryui::proof {
 
 class Scene : public Stage {
+public:
+    const std::wstring& Folder() const { return folder_; }
+
 protected:
     Scene();
     ~Scene() override;

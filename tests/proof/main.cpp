@@ -1,25 +1,17 @@
 // What the product promises, tried until it breaks.
-//   prove faults [--journey name] [--most n] [--seed n] [--calls m3,p*7,h12]
+//   prove faults  [--journey name] [--most n] [--seed n] [--calls m3,p*7,h12]
+//   prove kills   [--rounds n] [--seed n]
+//   prove monkeys [--inputs n] [--seed n]
+//   prove long    [--rounds n]
+// The other words are for the processes that these start, and for doing again what one of them did.
 #include <gtest/gtest.h>
 #include <windows.h>
 
 #include <cstdio>
 #include <exception>
-#include <iterator>
 #include <string>
 
-#include "proof/Journey.h"
 #include "proof/Options.h"
-
-namespace recoveryui::proof {
-
-std::vector<Journey> Journeys() {
-    std::vector<Journey> all;
-    for (const auto part : {WizardJourneys()}) all.insert(all.end(), part.begin(), part.end());
-    return all;
-}
-
-}  // namespace recoveryui::proof
 
 int wmain(int count, wchar_t** arguments) {
     using namespace recoveryui::proof;
@@ -27,7 +19,8 @@ int wmain(int count, wchar_t** arguments) {
     const struct {
         const wchar_t* name;
         int (*run)(const Options&);
-    } parts[] = {{L"faults", Faults}, {L"play", PlayFaults}, {L"survey", SurveyFaults}};
+    } parts[] = {{L"faults", Faults}, {L"play", PlayFaults}, {L"survey", SurveyFaults}, {L"kills", Kills},
+                 {L"long", LongUse},  {L"open", OpenOften},  {L"monkeys", Monkeys},     {L"monkey", PlayMonkey}};
     try {
         for (const auto& part : parts)
             if (count > 1 && part.name == std::wstring(arguments[1])) return part.run(Options(count, arguments));
@@ -35,6 +28,6 @@ int wmain(int count, wchar_t** arguments) {
         std::printf("%s\n", problem.what());
         return 1;
     }
-    std::puts("usage: prove faults [--name value]...");
+    std::puts("usage: prove faults|kills|monkeys|long [--name value]...");
     return 2;
 }

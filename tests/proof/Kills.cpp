@@ -1,0 +1,171 @@
+// A store that is killed: before and after each call of its writing side, and at random.
+#include <windows.h>
+
+#include <algorithm>
+#include <array>
+#include <cstdio>
+#include <filesystem>
+#include <fstream>
+#include <random>
+#include <vector>
+
+#include "objects/store/StoreFile.h"
+#include "proof/Children.h"
+#include "proof/Options.h"
+#include "proof/Version.h"
+
+namespace recoveryui::proof {
+namespace {
+
+namespace fs = std::filesystem;
+constexpr wchar_t kSaver[] = L"saver.exe";
+constexpr size_t kAtOnce = 4;  // savers with a file each: one is killed while the others start
+constexpr int kLongestLife = 12;
+
+struct Count {
+    long kills = 0, changed = 0, problems = 0;
+};
+
+class KillRun {
+public:
+    KillRun() : folder_(fs::temp_directory_path() / (L"kills " + std::to_wstring(GetCurrentProcessId()))) {
+        fs::create_directories(folder_);
+    }
+    ~KillRun() {
+        std::error_code ignored;
+        fs::remove_all(folder_, ignored);
+    }
+
+    // A save over a file, and the first save of one.
+    Count AtEveryPlace() {
+        Count count;
+        for (const bool exists : {true, false}) {
+            long places = 0;
+            Prepare(L"place.trs", exists);
+            RunChild(Die(0), [&](const std::string& line) { places = std::stol(line.substr(line.find(' '))); }, kSaver);
+            for (long place = 1; place <= places; ++place) {
+                Prepare(L"place.trs", exists);
+                const DWORD code = RunChild(Die(place), [](const std::string&) {}, kSaver);
+                const int version = VersionIn(L"place.trs");
+                const bool isOld = exists ? version == 1 : !fs::exists(folder_ / L"place.trs");
+                ++count.kills;
+                // A first save has no version before it.
+                count.changed += !isOld;
+                if (code == 9 && (isOld || version == (exists ? 2 : 0)) && CanBeSavedAgain(L"place.trs")) continue;
+                ++count.problems;
+                std::printf("  PROBLEM killed at place %ld of %ld of a save over %s: version %d, code %lu\n", place,
+                            places, exists ? "a file" : "nothing", version, code);
+            }
+            if (places == 0) ++count.problems;
+        }
+        return count;
+    }
+
+    Count AtRandom(long rounds, unsigned seed, const wchar_t* way) {
+        Count count;
+        std::mt19937 random(seed);
+        std::array<PROCESS_INFORMATION, kAtOnce> savers{};
+        std::array<int, kAtOnce> versions{};
+        for (size_t i = 0; i < kAtOnce; ++i) {
+            Prepare(NameOf(i), true);
+            versions[i] = 1;
+            savers[i] = StartChild(Loop(way, i), nullptr, kSaver);
+        }
+        for (long round = 0; round < rounds; ++round) {
+            const size_t i = static_cast<size_t>(round) % kAtOnce;
+            const std::wstring name = NameOf(i);
+            // It is at work when it has saved once; then comes chance.
+            for (int tries = 0; tries < 2000 && VersionIn(name) == versions[i]; ++tries) Sleep(1);
+            Sleep(random() % kLongestLife);
+            TerminateProcess(savers[i].hProcess, 1);
+            WaitForSingleObject(savers[i].hProcess, INFINITE);
+            CloseHandle(savers[i].hProcess);
+            const int version = VersionIn(name);
+            ++count.kills;
+            count.changed += version != versions[i];
+            if (version < versions[i]) {
+                ++count.problems;
+                if (count.problems <= 3)
+                    std::printf("  PROBLEM round %ld: version %d after %d\n", round, version, versions[i]);
+                Prepare(name, true);
+            }
+            versions[i] = std::max(version, 1);
+            savers[i] = StartChild(Loop(way, i), nullptr, kSaver);
+        }
+        for (const PROCESS_INFORMATION& saver : savers) {
+            TerminateProcess(saver.hProcess, 1);
+            WaitForSingleObject(saver.hProcess, INFINITE);
+            CloseHandle(saver.hProcess);
+        }
+        return count;
+    }
+
+    // Editors that take the file from each other: each version is replaced by one of them.
+    Count Race(long rounds) {
+        Count count;
+        Prepare(L"race.trs", true);
+        const std::wstring arguments = L"race \"" + (folder_ / L"race.trs").wstring() + L"\" " + std::to_wstring(rounds);
+        std::vector<int> replaced;
+        const PROCESS_INFORMATION rival = StartChild(arguments, nullptr, kSaver);
+        RunChild(arguments, [&](const std::string& line) { replaced.push_back(std::stoi(line.substr(line.find(' ')))); },
+                 kSaver);
+        WaitForSingleObject(rival.hProcess, INFINITE);
+        CloseHandle(rival.hProcess);
+        count.kills = static_cast<long>(replaced.size());
+        // What one of them has replaced, the other has not: the versions go up by one with each of both.
+        for (size_t i = 1; i < replaced.size(); ++i) count.problems += replaced[i] <= replaced[i - 1];
+        const int last = VersionIn(L"race.trs");
+        count.changed = last - 1;
+        count.problems += last < 1 || last - 1 > 2 * rounds || last - 1 < count.kills;
+        return count;
+    }
+
+private:
+    static std::wstring NameOf(size_t saver) { return L"random " + std::to_wstring(saver) + L".trs"; }
+    std::wstring Quoted(const std::wstring& name) const { return L"\"" + (folder_ / name).wstring() + L"\""; }
+    std::wstring Die(long place) const { return L"die " + Quoted(L"place.trs") + L" " + std::to_wstring(place); }
+    std::wstring Loop(const std::wstring& way, size_t saver) const { return way + L" " + Quoted(NameOf(saver)); }
+
+    void Prepare(const std::wstring& name, bool exists) const {
+        fs::remove(folder_ / name);
+        if (exists) std::ofstream(folder_ / name, std::ios::binary) << TextOfVersion(1);
+    }
+    // As anybody else would read it.
+    int VersionIn(const std::wstring& name) const {
+        tovarin::StoreFile file;
+        std::string bytes;
+        return SUCCEEDED(file.Open((folder_ / name).wstring(), true, bytes)) ? VersionOf(bytes) : -1;
+    }
+    bool CanBeSavedAgain(const std::wstring& name) const {
+        tovarin::StoreFile file;
+        return SUCCEEDED(file.Save((folder_ / name).wstring(), TextOfVersion(3))) && VersionIn(name) == 3 &&
+               std::distance(fs::directory_iterator(folder_), fs::directory_iterator()) == 1;
+    }
+
+    fs::path folder_;
+};
+
+}  // namespace
+
+int Kills(const Options& options) {
+    const long rounds = options.Number(L"--rounds", 10'000);
+    const auto seed = static_cast<unsigned>(options.Number(L"--seed", 1));
+    const ULONGLONG begun = GetTickCount64();
+    KillRun run;
+    const Count places = run.AtEveryPlace();
+    const Count random = run.AtRandom(rounds, seed, L"loop");
+    const Count race = run.Race(std::max(rounds / 10, 20L));
+    // A store that writes into the file itself must be found out.
+    const Count planted = run.AtRandom(std::min(rounds, 100L), seed, L"bad-loop");
+    std::printf("PROOF kills: at every place %ld kills, %ld after the change, %ld problems; at random %ld kills, %ld with "
+                "a new version, %ld problems; two editors %d versions, %ld problems; planted bad store found %ld times; "
+                "seed %u, %llu s\n",
+                places.kills, places.changed, places.problems, random.kills, random.changed, random.problems,
+                static_cast<int>(race.changed), race.problems, planted.problems, seed, (GetTickCount64() - begun) / 1000);
+    const bool isLively = random.changed > rounds / 2;
+    if (!isLively) std::printf("  PROBLEM the savers hardly ever got to save\n");
+    if (planted.problems == 0) std::printf("  PROBLEM the bad store was not found\n");
+    return places.problems + random.problems + race.problems == 0 && isLively && planted.problems > 0 ? 0 : 1;
+}
+
+}  // namespace recoveryui::proof

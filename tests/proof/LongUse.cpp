@@ -1,0 +1,112 @@
+// Each dialog opened and closed, the module loaded and unloaded, a thousand times: nothing grows.
+#include <windows.h>
+
+#include <cstdio>
+
+#include "harness/ProcessWindows.h"
+#include "proof/Children.h"
+#include "proof/Counts.h"
+#include "proof/Openings.h"
+#include "proof/Options.h"
+
+namespace recoveryui::proof {
+namespace {
+
+constexpr DWORD kPatience = 15'000;
+constexpr long kWarmUp = 5;
+
+void RunPendingMessages() {
+    MSG message;
+    while (PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE)) DispatchMessageW(&message);
+}
+
+// Gives what there is more at the end; "" for nothing.
+std::string OpenAndClose(size_t dialog, long rounds, bool plantLeak) {
+    Openings openings;
+    Counts before;
+    for (long round = -kWarmUp; round < rounds; ++round) {
+        if (round == 0) {
+            RunPendingMessages();
+            before = Counts::Take();
+        }
+        test::RestartWatchdog();
+        Actor actor(kPatience, [] {});
+        openings.Open(dialog, actor, [](Player& player, HWND window) { player.Leave(window, IDCANCEL); });
+        if (!actor.GaveUp().empty()) return actor.GaveUp();
+        if (plantLeak) CreateCompatibleDC(nullptr);
+    }
+    RunPendingMessages();
+    return Counts::Take().Against(before);
+}
+
+size_t HeapBytes() {
+    size_t bytes = 0;
+    HANDLE heaps[64];
+    const DWORD count = GetProcessHeaps(64, heaps);
+    for (DWORD i = 0; i < count; ++i) {
+        PROCESS_HEAP_ENTRY entry{};
+        while (HeapWalk(heaps[i], &entry))
+            if (entry.wFlags & PROCESS_HEAP_ENTRY_BUSY) bytes += entry.cbData;
+    }
+    return bytes;
+}
+
+// Gives the bytes that stayed of each round.
+double LoadAndUnload(long rounds) {
+    CoInitializeEx(nullptr, COINIT_APARTMENTTHREADED);
+    size_t before = 0;
+    for (long round = -kWarmUp; round < rounds; ++round) {
+        if (round == 0) before = HeapBytes();
+        {
+            com::Ptr<IRecoveryWizard> wizard;
+            com::Check(com::Create(L"Vantrel.RecoveryWizard", wizard));
+        }
+        CoFreeUnusedLibrariesEx(0, 0);
+        if (GetModuleHandleW(L"RecoveryUI.dll")) throw std::runtime_error("the module stays loaded");
+    }
+    return (static_cast<double>(HeapBytes()) - static_cast<double>(before)) / static_cast<double>(rounds);
+}
+
+}  // namespace
+
+// A process of its own for each dialog.
+int OpenOften(const Options& options) {
+    test::ReportCrashes();
+    test::StartWatchdog(60);
+    const long dialog = options.Number(L"--dialog", 0), rounds = options.Number(L"--rounds", 1000);
+    if (dialog < 0) {
+        const double bytes = LoadAndUnload(rounds);
+        std::printf("%s%.1f bytes of each loading\n", bytes < 8 ? "flat: " : "", bytes);
+    } else {
+        LoadModules();
+        const std::string left = OpenAndClose(static_cast<size_t>(dialog), rounds, options.Number(L"--plant", 0) != 0);
+        std::printf("%s\n", left.empty() ? "flat: nothing" : left.c_str());
+    }
+    TerminateProcess(GetCurrentProcess(), 0);
+    return 0;
+}
+
+int LongUse(const Options& options) {
+    SetEnvironmentVariableW(L"OANOCACHE", L"1");  // every BSTR is allocated and freed
+    const std::wstring rounds = std::to_wstring(options.Number(L"--rounds", 1000));
+    int problems = 0;
+    const auto isFlat = [](const std::wstring& arguments, std::string& said) {
+        said.clear();
+        const DWORD code = RunChild(L"open " + arguments, [&](const std::string& line) { said += line + " "; });
+        return code == 0 && said.rfind("flat", 0) == 0;
+    };
+    std::string said;
+    const auto names = Openings::Names();
+    for (int dialog = -1; dialog < static_cast<int>(names.size()); ++dialog) {
+        const bool flat = isFlat(L"--dialog " + std::to_wstring(dialog) + L" --rounds " + rounds, said);
+        std::printf("%s long use, %s, %s rounds: %s\n", flat ? "PROOF" : "  PROBLEM",
+                    dialog < 0 ? "loading and unloading" : names[static_cast<size_t>(dialog)],
+                    test::Utf8(rounds).c_str(), said.c_str());
+        problems += !flat;
+    }
+    const bool missed = isFlat(L"--dialog 5 --plant 1 --rounds 10", said);
+    std::printf("%s long use, planted leak %s\n", missed ? "  PROBLEM" : "PROOF", missed ? "not found" : "found");
+    return problems + missed == 0 ? 0 : 1;
+}
+
+}  // namespace recoveryui::proof

@@ -1,0 +1,210 @@
+// Users without a plan: valid inputs to whatever is on the screen, and raw messages.
+#include <windows.h>
+
+#include <commctrl.h>
+
+#include <cstdio>
+#include <random>
+
+#include "harness/ProcessWindows.h"
+#include "proof/Children.h"
+#include "proof/Counts.h"
+#include "proof/Openings.h"
+#include "proof/Options.h"
+
+namespace recoveryui::proof {
+namespace {
+
+constexpr DWORD kPatience = 15'000;
+constexpr int kInputsOfOneOpening = 400;
+constexpr wchar_t kHand[] = L"TovarinPointingHand";
+
+class Monkey {
+public:
+    Monkey(unsigned seed, bool raw) : random_(seed), raw_(raw) {}
+
+    // Until the window is gone or the monkey has had enough of it; gives its inputs.
+    long Use(Player& player, HWND window) {
+        long inputs = 0;
+        for (; inputs < kInputsOfOneOpening && IsWindow(window); ++inputs) Act(player);
+        return inputs;
+    }
+
+private:
+    unsigned Below(unsigned limit) { return random_() % limit; }
+    template <class Thing, size_t size>
+    Thing OneOf(const Thing (&things)[size]) {
+        return things[Below(size)];
+    }
+
+    static HWND Active() {
+        HWND active = nullptr;
+        for (const HWND window : test::TopLevelWindows())
+            if (IsWindowVisible(window) && IsWindowEnabled(window) && !active) active = window;
+        return active;
+    }
+    HWND ControlOf(HWND window) {
+        const auto all = test::Descendants(window);
+        for (int tries = 0; tries < 20 && !all.empty(); ++tries) {
+            const HWND control = all[Below(static_cast<unsigned>(all.size()))];
+            if (IsWindowVisible(control) && IsWindowEnabled(control)) return control;
+        }
+        return window;
+    }
+
+    void Act(Player& player) {
+        const HWND window = Active();
+        if (!window) return player.Do([] {});
+        const std::wstring kind = test::ClassOf(window), title = test::TextOf(window);
+        if (kind == kHand || FindWindowW(kHand, nullptr)) return player.RealKeys({VK_ESCAPE});
+        // What the platform itself shows is soon left again.
+        const bool foreign = title == L"Open Recovery File" || title == L"Save Recovery File" ||
+                             title.rfind(L"Open", 0) == 0 || kind == L"#32768";
+        if (foreign && Below(4) == 0) return Leave(player, window);
+        const HWND control = ControlOf(window);
+        raw_ && !foreign ? Send(player, window, control) : Input(player, control);
+    }
+    void Leave(Player& player, HWND window) {
+        player.Do([=] {
+            if (test::ClassOf(window) == L"#32768") {
+                PostMessageW(window, WM_KEYDOWN, VK_ESCAPE, 1);
+            } else {
+                PostMessageW(window, WM_COMMAND, IDCANCEL, 0);
+            }
+        });
+    }
+
+    void Input(Player& player, HWND control) {
+        constexpr WORD kKeys[] = {VK_TAB,  VK_RETURN, VK_ESCAPE, VK_SPACE, VK_UP,     VK_DOWN, VK_LEFT, VK_RIGHT,
+                                  VK_HOME, VK_END,    VK_DELETE, VK_F1,    VK_INSERT, VK_F4,   VK_BACK, VK_PRIOR};
+        constexpr wchar_t kLetters[] = {L'a', L'Z', L'0', L' ', L'\\', L';', L'*', L'\x4e2d', L'\xfc', L'"', L'.', L'1'};
+        RECT place{};
+        GetClientRect(control, &place);
+        const LPARAM at = MAKELPARAM(Below(std::max(1L, place.right)), Below(std::max(1L, place.bottom)));
+        const unsigned choice = Below(10);
+        const WORD key = OneOf(kKeys);
+        const wchar_t letter = OneOf(kLetters);
+        player.Do([=] {
+            if (choice < 4) {
+                PostMessageW(control, WM_LBUTTONDOWN, MK_LBUTTON, at);
+                PostMessageW(control, WM_LBUTTONUP, 0, at);
+            } else if (choice < 5) {
+                PostMessageW(control, WM_LBUTTONDBLCLK, MK_LBUTTON, at);
+                PostMessageW(control, WM_LBUTTONUP, 0, at);
+            } else if (choice < 7) {
+                const HWND focus = GetFocus() ? GetFocus() : control;
+                PostMessageW(focus, WM_KEYDOWN, key, 1);
+                PostMessageW(focus, WM_KEYUP, key, static_cast<LPARAM>(0xC0000001));
+            } else {
+                PostMessageW(GetFocus() ? GetFocus() : control, WM_CHAR, letter, 1);
+            }
+        });
+    }
+
+    // Messages whose parameters hold no addresses, with any parameters; notifications come from real controls.
+    void Send(Player& player, HWND window, HWND control) {
+        constexpr UINT kMessages[] = {
+            WM_COMMAND,      WM_COMMAND,      WM_COMMAND,       WM_COMMAND,     WM_SIZE,        WM_MOVE,
+            WM_ENABLE,       WM_SETFOCUS,     WM_KILLFOCUS,     WM_TIMER,       WM_HSCROLL,     WM_VSCROLL,
+            WM_CONTEXTMENU,  WM_INITMENU,     WM_SYSCOLORCHANGE, WM_FONTCHANGE, WM_PAINT,       WM_NCPAINT,
+            WM_MOUSEMOVE,    WM_LBUTTONDOWN,  WM_LBUTTONUP,     WM_RBUTTONDOWN, WM_RBUTTONUP,   WM_MOUSELEAVE,
+            WM_KEYDOWN,      WM_KEYUP,        WM_CHAR,          WM_SYSCHAR,     WM_CAPTURECHANGED, WM_CANCELMODE,
+            WM_THEMECHANGED, WM_DISPLAYCHANGE, WM_SHOWWINDOW,   WM_ACTIVATE,    WM_CLOSE,       WM_NEXTDLGCTL,
+            WM_APP,          WM_APP + 1,      WM_APP + 2,       WM_APP + 61,    WM_APP + 62,    WM_USER + 5000};
+        const UINT message = OneOf(kMessages);
+        const bool isCommand = message == WM_COMMAND;
+        const HWND target = isCommand ? GetParent(control) ? GetParent(control) : window : Below(2) ? window : control;
+        const WORD id = Below(4) ? static_cast<WORD>(GetDlgCtrlID(control)) : static_cast<WORD>(Below(3000));
+        const WPARAM wParam = isCommand ? MAKEWPARAM(id, Below(3) ? 0 : Below(1100)) : Below(300);
+        const LPARAM lParam = isCommand                  ? reinterpret_cast<LPARAM>(Below(4) ? control : nullptr)
+                              : message == WM_NEXTDLGCTL ? FALSE
+                              : message == WM_CAPTURECHANGED || message == WM_TIMER
+                                  ? 0
+                                  : static_cast<LPARAM>(Below(0x10000) | Below(0x400) << 16);
+        if (message == WM_ACTIVATE || message == WM_SHOWWINDOW || message == WM_INITMENU)
+            return player.Do([=] { PostMessageW(target, message, wParam & 1, 0); });
+        player.Do([=] { PostMessageW(target, message, wParam, lParam); });
+    }
+
+    std::mt19937 random_;
+    bool raw_;
+};
+
+}  // namespace
+
+// A process that monkeys about: openings one after the other, until it has made its inputs.
+int PlayMonkey(const Options& options) {
+    test::ReportCrashes();
+    test::StartWatchdog(60);
+    LoadModules();
+    const long wanted = options.Number(L"--inputs", 1000);
+    const auto seed = static_cast<unsigned>(options.Number(L"--seed", 1));
+    Monkey monkey(seed, options.Number(L"--raw", 0) != 0);
+    const size_t dialogs = Openings::Names().size();
+    long inputs = 0;
+    int problems = 0;
+    for (size_t opening = seed; inputs < wanted; ++opening) {
+        const Counts before = Counts::Take();
+        {
+            Openings openings;
+            SetCurrentDirectoryW(openings.Folder().c_str());
+            std::printf("%s after %ld inputs\n", Openings::Names()[opening % dialogs], inputs);
+            test::RestartWatchdog();
+            Actor actor(kPatience, [] {});
+            openings.Open(opening % dialogs, actor, [&](Player& player, HWND window) {
+                inputs += monkey.Use(player, window);
+                if (options.Number(L"--plant", 0)) player.Do([] { RaiseException(EXCEPTION_ACCESS_VIOLATION, 0, 0, nullptr); });
+            });
+            for (const std::string& problem : actor.Problems()) std::printf("PROBLEM %s\n", problem.c_str());
+            problems += static_cast<int>(actor.Problems().size());
+            SetCurrentDirectoryW(L"\\");
+        }
+        const Counts after = Counts::Take();
+        if (after.components != before.components || after.windows != before.windows) {
+            std::printf("PROBLEM left behind: %s\n", after.Against(before).c_str());
+            ++problems;
+        }
+    }
+    std::printf("made %ld\n", inputs);
+    TerminateProcess(GetCurrentProcess(), problems ? 1 : 0);
+    return 0;
+}
+
+int Monkeys(const Options& options) {
+    const long wanted = options.Number(L"--inputs", 1'000'000), ofOne = 20'000;
+    const long seed = options.Number(L"--seed", 1);
+    const ULONGLONG begun = GetTickCount64();
+    long made[2] = {};
+    int problems = 0, processes = 0;
+    const auto play = [&](bool raw, long inputs, long own, bool plant) {
+        std::string last;
+        const std::wstring arguments = L"--raw " + std::to_wstring(raw) + L" --inputs " + std::to_wstring(inputs) +
+                                       L" --seed " + std::to_wstring(own) + L" --plant " + std::to_wstring(plant);
+        std::string problem;
+        const DWORD code = RunChild(L"monkey " + arguments, [&](const std::string& line) {
+            if (line.rfind("made ", 0) == 0) {
+                made[raw] += std::stol(line.substr(5));
+            } else if (line.find(" after ") != line.npos && line.rfind("PROBLEM", 0) != 0) {
+                last = line;
+            } else {
+                problem += "\n    " + line;
+            }
+        });
+        if (code != 0 && !plant)
+            std::printf("  PROBLEM in the %s: code %lu%s\n    again: prove monkey %s\n", last.c_str(), code,
+                        problem.c_str(), test::Utf8(arguments).c_str());
+        return code != 0;
+    };
+    for (const bool raw : {false, true}) {
+        for (long done = 0; done < wanted; done += ofOne, ++processes)
+            problems += play(raw, std::min(ofOne, wanted - done), seed + processes, false);
+    }
+    const bool found = play(false, 10, seed, true);
+    std::printf("PROOF monkeys: %ld valid inputs, %ld raw messages in %d processes, %d problems; planted crash %s; "
+                "seed %ld, %llu s\n",
+                made[0], made[1], processes, problems, found ? "found" : "NOT FOUND", seed,
+                (GetTickCount64() - begun) / 1000);
+    return problems == 0 && found ? 0 : 1;
+}
+
+}  // namespace recoveryui::proof

@@ -1,0 +1,39 @@
+// Every dialog of the product, ready to be opened.
+#pragma once
+
+#include <functional>
+#include <span>
+#include <string>
+
+#include "harness/HelpViewer.h"
+#include "proof/Scene.h"
+
+namespace recoveryui::proof {
+
+class Openings : public Scene {
+public:
+    using Script = std::function<void(Player& player, HWND window)>;
+
+    Openings();
+    static std::span<const char* const> Names();
+    // Opens the dialog of that place and lets the user have it.
+    void Open(size_t dialog, Actor& actor, const Script& script);
+
+private:
+    void Play(Actor&) override {}
+    std::wstring State() override { return {}; }
+
+    HRESULT Wizard(const wchar_t* edited);
+    HRESULT Manager();
+    HRESULT AddDialog();
+    HRESULT Tab();
+    HRESULT Properties(const wchar_t* name);
+
+    com::Ptr<test::HelpViewer> help_ = test::HelpViewer::Make();
+    const std::wstring file_;
+};
+
+// Loads the modules into this process, with everything counted.
+void LoadModules();
+
+}  // namespace recoveryui::proof

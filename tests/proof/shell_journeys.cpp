@@ -1,0 +1,109 @@
+// The module's registration, and the host from its start to its end with the add-in in it.
+#include <windows.h>
+
+#include "app/Host.h"
+#include "proof/Scene.h"
+
+namespace recoveryui::proof {
+namespace {
+
+constexpr wchar_t kClasses[] = L"Software\\Tovarin\\ProofClasses";
+
+// In a branch of its own in place of the machine's classes.
+class Registration final : public Scene {
+public:
+    Registration() {
+        RegDeleteTreeW(HKEY_CURRENT_USER, kClasses);
+        RegCreateKeyExW(HKEY_CURRENT_USER, kClasses, 0, nullptr, 0, KEY_ALL_ACCESS, nullptr, &branch_, nullptr);
+    }
+    ~Registration() override {
+        RegCloseKey(branch_);
+        RegDeleteTreeW(HKEY_CURRENT_USER, kClasses);
+    }
+
+private:
+    void Play(Actor&) override {
+        Mark();
+        if (!(isRegistered_ = SUCCEEDED(Call("DllRegisterServer")))) return;
+        Mark();
+        SetDone(Call("DllUnregisterServer") == S_OK);
+        Mark();
+    }
+    // What failed half way can be tried again, and then nothing is left.
+    std::wstring State() override {
+        if (!IsDone() && !Found().empty()) {
+            if (!isRegistered_ && FAILED(Call("DllRegisterServer"))) return L"cannot be registered again";
+            if (!IsMarking() && FAILED(Call("DllUnregisterServer"))) return L"cannot be unregistered again";
+        }
+        return Found();
+    }
+    // The program ids and class ids that are registered, without those of other makers.
+    static std::wstring Found() {
+        std::wstring found;
+        for (const wchar_t* parent : {L"", L"\\CLSID", L"\\TypeLib", L"\\Interface"}) {
+            HKEY key = nullptr;
+            if (RegOpenKeyExW(HKEY_CURRENT_USER, (std::wstring(kClasses) + parent).c_str(), 0, KEY_READ, &key)) continue;
+            wchar_t name[256];
+            for (DWORD i = 0, size = 256; !RegEnumKeyExW(key, i, name, &size, nullptr, nullptr, nullptr, nullptr); ++i, size = 256)
+                if (*parent || std::wstring(name).rfind(L"Vantrel", 0) == 0) found += std::wstring(name) + L"\n";
+            RegCloseKey(key);
+        }
+        return found;
+    }
+    HRESULT Call(const char* entryPoint) const {
+        RegOverridePredefKey(HKEY_CLASSES_ROOT, branch_);
+        const HRESULT hr = reinterpret_cast<HRESULT(STDAPICALLTYPE*)()>(
+            reinterpret_cast<void*>(GetProcAddress(GetModuleHandleW(L"RecoveryUI.dll"), entryPoint)))();
+        RegOverridePredefKey(HKEY_CLASSES_ROOT, nullptr);
+        return hr;
+    }
+
+    HKEY branch_ = nullptr;
+    bool isRegistered_ = false;
+};
+
+class HostStart final : public Scene {
+    void Play(Actor& actor) override {
+        Mark();
+        tovarin::HostOptions options;
+        options.settingsPath = kBranch;
+        const HRESULT ended = actor.During([&] { return tovarin::RunHost(options); }, [&](Player& player) { Use(player); });
+        SetDone(ended == 0 && actor.GaveUp().empty());
+    }
+    void Use(Player& player) {
+        HWND host = nullptr;
+        player.Try([&] { host = player.WaitForWindow(nullptr, tovarin::kMainWindowClass); });
+        HWND manager = nullptr;
+        player.Try([&] {
+            const UINT command = CommandOf(GetMenu(host), L"Recovery Scenario &Manager...");
+            if (!command) throw std::runtime_error("the menu has no such command");
+            player.Do([=] { PostMessageW(host, WM_COMMAND, command, 0); });
+            manager = player.WaitForWindow(L"Recovery Scenario Manager");
+        });
+        player.Leave(manager, IDCANCEL);
+        player.Try([&] {
+            if (!IsWindow(host)) return;
+            player.Close(host);
+            player.WaitUntilClosed(host);
+        });
+    }
+    static UINT CommandOf(HMENU menu, const wchar_t* text) {
+        for (int i = 0; i < GetMenuItemCount(menu); ++i) {
+            wchar_t item[200] = L"";
+            GetMenuStringW(menu, static_cast<UINT>(i), item, 200, MF_BYPOSITION);
+            if (std::wstring(item) == text) return GetMenuItemID(menu, i);
+            if (const HMENU below = GetSubMenu(menu, i))
+                if (const UINT command = CommandOf(below, text)) return command;
+        }
+        return 0;
+    }
+    std::wstring State() override { return L"nothing stays"; }
+};
+
+constexpr Journey kJourneys[] = {{"registration", MakeStage<Registration>}, {"host", MakeStage<HostStart>}};
+
+}  // namespace
+
+std::span<const Journey> ShellJourneys() { return kJourneys; }
+
+}  // namespace recoveryui::proof
