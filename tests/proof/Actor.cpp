@@ -24,8 +24,15 @@ HWND FindBox() {
 }  // namespace
 
 Player::Player(const test::UiThread& ui, Actor& actor, DWORD patience)
-    : UserScreen(ui, GetTickCount64() + 60'000), actor_(actor) {
+    : UserScreen(ui, GetTickCount64() + 60'000), actor_(actor), patience_(patience) {
     SetPatience(patience);
+}
+
+HWND Player::First(const wchar_t* title, const wchar_t* windowClass) {
+    SetPatience(10'000);
+    const HWND window = WaitForWindow(title, windowClass);
+    SetPatience(patience_);
+    return window;
 }
 
 bool Player::ReadBoxAway() {

@@ -19,6 +19,8 @@ class Player : public test::UserScreen {
 public:
     Player(const test::UiThread& ui, Actor& actor, DWORD patience);
 
+    // The window that the call shows; the user waits for it longer than for anything else.
+    HWND First(const wchar_t* title, const wchar_t* windowClass = L"#32770");
     // Once more, and once more, when the step cannot be taken; message boxes are answered in between.
     void Try(const std::function<void()>& step);
     // Walks on to the page of that title.
@@ -36,6 +38,7 @@ private:
     bool ReadBoxAway();
 
     Actor& actor_;
+    DWORD patience_;
 };
 
 class Actor {

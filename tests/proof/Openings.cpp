@@ -49,7 +49,7 @@ void Openings::Open(size_t dialog, Actor& actor, const Script& script) {
             default: return Properties(L"Crash");
         }
     };
-    actor.During(show, [&](Player& player) { script(player, player.WaitForWindow(kTitles[dialog])); });
+    actor.During(show, [&](Player& player) { script(player, player.First(kTitles[dialog])); });
 }
 
 HRESULT Openings::Wizard(const wchar_t* edited) {

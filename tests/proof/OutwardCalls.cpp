@@ -212,6 +212,7 @@ long OutwardCalls::Stop() {
 }
 
 bool OutwardCalls::HasFailed() { return state.failed != nullptr; }
+bool OutwardCalls::IsLasting() { return state.fault.lasting; }
 std::string OutwardCalls::Failed() { return state.failed ? state.failed : "nothing"; }
 std::vector<std::uint64_t> OutwardCalls::Callers() { return state.callers; }
 void OutwardCalls::RecordCallers(bool record) { state.recording = record; }

@@ -36,6 +36,7 @@ public:
     // Ends the order; gives the calls of its kind that were made.
     static long Stop();
     static bool HasFailed();
+    static bool IsLasting();
     // The call that failed first, "malloc".
     static std::string Failed();
 

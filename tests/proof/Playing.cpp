@@ -82,21 +82,23 @@ void Rehearsal::Rehearse() {
 }
 
 Playing Rehearsal::Play(const Fault& fault) {
-    Playing playing = PlayOnce(fault);
+    Playing playing = PlayOnce(fault, kImpatient);
     // What the platform keeps from the first time on, such as the looks of a message box, is kept once.
-    if (!playing.left.empty()) playing = PlayOnce(fault);
+    if (!playing.left.empty()) playing = PlayOnce(fault, kImpatient);
+    // Where nothing failed, the machine was only slow.
+    if (!playing.hasFailed && !playing.isDone) playing = PlayOnce(fault, kPatient);
     if (!playing.left.empty()) playing.problems.push_back("left behind: " + playing.left);
     return playing;
 }
 
-Playing Rehearsal::PlayOnce(const Fault& fault) {
+Playing Rehearsal::PlayOnce(const Fault& fault, unsigned patience) {
     Playing playing;
     RunPendingMessages();
     const Counts before = Counts::Take();
     {
         const auto stage = journey_.make();
         Order order(fault);
-        Actor actor(kImpatient, [&] { order.Lift(); });
+        Actor actor(patience, [&] { order.Lift(); });
         stage->Play(actor);
         order.End();
         playing.hasFailed = order.HasFailed();

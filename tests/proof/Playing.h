@@ -31,7 +31,7 @@ public:
     std::vector<std::uint64_t> Survey(Outside outside);
 
 private:
-    Playing PlayOnce(const Fault& fault);
+    Playing PlayOnce(const Fault& fault, unsigned patience);
     // A playing without a fault, which tells the states at which a user may stop.
     void Rehearse();
     std::string WindowsLeft() const;

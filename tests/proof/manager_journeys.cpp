@@ -20,8 +20,7 @@ protected:
         if (FAILED(com::Create(L"Vantrel.RecoveryDlg", dialog)) || !HandRack(dialog.Get())) return;
         const HRESULT hr = actor.During([&] { return dialog->DoModal(); },
                                         [&](Player& player) {
-                                            HWND manager = nullptr;
-                                            player.Try([&] { manager = player.WaitForWindow(L"Recovery Scenario Manager"); });
+                                            const HWND manager = player.First(L"Recovery Scenario Manager");
                                             Manage(player, manager);
                                             const bool asked = player.CloseWithAnswer(manager, IDNO);
                                             Promise(asked || !hasUnsaved_, "closed without a word about unsaved changes");

@@ -29,8 +29,7 @@ class AddDialog final : public Scene {
         if (FAILED(com::Create(L"Vantrel.RecoveryAddDlg", dialog_)) || !HandRack(dialog_.Get())) return;
         const HRESULT hr = actor.During([&] { return dialog_->DoModal(); },
                                         [&](Player& player) {
-                                            HWND window = nullptr;
-                                            player.Try([&] { window = player.WaitForWindow(L"Add Recovery Scenario"); });
+                                            const HWND window = player.First(L"Add Recovery Scenario");
                                             ChooseAll(player, window, file_);
                                             player.Leave(window, IDOK);
                                         });
@@ -66,8 +65,8 @@ class Tab final : public Scene {
         SetDone(actor.GaveUp().empty());
     }
     void Use(Player& player) {
-        HWND frame = nullptr, dialog = nullptr;
-        player.Try([&] { frame = player.WaitForWindow(L"Test Settings"); });
+        const HWND frame = player.First(L"Test Settings");
+        HWND dialog = nullptr;
         player.Try([&] {
             player.Press(frame, IDC_RECOVERY_ADD);
             dialog = player.WaitForWindow(L"Add Recovery Scenario");
@@ -104,8 +103,7 @@ private:
         const com::Bstr file(file_), name(name_);
         const HRESULT hr = actor.During([&] { return sheet->DoModal(scenario_.Get(), file.Get(), name.Get()); },
                                         [&](Player& player) {
-                                            HWND window = nullptr;
-                                            player.Try([&] { window = player.WaitForWindow(L"Recovery Scenario Properties"); });
+                                            const HWND window = player.First(L"Recovery Scenario Properties");
                                             for (WPARAM tab : {1, 2, 3, 0})
                                                 player.Do([=] { SendMessageW(window, PSM_SETCURSEL, tab, 0); });
                                             player.Leave(window, IDOK);

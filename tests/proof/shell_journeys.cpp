@@ -2,6 +2,7 @@
 #include <windows.h>
 
 #include "app/Host.h"
+#include "proof/OutwardCalls.h"
 #include "proof/Scene.h"
 
 namespace recoveryui::proof {
@@ -29,8 +30,10 @@ private:
         SetDone(Call("DllUnregisterServer") == S_OK);
         Mark();
     }
-    // What failed half way can be tried again, and then nothing is left.
+    // What failed half way can be tried again, and then nothing is left. Only a registration that had no
+    // memory to be taken back with stays counted.
     std::wstring State() override {
+        if (!isRegistered_ && OutwardCalls::IsLasting()) return {};
         if (!IsDone() && !Found().empty()) {
             if (!isRegistered_ && FAILED(Call("DllRegisterServer"))) return L"cannot be registered again";
             if (!IsMarking() && FAILED(Call("DllUnregisterServer"))) return L"cannot be unregistered again";
@@ -71,8 +74,7 @@ class HostStart final : public Scene {
         SetDone(ended == 0 && actor.GaveUp().empty());
     }
     void Use(Player& player) {
-        HWND host = nullptr;
-        player.Try([&] { host = player.WaitForWindow(nullptr, tovarin::kMainWindowClass); });
+        const HWND host = player.First(nullptr, tovarin::kMainWindowClass);
         HWND manager = nullptr;
         player.Try([&] {
             const UINT command = CommandOf(GetMenu(host), L"Recovery Scenario &Manager...");

@@ -35,8 +35,7 @@ protected:
             return;
         const HRESULT hr = actor.During([&] { return com::Query<IRecoveryDlg>(wizard_.Get())->DoModal(); },
                                         [&](Player& player) {
-                                            HWND wizard = nullptr;
-                                            player.Try([&] { wizard = player.WaitForWindow(kTitle); });
+                                            const HWND wizard = player.First(kTitle);
                                             Walk(player, wizard);
                                         });
         SetDone(hr == S_OK);
