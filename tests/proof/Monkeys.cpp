@@ -3,8 +3,11 @@
 
 #include <commctrl.h>
 
+#include <algorithm>
 #include <cstdio>
+#include <functional>
 #include <random>
+#include <vector>
 
 #include "harness/ProcessWindows.h"
 #include "proof/Children.h"
@@ -16,7 +19,7 @@ namespace recoveryui::proof {
 namespace {
 
 constexpr DWORD kPatience = 15'000;
-constexpr int kInputsOfOneOpening = 400;
+constexpr int kInputsOfOneOpening = 400, kInputsAtOnce = 8;
 constexpr wchar_t kHand[] = L"TovarinPointingHand";
 
 class Monkey {
@@ -25,9 +28,9 @@ public:
 
     // Until the window is gone or the monkey has had enough of it; gives its inputs.
     long Use(Player& player, HWND window) {
-        long inputs = 0;
-        for (; inputs < kInputsOfOneOpening && IsWindow(window); ++inputs) Act(player);
-        return inputs;
+        const long before = inputs_;
+        while (inputs_ - before < kInputsOfOneOpening && IsWindow(window)) Act(player);
+        return inputs_ - before;
     }
 
 private:
@@ -44,16 +47,17 @@ private:
         return active;
     }
     HWND ControlOf(HWND window) {
-        const auto all = test::Descendants(window);
-        for (int tries = 0; tries < 20 && !all.empty(); ++tries) {
-            const HWND control = all[Below(static_cast<unsigned>(all.size()))];
+        for (int tries = 0; tries < 20 && !controls_.empty(); ++tries) {
+            const HWND control = controls_[Below(static_cast<unsigned>(controls_.size()))];
             if (IsWindowVisible(control) && IsWindowEnabled(control)) return control;
         }
         return window;
     }
 
+    // A handful of inputs to what is on the screen now.
     void Act(Player& player) {
         const HWND window = Active();
+        ++inputs_;
         if (!window) return player.Do([] {});
         const std::wstring kind = test::ClassOf(window), title = test::TextOf(window);
         if (kind == kHand || FindWindowW(kHand, nullptr)) return player.RealKeys({VK_ESCAPE});
@@ -61,8 +65,16 @@ private:
         const bool foreign = title == L"Open Recovery File" || title == L"Save Recovery File" ||
                              title.rfind(L"Open", 0) == 0 || kind == L"#32768";
         if (foreign && Below(4) == 0) return Leave(player, window);
-        const HWND control = ControlOf(window);
-        raw_ && !foreign ? Send(player, window, control) : Input(player, control);
+        controls_ = test::Descendants(window);
+        std::vector<std::function<void()>> acts;
+        for (int i = 0; i < kInputsAtOnce; ++i) {
+            const HWND control = ControlOf(window);
+            acts.push_back(raw_ && !foreign ? Message(window, control) : Input(control));
+        }
+        inputs_ += kInputsAtOnce - 1;
+        player.Do([=] {
+            for (const auto& act : acts) act();
+        });
     }
     void Leave(Player& player, HWND window) {
         player.Do([=] {
@@ -74,7 +86,7 @@ private:
         });
     }
 
-    void Input(Player& player, HWND control) {
+    std::function<void()> Input(HWND control) {
         constexpr WORD kKeys[] = {VK_TAB,  VK_RETURN, VK_ESCAPE, VK_SPACE, VK_UP,     VK_DOWN, VK_LEFT, VK_RIGHT,
                                   VK_HOME, VK_END,    VK_DELETE, VK_F1,    VK_INSERT, VK_F4,   VK_BACK, VK_PRIOR};
         constexpr wchar_t kLetters[] = {L'a', L'Z', L'0', L' ', L'\\', L';', L'*', L'\x4e2d', L'\xfc', L'"', L'.', L'1'};
@@ -84,7 +96,7 @@ private:
         const unsigned choice = Below(10);
         const WORD key = OneOf(kKeys);
         const wchar_t letter = OneOf(kLetters);
-        player.Do([=] {
+        return [=] {
             if (choice < 4) {
                 PostMessageW(control, WM_LBUTTONDOWN, MK_LBUTTON, at);
                 PostMessageW(control, WM_LBUTTONUP, 0, at);
@@ -98,11 +110,11 @@ private:
             } else {
                 PostMessageW(GetFocus() ? GetFocus() : control, WM_CHAR, letter, 1);
             }
-        });
+        };
     }
 
     // Messages whose parameters hold no addresses, with any parameters; notifications come from real controls.
-    void Send(Player& player, HWND window, HWND control) {
+    std::function<void()> Message(HWND window, HWND control) {
         constexpr UINT kMessages[] = {
             WM_COMMAND,      WM_COMMAND,      WM_COMMAND,       WM_COMMAND,     WM_SIZE,        WM_MOVE,
             WM_ENABLE,       WM_SETFOCUS,     WM_KILLFOCUS,     WM_TIMER,       WM_HSCROLL,     WM_VSCROLL,
@@ -122,12 +134,14 @@ private:
                                   ? 0
                                   : static_cast<LPARAM>(Below(0x10000) | Below(0x400) << 16);
         if (message == WM_ACTIVATE || message == WM_SHOWWINDOW || message == WM_INITMENU)
-            return player.Do([=] { PostMessageW(target, message, wParam & 1, 0); });
-        player.Do([=] { PostMessageW(target, message, wParam, lParam); });
+            return [=] { PostMessageW(target, message, wParam & 1, 0); };
+        return [=] { PostMessageW(target, message, wParam, lParam); };
     }
 
     std::mt19937 random_;
     bool raw_;
+    long inputs_ = 0;
+    std::vector<HWND> controls_;
 };
 
 }  // namespace

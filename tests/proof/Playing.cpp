@@ -84,7 +84,7 @@ void Rehearsal::Rehearse() {
 Playing Rehearsal::Play(const Fault& fault) {
     Playing playing = PlayOnce(fault, kImpatient);
     // What the platform keeps from the first time on, such as the looks of a message box, is kept once.
-    if (!playing.left.empty()) playing = PlayOnce(fault, kImpatient);
+    for (int again = 0; again < 2 && !playing.left.empty(); ++again) playing = PlayOnce(fault, kImpatient);
     // Where nothing failed, the machine was only slow.
     if (!playing.hasFailed && !playing.isDone) playing = PlayOnce(fault, kPatient);
     if (!playing.left.empty()) playing.problems.push_back("left behind: " + playing.left);

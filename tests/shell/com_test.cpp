@@ -176,18 +176,5 @@ TEST(SafeArray, GrowsShrinksAndTurnsRoundAndKnowsItsBounds) {
     EXPECT_NE(array.Reverse(), S_OK);
 }
 
-TEST(Module, LoadsAndUnloadsForEver) {
-    CoInitializeEx(nullptr, COINIT_APARTMENTTHREADED);
-    for (int round = 0; round < 1000; ++round) {
-        {
-            com::Ptr<IRecoveryWizard> wizard;
-            ASSERT_EQ(com::Create(L"Vantrel.RecoveryWizard", wizard), S_OK);
-        }
-        CoFreeUnusedLibrariesEx(0, 0);
-        ASSERT_EQ(GetModuleHandleW(L"RecoveryUI.dll"), nullptr) << "round " << round;
-    }
-    CoUninitialize();
-}
-
 }  // namespace
 }  // namespace recoveryui::test
