@@ -10,6 +10,16 @@
 namespace recoveryui::ui {
 namespace {
 
+com::Ptr<IWICBitmapSource> Convert(IWICImagingFactory& factory, IWICBitmapSource* source,
+                                   const GUID& format) {
+    com::Ptr<IWICFormatConverter> converter;
+    if (FAILED(factory.CreateFormatConverter(converter.GetAddressOf())) ||
+        FAILED(converter->Initialize(source, format, WICBitmapDitherTypeNone, nullptr, 0,
+                                     WICBitmapPaletteTypeCustom)))
+        return {};
+    return com::Ptr<IWICBitmapSource>(converter.Get());
+}
+
 com::Ptr<IWICBitmapSource> Decode(IWICImagingFactory& factory, int id) {
     com::Ptr<IWICBitmapSource> nothing;
     const HINSTANCE module = com::Module::Instance();
@@ -20,18 +30,16 @@ com::Ptr<IWICBitmapSource> Decode(IWICImagingFactory& factory, int id) {
     com::Ptr<IWICStream> stream;
     com::Ptr<IWICBitmapDecoder> decoder;
     com::Ptr<IWICBitmapFrameDecode> frame;
-    com::Ptr<IWICFormatConverter> converter;
     if (FAILED(factory.CreateStream(stream.GetAddressOf())) ||
         FAILED(stream->InitializeFromMemory(static_cast<BYTE*>(LockResource(loaded)),
                                             SizeofResource(module, found))) ||
         FAILED(factory.CreateDecoderFromStream(stream.Get(), nullptr, WICDecodeMetadataCacheOnLoad,
                                                decoder.GetAddressOf())) ||
-        FAILED(decoder->GetFrame(0, frame.GetAddressOf())) ||
-        FAILED(factory.CreateFormatConverter(converter.GetAddressOf())) ||
-        FAILED(converter->Initialize(frame.Get(), GUID_WICPixelFormat24bppBGR, WICBitmapDitherTypeNone,
-                                     nullptr, 0, WICBitmapPaletteTypeCustom)))
+        FAILED(decoder->GetFrame(0, frame.GetAddressOf())))
         return nothing;
-    return com::Ptr<IWICBitmapSource>(converter.Get());
+    // In two steps: not every implementation gets from a palette to 24 bits in one.
+    const auto colours = Convert(factory, frame.Get(), GUID_WICPixelFormat32bppBGR);
+    return colours ? Convert(factory, colours.Get(), GUID_WICPixelFormat24bppBGR) : nothing;
 }
 
 // Without an alpha channel: of a bitmap that has one, a static control makes a copy that nobody destroys.

@@ -62,6 +62,7 @@ TEST_F(WizardTest, APageFollowsTheResolutionWithTitleIconsAndPicture) {
             return SizeOf(reinterpret_cast<HBITMAP>(screen.Ask(frame, STM_GETIMAGE, IMAGE_BITMAP)));
         };
         const SIZE small = picture();
+        ASSERT_GT(small.cx, 0) << "the page shows no picture";
         const int height = FontHeight(screen, title), icon = IconSize(screen, hand);
         screen.Do([&] {
             SetWindowPos(frame, nullptr, 0, 0, Larger(small.cx), Larger(small.cy), SWP_NOMOVE | SWP_NOZORDER);
