@@ -23,6 +23,7 @@ public:
     std::wstring calls;
     HRESULT applyResult = S_OK;
     bool frameMayApply = true;
+    RECT movedTo{};
 
     HRESULT STDMETHODCALLTYPE GetRack(IObjectRack**) noexcept override { return E_NOTIMPL; }
     HRESULT STDMETHODCALLTYPE SetRack(IObjectRack* rack) noexcept override {
@@ -59,7 +60,10 @@ public:
         ShowWindow(window_, static_cast<int>(command));
         return S_OK;
     }
-    HRESULT STDMETHODCALLTYPE Move(LPCRECT) noexcept override { return S_OK; }
+    HRESULT STDMETHODCALLTYPE Move(LPCRECT place) noexcept override {
+        movedTo = *place;
+        return S_OK;
+    }
     HRESULT STDMETHODCALLTYPE IsPageDirty() noexcept override { return dirty_ ? S_OK : S_FALSE; }
     HRESULT STDMETHODCALLTYPE Apply() noexcept override {
         if (SUCCEEDED(applyResult)) dirty_ = false;
@@ -200,6 +204,24 @@ TEST_F(SettingsFrameTest, ReadOnlySettingsCanOnlyBeLookedAt) {
     Show({kFirst}, look, true);
     EXPECT_FALSE(first->frameMayApply);
     EXPECT_EQ(first->calls, L"rack site activate deactivate no site ");
+}
+
+// Windows scales the tab control by itself when the frame comes to another monitor; the test does it instead.
+TEST_F(SettingsFrameTest, ThePagesFollowTheTabControlToAnotherMonitor) {
+    Show({kFirst, kSecond}, [&](UserScreen& screen, HWND frame) {
+        const HWND tabs = screen.Control(frame, IDC_SETTINGS_TABS);
+        RECT inside{30, 40, 930, 740};
+        screen.Do([&] {
+            SendMessageW(frame, WM_DPICHANGED, MAKEWPARAM(144, 144), reinterpret_cast<LPARAM>(&inside));
+            SetWindowPos(tabs, nullptr, inside.left, inside.top, inside.right - inside.left,
+                         inside.bottom - inside.top, SWP_NOZORDER);
+            TabCtrl_AdjustRect(tabs, FALSE, &inside);
+        });
+        screen.Do([] {});
+        EXPECT_TRUE(EqualRect(&first->movedTo, &inside));
+        EXPECT_TRUE(EqualRect(&second->movedTo, &inside)) << "pages that are not shown follow as well";
+        screen.Press(frame, IDCANCEL);
+    });
 }
 
 TEST_F(SettingsFrameTest, WithoutTestOptionsTheFrameOpensAndWritesNothing) {
