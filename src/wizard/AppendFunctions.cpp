@@ -22,16 +22,24 @@ std::string ToCodePage(const std::wstring& text) {
     return bytes;
 }
 
-// Never creates the file. False when it cannot be opened.
-bool Append(const std::wstring& path, const std::string& bytes) {
-    const HANDLE file = CreateFileW(model::ExtendedLengthPath(path).c_str(), FILE_APPEND_DATA,
+enum class Outcome { Appended, NotOpened, NotWritten };
+
+// Never creates the file, and leaves it as it was where not everything can be written.
+Outcome Append(const std::wstring& path, const std::string& bytes) {
+    const HANDLE file = CreateFileW(model::ExtendedLengthPath(path).c_str(), GENERIC_WRITE,
                                     FILE_SHARE_READ | FILE_SHARE_WRITE, nullptr, OPEN_EXISTING,
                                     FILE_ATTRIBUTE_NORMAL, nullptr);
-    if (file == INVALID_HANDLE_VALUE) return false;
+    if (file == INVALID_HANDLE_VALUE) return Outcome::NotOpened;
+    LARGE_INTEGER end{};
+    const auto size = static_cast<DWORD>(bytes.size());
     DWORD written = 0;
-    WriteFile(file, bytes.data(), static_cast<DWORD>(bytes.size()), &written, nullptr);
+    bool appended = SetFilePointerEx(file, {}, &end, FILE_END) != FALSE;
+    if (appended && (!WriteFile(file, bytes.data(), size, &written, nullptr) || written != size)) {
+        appended = false;
+        if (SetFilePointerEx(file, end, nullptr, FILE_BEGIN)) SetEndOfFile(file);
+    }
     CloseHandle(file);
-    return true;
+    return appended ? Outcome::Appended : Outcome::NotWritten;
 }
 
 void Announce(const std::wstring& path, IFileLocator* locator, IObjectRack* rack) {
@@ -46,17 +54,22 @@ void Announce(const std::wstring& path, IFileLocator* locator, IObjectRack* rack
 
 }  // namespace
 
-void AppendNewFunctions(const NewFunctionList& functions, IObjectRack* rack) {
+std::vector<std::wstring> AppendNewFunctions(const NewFunctionList& functions, IObjectRack* rack) {
+    std::vector<std::wstring> notWritten;
     com::Ptr<IFileLocator> locator;
-    if (FAILED(shell::Fetch(rack, L"RACK_FILE_LOCATOR", locator))) return;
+    if (FAILED(shell::Fetch(rack, L"RACK_FILE_LOCATOR", locator))) return notWritten;
     for (const NewFunction& function : functions.All()) {
         com::Bstr located;
         if (FAILED(locator->Locate(com::Bstr(function.typedPath).Get(), kLocateLibrary, 0, located.Put())) ||
             located.View().empty())
-            return;
-        if (Append(located.Text(), ToCodePage(support::AppendedText(function.text))))
-            Announce(located.Text(), locator.Get(), rack);
+            break;
+        switch (Append(located.Text(), ToCodePage(support::AppendedText(function.text)))) {
+            case Outcome::Appended: Announce(located.Text(), locator.Get(), rack); break;
+            case Outcome::NotWritten: notWritten.push_back(located.Text()); break;
+            case Outcome::NotOpened: break;
+        }
     }
+    return notWritten;
 }
 
 }  // namespace recoveryui::wizard

@@ -4,6 +4,7 @@
 #include "model/HostMode.h"
 #include "resources/ids.h"
 #include "shell/Rack.h"
+#include "ui/Messages.h"
 #include "ui/Strings.h"
 #include "ui/Window.h"
 #include "wizard/AppendFunctions.h"
@@ -45,11 +46,16 @@ std::wstring SummaryPP::Summary() const {
 }
 
 bool SummaryPP::OnFinish() {
-    const ui::WaitCursor wait;
-    State().scenario = MakeScenario(State());
-    State().addToCurrent = ui::IsChecked(Item(IDC_SUMMARY_ADD_CURRENT));
-    State().addToDefault = ui::IsChecked(Item(IDC_SUMMARY_ADD_DEFAULT));
-    AppendNewFunctions(State().newFunctions, State().rack.Get());
+    std::vector<std::wstring> notWritten;
+    {
+        const ui::WaitCursor wait;
+        State().scenario = MakeScenario(State());
+        State().addToCurrent = ui::IsChecked(Item(IDC_SUMMARY_ADD_CURRENT));
+        State().addToDefault = ui::IsChecked(Item(IDC_SUMMARY_ADD_DEFAULT));
+        notWritten = AppendNewFunctions(State().newFunctions, State().rack.Get());
+    }
+    for (const std::wstring& library : notWritten)
+        ui::ShowMessage(Window(), ui::FormatText(IDS_LIBRARY_NOT_WRITTEN, {library}));
     return true;
 }
 

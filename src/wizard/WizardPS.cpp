@@ -60,9 +60,15 @@ HBITMAP WizardPS::Picture(int id, SIZE size) {
 }
 
 bool WizardPS::Run(HWND owner) {
-    const bool finished = ShowModal(owner);
-    if (!finished) state_.originalIdentification.Restore();
-    return finished;
+    // However it ends, but not with Finish: the edited scenario is as it was.
+    try {
+        if (ShowModal(owner)) return true;
+    } catch (...) {
+        state_.originalIdentification.Restore();
+        throw;
+    }
+    state_.originalIdentification.Restore();
+    return false;
 }
 
 HRESULT WizardPS::Load(IRecoveryScenario* scenario, std::wstring name) {

@@ -29,7 +29,16 @@ public:
     // Until the window is gone or the monkey has had enough of it; gives its inputs.
     long Use(Player& player, HWND window) {
         const long before = inputs_;
-        while (inputs_ - before < kInputsOfOneOpening && IsWindow(window)) Act(player);
+        while (inputs_ - before < kInputsOfOneOpening && IsWindow(window)) {
+            test::RestartWatchdog();
+            Act(player);
+        }
+        // Nothing but Escape ends the pointing hand.
+        for (int tries = 0; tries < 100 && FindWindowW(kHand, nullptr); ++tries) {
+            test::RestartWatchdog();
+            player.RealKeys({VK_ESCAPE});
+        }
+        test::RestartWatchdog();
         return inputs_ - before;
     }
 
@@ -49,6 +58,9 @@ private:
     HWND ControlOf(HWND window) {
         for (int tries = 0; tries < 20 && !controls_.empty(); ++tries) {
             const HWND control = controls_[Below(static_cast<unsigned>(controls_.size()))];
+            const int id = GetDlgCtrlID(control);
+            // What ends a window is spared mostly, so that something happens before.
+            if ((id == IDCANCEL || id == IDOK) && Below(8)) continue;
             if (IsWindowVisible(control) && IsWindowEnabled(control)) return control;
         }
         return window;
@@ -66,15 +78,17 @@ private:
                              title.rfind(L"Open", 0) == 0 || kind == L"#32768";
         if (foreign && Below(4) == 0) return Leave(player, window);
         controls_ = test::Descendants(window);
-        std::vector<std::function<void()>> acts;
-        for (int i = 0; i < kInputsAtOnce; ++i) {
-            const HWND control = ControlOf(window);
-            acts.push_back(raw_ && !foreign ? Message(window, control) : Input(control));
-        }
         inputs_ += kInputsAtOnce - 1;
-        player.Do([=] {
-            for (const auto& act : acts) act();
-        });
+        for (int i = 0; i < kInputsAtOnce && IsWindow(window); ++i) {
+            const HWND control = ControlOf(window);
+            player.Do(raw_ && !foreign ? Message(window, control) : Input(control));
+        }
+    }
+    // As the system does it: keys go to the focus, and to no window that has been hidden with its page meanwhile.
+    // (The platform looks for mnemonics in a circle from the window with the key, endlessly where it is hidden.)
+    static void PostKey(UINT message, WPARAM key, LPARAM more) {
+        const HWND focus = GetFocus();
+        if (focus && IsWindowVisible(focus)) PostMessageW(focus, message, key, more);
     }
     void Leave(Player& player, HWND window) {
         player.Do([=] {
@@ -104,16 +118,15 @@ private:
                 PostMessageW(control, WM_LBUTTONDBLCLK, MK_LBUTTON, at);
                 PostMessageW(control, WM_LBUTTONUP, 0, at);
             } else if (choice < 7) {
-                const HWND focus = GetFocus() ? GetFocus() : control;
-                PostMessageW(focus, WM_KEYDOWN, key, 1);
-                PostMessageW(focus, WM_KEYUP, key, static_cast<LPARAM>(0xC0000001));
+                PostKey(WM_KEYDOWN, key, 1);
+                PostKey(WM_KEYUP, key, static_cast<LPARAM>(0xC0000001));
             } else {
-                PostMessageW(GetFocus() ? GetFocus() : control, WM_CHAR, letter, 1);
+                PostKey(WM_CHAR, letter, 1);
             }
         };
     }
 
-    // Messages whose parameters hold no addresses, with any parameters; notifications come from real controls.
+    // Messages whose parameters hold neither addresses nor drawing surfaces, with any parameters; notifications come from real controls.
     std::function<void()> Message(HWND window, HWND control) {
         constexpr UINT kMessages[] = {
             WM_COMMAND,      WM_COMMAND,      WM_COMMAND,       WM_COMMAND,     WM_SIZE,        WM_MOVE,
@@ -135,6 +148,8 @@ private:
                                   : static_cast<LPARAM>(Below(0x10000) | Below(0x400) << 16);
         if (message == WM_ACTIVATE || message == WM_SHOWWINDOW || message == WM_INITMENU)
             return [=] { PostMessageW(target, message, wParam & 1, 0); };
+        if (message == WM_PAINT || message == WM_NCPAINT) return [=] { PostMessageW(target, message, 0, 0); };
+        if (message >= WM_KEYFIRST && message <= WM_KEYLAST) return [=] { PostKey(message, wParam, lParam); };
         return [=] { PostMessageW(target, message, wParam, lParam); };
     }
 

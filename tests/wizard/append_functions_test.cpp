@@ -2,6 +2,7 @@
 #include "wizard/AppendFunctions.h"
 
 #include "host/temp_folder.h"
+#include "proof/ImportTable.h"
 #include "wizard/WizardTest.h"
 
 namespace recoveryui::test {
@@ -18,12 +19,12 @@ protected:
         return folder_ / name;
     }
     std::string Content(const std::wstring& name) const { return folder_.Read(folder_ / name); }
-    void Append(std::initializer_list<std::wstring> paths) {
+    std::vector<std::wstring> Append(std::initializer_list<std::wstring> paths) {
         wizard::NewFunctionList functions;
         for (const std::wstring& path : paths)
             functions.Add({path, path, L"F", L" Sub F '\u00e9\r\nEnd Sub\r\n"});
         ForgetCalls();
-        wizard::AppendNewFunctions(functions, rack_.Get());
+        return wizard::AppendNewFunctions(functions, rack_.Get());
     }
     // How often one of the host's objects was called so.
     size_t Times(const std::wstring& call) {
@@ -58,6 +59,27 @@ TEST_F(AppendFunctionsTest, WhatCannotBeOpenedIsSkippedAndWhatCannotBeLocatedEnd
     rack_.Get()->RemoveObject(com::Bstr(L"RACK_FILE_LOCATOR").Get());
     Append({held});
     EXPECT_EQ(Content(L"held.vbs"), "'") << "no locator";
+}
+
+// A disk that takes one byte more.
+BOOL WINAPI WriteOneByte(HANDLE file, LPCVOID bytes, DWORD, LPDWORD written, LPOVERLAPPED) {
+    const auto write = reinterpret_cast<decltype(&WriteFile)>(
+        reinterpret_cast<void*>(GetProcAddress(GetModuleHandleW(L"kernel32"), "WriteFile")));
+    return write(file, bytes, 1, written, nullptr);
+}
+
+TEST_F(AppendFunctionsTest, WhatCannotBeWrittenIsAsItWasAndIsTold) {
+    const auto library = Make(L"full.vbs");
+    void* const before =
+        proof::PutImport(GetModuleHandleW(nullptr), "WriteFile", reinterpret_cast<void*>(&WriteOneByte));
+    ASSERT_NE(before, nullptr);
+    const auto notWritten = Append({library});
+    proof::PutImport(GetModuleHandleW(nullptr), "WriteFile", before);
+    EXPECT_EQ(notWritten, std::vector<std::wstring>{library});
+    EXPECT_EQ(Content(L"full.vbs"), "'");
+    EXPECT_EQ(Times(L"LibraryChanged"), 0u);
+    EXPECT_TRUE(Append({library}).empty());
+    EXPECT_EQ(Content(L"full.vbs"), kWritten);
 }
 
 TEST_F(AppendFunctionsTest, FilesOfTheTestManagementRepositoryAreHandedBack) {
