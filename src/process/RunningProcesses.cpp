@@ -5,6 +5,7 @@
 #include <tlhelp32.h>
 #include <winternl.h>
 
+#include <cstring>
 #include <memory>
 
 #include "process/ProcessNames.h"
@@ -63,7 +64,8 @@ Names ByNativeQuery() {
     const auto buffer = std::make_unique<BYTE[]>(kBufferSize);
     if (query(SystemProcessInformation, buffer.get(), kToldSize, nullptr) != 0) return names;
     for (const BYTE* place = buffer.get();;) {
-        const auto& record = *reinterpret_cast<const ProcessRecord*>(place);
+        ProcessRecord record;  // a copy: not every system aligns them
+        std::memcpy(&record, place, sizeof record);
         const UNICODE_STRING& image = record.imageName;
         if (image.Length != 0 && image.MaximumLength != 0)
             names.push_back(FileNameOf({image.Buffer, image.Length / sizeof(wchar_t)}));

@@ -29,7 +29,7 @@ std::optional<SettingValue> Decode(DWORD type, const std::vector<BYTE>& bytes) {
     if (type != REG_SZ && type != REG_EXPAND_SZ) return std::nullopt;
     // Written by anyone: the terminator may be missing, and the size odd.
     std::wstring text(bytes.size() / sizeof(wchar_t), L'\0');
-    memcpy(text.data(), bytes.data(), text.size() * sizeof(wchar_t));
+    if (!text.empty()) memcpy(text.data(), bytes.data(), text.size() * sizeof(wchar_t));
     if (text.ends_with(L'\0')) text.pop_back();
     return text;
 }
