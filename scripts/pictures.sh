@@ -32,6 +32,7 @@ more_pictures='01-host-menu host-menu
 23-read-only-file manager-read-only
 25-many-scenarios manager-many
 33-settings-sor settings-sor
+35-about about
 24-properties properties-general
 55-properties-operations properties-operations
 56-properties-post-recovery properties-post-recovery

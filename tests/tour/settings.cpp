@@ -98,6 +98,12 @@ TEST_F(Settings, ScenariosAreAssociatedMadeTheDefaultAndFoundInTheNextTest) {
         EXPECT_TRUE(screen.IsRowChecked(frame, IDC_RECOVERY_LIST, ordered[1]));
         screen.Press(frame, IDCANCEL);
         screen.WaitUntilClosed(frame);
+
+        ChooseFromMenuBar(screen, host, L'h', L"&About Tovarin...");
+        const HWND about = screen.WaitForWindow(L"About Tovarin");
+        screen.Picture(about, L"35-about");
+        screen.Press(about, IDOK);
+        screen.WaitUntilClosed(about);
     });
 }
 
