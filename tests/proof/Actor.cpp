@@ -153,6 +153,11 @@ void Actor::CloseAll(const test::UiThread& ui) {
             lift_();
             lifted = true;
         }
+        // Nothing but Escape ends the pointing hand, which comes a while after it was asked for.
+        if (FindWindowW(L"TovarinPointingHand", nullptr)) {
+            keybd_event(VK_ESCAPE, 1, 0, 0);
+            keybd_event(VK_ESCAPE, 1, KEYEVENTF_KEYUP, 0);
+        }
         test::CloseWindows();
         Sleep(3);
     }

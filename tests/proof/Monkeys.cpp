@@ -33,11 +33,6 @@ public:
             test::RestartWatchdog();
             Act(player);
         }
-        // Nothing but Escape ends the pointing hand.
-        for (int tries = 0; tries < 100 && FindWindowW(kHand, nullptr); ++tries) {
-            test::RestartWatchdog();
-            player.RealKeys({VK_ESCAPE});
-        }
         test::RestartWatchdog();
         return inputs_ - before;
     }
@@ -138,7 +133,11 @@ private:
             WM_APP,          WM_APP + 1,      WM_APP + 2,       WM_APP + 61,    WM_APP + 62,    WM_USER + 5000};
         const UINT message = OneOf(kMessages);
         const bool isCommand = message == WM_COMMAND;
-        const HWND target = isCommand ? GetParent(control) ? GetParent(control) : window : Below(2) ? window : control;
+        // The platform's own controls need not bear what only their parts tell them.
+        const bool forDialogs = isCommand || message >= WM_USER;
+        HWND dialog = GetParent(control);
+        while (dialog && test::ClassOf(dialog) != L"#32770") dialog = GetParent(dialog);
+        const HWND target = forDialogs ? dialog ? dialog : window : Below(2) ? window : control;
         const WORD id = Below(4) ? static_cast<WORD>(GetDlgCtrlID(control)) : static_cast<WORD>(Below(3000));
         const WPARAM wParam = isCommand ? MAKEWPARAM(id, Below(3) ? 0 : Below(1100)) : Below(300);
         const LPARAM lParam = isCommand                  ? reinterpret_cast<LPARAM>(Below(4) ? control : nullptr)
