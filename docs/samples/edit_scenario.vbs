@@ -5,7 +5,8 @@ Option Explicit
 
 Sub ListClasses()
     Dim name, object
-    For Each name In Array("RecoveryDlg", "RecoveryWizard", "RecoveryAddDlg", "RecoveryUIAddin", "ScenarioProperties")
+    For Each name In Array("RecoveryDlg", "RecoveryPP", "RecoveryWizard", "RecoveryAddDlg", "RecoveryUIAddin", _
+                           "RecoveryPPSpecifier", "ScenarioProperties")
         Set object = CreateObject("Vantrel." & name)
         WScript.Echo name & " is an " & TypeName(object)
     Next

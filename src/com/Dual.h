@@ -1,4 +1,4 @@
-// IDispatch for a dual interface, from the type library in the module's resources.
+// IDispatch for an interface, from its description in the type library in the module's resources.
 #pragma once
 
 #include <windows.h>
@@ -15,12 +15,13 @@ HRESULT FindTypeInfo(REFIID iid, ITypeInfo** info) noexcept;
 // Gives an object that comes as VT_UNKNOWN as a VT_DISPATCH when it can be driven so: scripts take no other.
 void PreferDispatch(VARIANT& value) noexcept;
 
-// Stands in an Object's interface list in place of the dual interface itself.
-template <class Interface>
-class Dual : public Interface {
+// Stands in an Object's interface list in place of the dual interface itself. An interface that is not dual
+// stands in the list on its own, beside the `Dual<Interface, IDispatch>` that calls it by name.
+template <class Interface, class Base = Interface>
+class Dual : public Base {
 public:
     static bool Answers(REFIID iid) noexcept {
-        return IsEqualIID(iid, __uuidof(Interface)) || IsEqualIID(iid, IID_IDispatch);
+        return IsEqualIID(iid, __uuidof(Base)) || IsEqualIID(iid, IID_IDispatch);
     }
 
     HRESULT STDMETHODCALLTYPE GetTypeInfoCount(UINT* count) noexcept override {
@@ -48,7 +49,7 @@ public:
         if (FAILED(hr)) return hr;
         // A script puts an object by reference; the interfaces know one way to put.
         if (flags & DISPATCH_PROPERTYPUTREF) flags = DISPATCH_PROPERTYPUT;
-        const HRESULT invoked = DispInvoke(static_cast<Interface*>(this), info_.Get(), id, flags, parameters,
+        const HRESULT invoked = DispInvoke(Query<Interface>(this).Get(), info_.Get(), id, flags, parameters,
                                            result, exception, argument);
         if (SUCCEEDED(invoked) && result) PreferDispatch(*result);
         return invoked;

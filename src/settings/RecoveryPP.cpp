@@ -2,6 +2,7 @@
 
 #include <ocidl.h>
 
+#include "com/Dual.h"
 #include "com/Object.h"
 #include "resources/ids.h"
 #include "settings/ChangedMark.h"
@@ -26,7 +27,8 @@ LPOLESTR CopyForCaller(const std::wstring& text) {
 }
 
 // The page of the settings frame. Keeps what the tab edits, also while the frame has taken its window away.
-class RecoveryPP final : public com::Object<RecoveryPP, IPropertyPage, shell::RackClient> {
+class RecoveryPP final : public com::Object<RecoveryPP, IPropertyPage, shell::RackClient,
+                                            com::Dual<IObjectRackClient, IDispatch>> {
 public:
     ~RecoveryPP() {
         if (tab_) tab_->Destroy();

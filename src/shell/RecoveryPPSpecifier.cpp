@@ -2,12 +2,14 @@
 
 #include <ocidl.h>
 
+#include "com/Dual.h"
 #include "shell/Rack.h"
 
 namespace recoveryui::shell {
 namespace {
 
-class RecoveryPPSpecifier final : public com::Object<RecoveryPPSpecifier, ISpecifyPropertyPages, RackClient> {
+class RecoveryPPSpecifier final : public com::Object<RecoveryPPSpecifier, ISpecifyPropertyPages, RackClient,
+                                                     com::Dual<IObjectRackClient, IDispatch>> {
 public:
     HRESULT STDMETHODCALLTYPE GetPages(CAUUID* pages) noexcept override {
         if (!pages) return E_POINTER;

@@ -5,8 +5,10 @@
 
 #include <docobj.h>
 
+#include <tuple>
 #include <vector>
 
+#include "com/Automation.h"
 #include "com/Create.h"
 #include "com/SafeArray.h"
 #include "com/Variant.h"
@@ -96,6 +98,80 @@ TEST_F(CitizenTest, FactoriesRefuseAggregationAndHoldTheModule) {
     }
     EXPECT_EQ(canUnload(), S_FALSE) << "one lock is left";
     Factory(CLSID_RecoveryDlg)->LockServer(FALSE);
+}
+
+// The name of a member, or of the whole; the help is required.
+std::wstring NameOf(ITypeInfo& info, MEMBERID member = MEMBERID_NIL) {
+    com::Bstr name, help;
+    EXPECT_EQ(info.GetDocumentation(member, name.Put(), help.Put(), nullptr, nullptr), S_OK);
+    EXPECT_FALSE(help.View().empty()) << Utf8(name.Text()) << " says nothing of itself";
+    return name.Text();
+}
+
+TEST_F(CitizenTest, TheLibraryDescribesEveryClassInterfaceAndMember) {
+    com::Ptr<ITypeLib> library;
+    ASSERT_EQ(LoadTypeLib(L"RecoveryUI.dll", library.GetAddressOf()), S_OK);
+    TLIBATTR* kind = nullptr;
+    ASSERT_EQ(library->GetLibAttr(&kind), S_OK);
+    EXPECT_EQ(std::make_tuple(kind->syskind, kind->wMajorVerNum, kind->wMinorVerNum, kind->lcid),
+              std::make_tuple(SYS_WIN32, 1, 0, 0u));
+    library->ReleaseTLibAttr(kind);
+    com::Bstr title;
+    library->GetDocumentation(-1, nullptr, title.Put(), nullptr, nullptr);
+    EXPECT_EQ(title.View(), L"RecoveryUI 1.0 Type Library");
+
+    size_t classes = 0, members = 0;
+    for (UINT index = 0; index < library->GetTypeInfoCount(); ++index) {
+        com::Ptr<ITypeInfo> info;
+        TYPEATTR* type = nullptr;
+        ASSERT_EQ(library->GetTypeInfo(index, info.GetAddressOf()), S_OK);
+        ASSERT_EQ(info->GetTypeAttr(&type), S_OK);
+        const std::wstring name = NameOf(*info.Get());
+        for (UINT function = 0; function < type->cFuncs; ++function, ++members) {
+            FUNCDESC* description = nullptr;
+            ASSERT_EQ(info->GetFuncDesc(function, &description), S_OK);
+            // A dual interface also lists the members of IUnknown and IDispatch.
+            const bool isOwn = type->typekind != TKIND_DISPATCH || description->memid < 0x60000000;
+            if (isOwn) NameOf(*info.Get(), description->memid);
+            info->ReleaseFuncDesc(description);
+        }
+        if (type->typekind == TKIND_COCLASS) {
+            const auto object = New<IUnknown>((L"Vantrel." + name).c_str());
+            for (UINT interfaceIndex = 0; interfaceIndex < type->cImplTypes; ++interfaceIndex) {
+                HREFTYPE reference = 0;
+                com::Ptr<ITypeInfo> answered;
+                TYPEATTR* answeredType = nullptr;
+                ASSERT_EQ(info->GetRefTypeOfImplType(interfaceIndex, &reference), S_OK);
+                ASSERT_EQ(info->GetRefTypeInfo(reference, answered.GetAddressOf()), S_OK);
+                ASSERT_EQ(answered->GetTypeAttr(&answeredType), S_OK);
+                com::Ptr<IUnknown> view;
+                EXPECT_EQ(
+                    object->QueryInterface(answeredType->guid, reinterpret_cast<void**>(view.GetAddressOf())),
+                    S_OK)
+                    << Utf8(name) << " is no " << Utf8(NameOf(*answered.Get()));
+                answered->ReleaseTypeAttr(answeredType);
+            }
+            ++classes;
+        }
+        info->ReleaseTypeAttr(type);
+    }
+    EXPECT_EQ(classes, shell::Classes().size());
+    EXPECT_GT(members, 0u);
+}
+
+TEST_F(CitizenTest, EveryClassCanBeCalledByName) {
+    const Rack rack;
+    for (const com::ClassEntry& entry : shell::Classes())
+        EXPECT_TRUE(New<IDispatch>(entry.progId)) << Utf8(entry.progId);
+    // The interface that is not dual, by the names of its description.
+    const auto page = New<IDispatch>(L"Vantrel.RecoveryPPSpecifier");
+    const com::Variant argument[] = {com::Variant(com::Query<IDispatch>(rack.Get()).Get())};
+    ASSERT_EQ(argument[0].Type(), VT_DISPATCH);
+    com::Variant result;
+    EXPECT_EQ(com::CallMethod(page.Get(), L"SetRack", argument, &result), S_OK);
+    com::Ptr<IObjectRack> held;
+    EXPECT_EQ(com::Query<IObjectRackClient>(page.Get())->GetRack(held.GetAddressOf()), S_OK);
+    EXPECT_EQ(held.Get(), rack.Get());
 }
 
 TEST_F(CitizenTest, DualInterfacesDescribeThemselves) {

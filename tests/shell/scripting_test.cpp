@@ -139,8 +139,9 @@ protected:
 
 TEST_F(ScriptingTest, TheSampleEditsAScenarioAndReadsTheResults) {
     const std::string begin =
-        "RecoveryDlg is an IRecoveryDlg\nRecoveryWizard is an IRecoveryWizard\n"
-        "RecoveryAddDlg is an IRecoveryAddDlg\nRecoveryUIAddin is an IUIAddIn\n"
+        "RecoveryDlg is an IRecoveryDlg\nRecoveryPP is an IObjectRackClient\n"
+        "RecoveryWizard is an IRecoveryWizard\nRecoveryAddDlg is an IRecoveryAddDlg\n"
+        "RecoveryUIAddin is an IUIAddIn\nRecoveryPPSpecifier is an IObjectRackClient\n"
         "ScenarioProperties is an IScenarioProperties\n"
         "scenario: Close the box\nscenario: Other\nbefore: trigger 1, 1 operations, option 2, \"before\"\n";
     EXPECT_EQ(RunSample([](HWND, HWND) { return PSBTN_CANCEL; }), begin + "cancelled\ndone\n");
