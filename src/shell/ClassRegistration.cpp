@@ -37,9 +37,10 @@ std::vector<RegistryEntry> EntriesOf(const com::ClassEntry& entry) {
 // Values are set in place: what stands beside them, the count above all, is not touched.
 HRESULT RunScript(const std::vector<RegistryEntry>& entries) {
     for (const RegistryEntry& entry : entries) {
-        const RegistryKey key = CreateKey(HKEY_CLASSES_ROOT, entry.key);
-        if (!key) return HRESULT_FROM_WIN32(ERROR_ACCESS_DENIED);
-        const LSTATUS status = entry.text ? WriteText(key.Get(), entry.valueName, *entry.text) : ERROR_SUCCESS;
+        LSTATUS status = ERROR_SUCCESS;
+        const RegistryKey key = CreateKey(HKEY_CLASSES_ROOT, entry.key, &status);
+        if (status == ERROR_SUCCESS && entry.text)
+            status = WriteText(key.Get(), entry.valueName, *entry.text);
         if (status != ERROR_SUCCESS) return HRESULT_FROM_WIN32(status);
     }
     return S_OK;
@@ -73,8 +74,7 @@ std::wstring GuidText(REFGUID guid) {
 
 HRESULT RegisterClassEntry(const com::ClassEntry& entry) {
     const auto entries = EntriesOf(entry);
-    const RegistryKey before = OpenServerKey(entry);
-    const bool wasRegistered = before && ReadCount(before.Get()) > 0;
+    const bool wasRegistered = static_cast<bool>(OpenServerKey(entry));
     HRESULT hr = RunScript(entries);
     if (SUCCEEDED(hr)) {
         const RegistryKey key = OpenServerKey(entry);

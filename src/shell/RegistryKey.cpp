@@ -12,11 +12,10 @@ RegistryKey OpenKey(HKEY parent, const std::wstring& path, REGSAM view, LSTATUS*
     return opened == ERROR_SUCCESS ? RegistryKey(key) : RegistryKey();
 }
 
-RegistryKey CreateKey(HKEY parent, const std::wstring& path) {
+RegistryKey CreateKey(HKEY parent, const std::wstring& path, LSTATUS* status) {
     HKEY key = nullptr;
-    const LSTATUS status =
-        RegCreateKeyExW(parent, path.c_str(), 0, nullptr, 0, KEY_ALL_ACCESS, nullptr, &key, nullptr);
-    return status == ERROR_SUCCESS ? RegistryKey(key) : RegistryKey();
+    *status = RegCreateKeyExW(parent, path.c_str(), 0, nullptr, 0, KEY_ALL_ACCESS, nullptr, &key, nullptr);
+    return *status == ERROR_SUCCESS ? RegistryKey(key) : RegistryKey();
 }
 
 LSTATUS WriteText(HKEY key, const std::wstring& name, const std::wstring& text) {

@@ -15,7 +15,7 @@ using ui::RegistryKey;
 // of this program's width, KEY_WOW64_32KEY or KEY_WOW64_64KEY.
 RegistryKey OpenKey(HKEY parent, const std::wstring& path, REGSAM view = 0, LSTATUS* status = nullptr);
 // Opens a key for full access, made if needed; empty when that fails.
-RegistryKey CreateKey(HKEY parent, const std::wstring& path);
+RegistryKey CreateKey(HKEY parent, const std::wstring& path, LSTATUS* status);
 
 // ERROR_SUCCESS or the platform's code. An empty name is the key's default value.
 LSTATUS WriteText(HKEY key, const std::wstring& name, const std::wstring& text);

@@ -6,8 +6,9 @@
 #include "RecoveryUI.h"
 #include "harness/ComTest.h"
 #include "harness/ProcessWindows.h"
-#include "shell/Classes.h"
 #include "shell/ClassRegistration.h"
+#include "shell/Classes.h"
+#include "shell/RegistryKey.h"
 #include "shell/RegistryScript.h"
 
 namespace recoveryui::test {
@@ -89,6 +90,7 @@ TEST_F(RegistrationTest, EveryClassIsFoundByFileNameAndCountedUntilTheLastIsGone
         EXPECT_EQ(Value(progId + L"\\CurVer"), progId + L".1");
         EXPECT_EQ(Value(progId + L"\\CLSID"), clsid);
         EXPECT_EQ(Value(progId + L".1\\CLSID"), clsid);
+        EXPECT_TRUE(shell::OpenKey(HKEY_CLASSES_ROOT, L"CLSID\\" + clsid + L"\\Programmable"));
         EXPECT_EQ(Count(ServerKey(entry)), 1);
     }
     EXPECT_EQ(Value(LibraryKey()), L"RecoveryUI.dll");
