@@ -19,7 +19,7 @@ check_version() { # FILE
 stage() {
   local arch=$1 from=$2/bin folder=$3 symbols=$4 file
   rm -rf "$folder" "$symbols"
-  mkdir -p "$folder/licences" "$symbols"
+  mkdir -p "$folder/notices" "$symbols"
   for file in "${binaries[@]}"; do
     check_version "$from/$file"
     cp "$from/$file" "$folder"
@@ -28,10 +28,10 @@ stage() {
   done
   cp -r "$from/help" "$folder/help"
   cp CHANGELOG.md "$folder/CHANGELOG.txt"
-  [ ! -f LICENSE ] || cp LICENSE "$folder/licences/LICENSE.txt"
-  # The notices that go with code which the compiler links in: its runtime's, and the JSON library's.
-  cp "/usr/share/doc/mingw-w64-${arch/_/-}-dev/copyright" "$folder/licences/mingw-w64-runtime.txt"
-  cp /usr/share/doc/nlohmann-json3-dev/copyright "$folder/licences/nlohmann-json.txt"
+  [ ! -f LICENSE ] || cp LICENSE "$folder/LICENSE.txt"
+  # Binaries must come with the notices of what is linked into them: the compiler's runtime and the JSON library.
+  cp "/usr/share/doc/mingw-w64-${arch/_/-}-dev/copyright" "$folder/notices/mingw-w64-runtime.txt"
+  cp /usr/share/doc/nlohmann-json3-dev/copyright "$folder/notices/nlohmann-json.txt"
 }
 
 # zip_folder FOLDER FILE: the archive holds one folder of the archive's name.

@@ -1,6 +1,6 @@
 #!/bin/bash
-# installer.sh BUILD-FOLDER: is refused beside the other width, installs silently in a Wine prefix of its own, creates each class from another
-# process, installs over it, uninstalls silently, and looks for anything left behind.
+# installer.sh BUILD-FOLDER: is refused beside the other width, installs silently in a Wine prefix of its own,
+# creates each class from another process, installs over it, uninstalls silently, and looks for anything left behind.
 set -eu
 cd "$(dirname "$(readlink -f "$0")")/../.."
 . scripts/common.sh
