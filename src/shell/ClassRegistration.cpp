@@ -74,13 +74,14 @@ std::wstring GuidText(REFGUID guid) {
 
 HRESULT RegisterClassEntry(const com::ClassEntry& entry) {
     const auto entries = EntriesOf(entry);
-    const bool wasRegistered = static_cast<bool>(OpenServerKey(entry));
+    LSTATUS before = ERROR_SUCCESS;
+    OpenServerKey(entry, &before);
     HRESULT hr = RunScript(entries);
     if (SUCCEEDED(hr)) {
         const RegistryKey key = OpenServerKey(entry);
         hr = key && WriteCount(key.Get(), ReadCount(key.Get()) + 1) == ERROR_SUCCESS ? S_OK : E_FAIL;
     }
-    if (FAILED(hr) && !wasRegistered) RemoveAll(entries);
+    if (FAILED(hr) && IsMissing(before)) RemoveAll(entries);
     return hr;
 }
 
@@ -90,8 +91,8 @@ HRESULT UnregisterClassEntry(const com::ClassEntry& entry) {
     {
         LSTATUS status = ERROR_SUCCESS;
         const RegistryKey key = OpenServerKey(entry, &status);
-        if (status == ERROR_FILE_NOT_FOUND || status == ERROR_PATH_NOT_FOUND) return S_FALSE;
-        if (!key) return HRESULT_FROM_WIN32(status);
+        if (IsMissing(status)) return S_FALSE;
+        if (!key) return E_FAIL;
         left = TakeOne(key.Get());
     }
     return left == 0 ? HRESULT_FROM_WIN32(RemoveAll(entries)) : S_OK;

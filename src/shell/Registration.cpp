@@ -44,20 +44,20 @@ HRESULT UnregisterServer(std::span<const com::ClassEntry> classes) noexcept {
     com::PrepareExceptions();
     return com::Guarded([&] {
         const TypeLibrary library;
-        if (!library.OpenPlatformKey()) return E_FAIL;
-        // One that cannot be removed does not keep the others; the library stays, so that all can be tried again.
-        HRESULT failed = S_OK;
-        for (const com::ClassEntry& entry : classes) {
-            const HRESULT removed = com::Guarded([&] { return UnregisterClassEntry(entry); });
-            if (FAILED(removed)) failed = removed;
-        }
-        if (FAILED(failed)) return failed;
         DWORD left = 0;
         {
             const RegistryKey key = library.OpenPlatformKey();
             if (!key) return E_FAIL;
             left = TakeOne(key.Get());
         }
+        // One that cannot be removed does not keep the others; the library stays, so that all can be tried
+        // again: what the last one has taken counts as none.
+        HRESULT failed = S_OK;
+        for (const com::ClassEntry& entry : classes) {
+            const HRESULT removed = com::Guarded([&] { return UnregisterClassEntry(entry); });
+            if (FAILED(removed)) failed = removed;
+        }
+        if (FAILED(failed)) return failed;
         const HRESULT hr = left > 0 ? library.Register() : library.Unregister();
         if (FAILED(hr)) return hr;
         return left > 0 ? S_FALSE : S_OK;

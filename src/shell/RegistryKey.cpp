@@ -47,7 +47,7 @@ DWORD TakeOne(HKEY key) {
 
 LSTATUS DeleteTree(HKEY parent, const std::wstring& path) {
     const LSTATUS status = RegDeleteTreeW(parent, path.c_str());
-    return status == ERROR_FILE_NOT_FOUND || status == ERROR_PATH_NOT_FOUND ? ERROR_SUCCESS : status;
+    return IsMissing(status) ? ERROR_SUCCESS : status;
 }
 
 }  // namespace recoveryui::shell

@@ -11,6 +11,11 @@ namespace recoveryui::shell {
 
 using ui::RegistryKey;
 
+// Whether a call failed because there is no such key.
+inline bool IsMissing(LSTATUS status) {
+    return status == ERROR_FILE_NOT_FOUND || status == ERROR_PATH_NOT_FOUND;
+}
+
 // Opens a key for full access; empty when it cannot be opened, for the reason in the status. The view is that
 // of this program's width, KEY_WOW64_32KEY or KEY_WOW64_64KEY.
 RegistryKey OpenKey(HKEY parent, const std::wstring& path, REGSAM view = 0, LSTATUS* status = nullptr);
