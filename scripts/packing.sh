@@ -55,7 +55,7 @@ make_installer() {
     printf 'File "%s"\n' "$folder/$file" >>"$lists/install.nsh"
     printf 'Delete "$INSTDIR\\%s"\n' "$name" >>"$lists/remove.nsh"
   done < <(cd "$folder" && find . -type f -printf '%P\n' | sort)
-  (cd "$folder" && find . -mindepth 1 -type d -printf 'RMDir "$INSTDIR\\%P"\n' | sort -r) >>"$lists/remove.nsh"
+  (cd "$folder" && find . -mindepth 1 -type d -printf 'RMDir "$INSTDIR\\%P"\n' | tr / '\\' | sort -r) >>"$lists/remove.nsh"
   makensis -V1 -WX -DTARGET=$target -DVIEW=$view -DOTHER_VIEW=$other -DVERSION="$version" -DSTAGE="$folder" \
     -DHELPER="$3" -DINSTALL_LIST="$lists/install.nsh" -DREMOVE_LIST="$lists/remove.nsh" -DOUTPUT="$4" \
     packaging/installer.nsi || fail 'makensis failed'
