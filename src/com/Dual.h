@@ -12,8 +12,21 @@ namespace recoveryui::com {
 // The description of an interface in the module's own type library.
 HRESULT FindTypeInfo(REFIID iid, ITypeInfo** info) noexcept;
 
-// Gives an object that comes as VT_UNKNOWN as a VT_DISPATCH when it can be driven so: scripts take no other.
-void PreferDispatch(VARIANT& value) noexcept;
+// An interface as the type library describes it, looked up when first needed: what a Dual answers with.
+class Description {
+public:
+    explicit Description(REFIID iid) noexcept : iid_(iid) {}
+    HRESULT GetInfo(UINT index, ITypeInfo** info) const noexcept;
+    HRESULT GetIds(REFIID reserved, LPOLESTR* names, UINT count, DISPID* ids) noexcept;
+    HRESULT Invoke(IUnknown* object, DISPID id, REFIID reserved, WORD flags, DISPPARAMS* parameters,
+                   VARIANT* result, EXCEPINFO* exception, UINT* argument) noexcept;
+
+private:
+    HRESULT Load() noexcept { return info_ ? S_OK : FindTypeInfo(iid_, info_.GetAddressOf()); }
+
+    const IID& iid_;
+    Ptr<ITypeInfo> info_;
+};
 
 // Stands in an Object's interface list in place of the dual interface itself. An interface that is not dual
 // stands in the list on its own, beside the `Dual<Interface, IDispatch>` that calls it by name.
@@ -30,35 +43,19 @@ public:
         return S_OK;
     }
     HRESULT STDMETHODCALLTYPE GetTypeInfo(UINT index, LCID, ITypeInfo** info) noexcept override {
-        if (!info) return E_POINTER;
-        *info = nullptr;
-        return index == 0 ? FindTypeInfo(__uuidof(Interface), info) : DISP_E_BADINDEX;
+        return description_.GetInfo(index, info);
     }
     HRESULT STDMETHODCALLTYPE GetIDsOfNames(REFIID iid, LPOLESTR* names, UINT count, LCID,
                                             DISPID* ids) noexcept override {
-        if (!names || !ids) return E_POINTER;
-        if (!IsEqualIID(iid, IID_NULL)) return DISP_E_UNKNOWNINTERFACE;
-        const HRESULT hr = LoadInfo();
-        return SUCCEEDED(hr) ? DispGetIDsOfNames(info_.Get(), names, count, ids) : hr;
+        return description_.GetIds(iid, names, count, ids);
     }
     HRESULT STDMETHODCALLTYPE Invoke(DISPID id, REFIID iid, LCID, WORD flags, DISPPARAMS* parameters,
                                      VARIANT* result, EXCEPINFO* exception, UINT* argument) noexcept override {
-        if (!IsEqualIID(iid, IID_NULL)) return DISP_E_UNKNOWNINTERFACE;
-        if (!parameters) return E_POINTER;
-        const HRESULT hr = LoadInfo();
-        if (FAILED(hr)) return hr;
-        // A script puts an object by reference; the interfaces know one way to put.
-        if (flags & DISPATCH_PROPERTYPUTREF) flags = DISPATCH_PROPERTYPUT;
-        const HRESULT invoked = DispInvoke(Query<Interface>(this).Get(), info_.Get(), id, flags, parameters,
-                                           result, exception, argument);
-        if (SUCCEEDED(invoked) && result) PreferDispatch(*result);
-        return invoked;
+        return description_.Invoke(this, id, iid, flags, parameters, result, exception, argument);
     }
 
 private:
-    HRESULT LoadInfo() noexcept { return info_ ? S_OK : FindTypeInfo(__uuidof(Interface), info_.GetAddressOf()); }
-
-    Ptr<ITypeInfo> info_;
+    Description description_{__uuidof(Interface)};
 };
 
 }  // namespace recoveryui::com
