@@ -45,10 +45,8 @@ bool OperationFuncPP::CanBeShown() const {
 }
 
 void OperationFuncPP::OnActivate() {
-    library_.Close();
-    prototype_ = PrototypeFor(static_cast<std::int32_t>(KindOfTrigger().value())).value();
-    ui::SetText(Item(IDC_FUNC_PROTOTYPE), ui::LoadText(IDS_PROTOTYPE_LABEL) + prototype_.head);
     ResetFunctions();
+    ui::SetText(Item(IDC_FUNC_PROTOTYPE), ui::LoadText(IDS_PROTOTYPE_LABEL) + prototype_.head);
     Refresh();
     if (!TypedPath().empty()) PostMessageW(Window(), kLoad, 0, 0);
 }
@@ -138,6 +136,8 @@ void OperationFuncPP::Browse() {
 void OperationFuncPP::ResetFunctions() {
     library_.Close();
     loaded_ = false;
+    // Here rather than once per visit: a page that could not be shown whole still loads libraries.
+    prototype_ = PrototypeFor(static_cast<std::int32_t>(KindOfTrigger().value())).value();
     newName_ = kDefaultFunctionName;
     newText_ = FunctionTemplate(prototype_);
     SendMessageW(Item(IDC_FUNC_LIST), CB_RESETCONTENT, 0, 0);
