@@ -54,6 +54,8 @@ void WizardPPBase::UpdateWizardButtons() const {
     const auto flags = WizardButtons(page_.position, canAdvance_);
     if (!flags) return;
     PostMessageW(Sheet(), PSM_SETWIZBUTTONS, 0, static_cast<LPARAM>(*flags));
+    // The sheet would make Back the default button, and Enter in an unfinished page would leave it.
+    if (!canAdvance_) PostMessageW(Sheet(), DM_SETDEFID, kNextButton, 0);
     KeepFocusLater();
 }
 

@@ -64,7 +64,7 @@ protected:
 
 TEST_F(FunctionPageTest, AFunctionOfTheLibraryIsChosen) {
     BrowsePage([&](UserScreen& screen, HWND wizard) {
-        EXPECT_EQ(screen.WizardButtons(wizard), L"B* n f");
+        EXPECT_EQ(screen.WizardButtons(wizard), L"B n* f");
         EXPECT_EQ(screen.Text(wizard, IDC_FUNC_PROTOTYPE),
                   L"Function prototype: Function RecoveryFunction1(Object)");
         for (const int id : {IDC_FUNC_SELECT, IDC_FUNC_DEFINE, IDC_FUNC_LIST, IDC_FUNC_NAME, IDC_FUNC_TEXT})
@@ -109,6 +109,8 @@ TEST_F(FunctionPageTest, ANewFunctionTakesItsNameForItselfAndReachesTheLibraryAt
         EXPECT_FALSE(screen.IsEnabled(wizard, IDC_FUNC_LIST));
         screen.Enter(wizard, IDC_FUNC_NAME, L"");
         EXPECT_FALSE(CanGoOn(screen, wizard));
+        screen.Keys({VK_RETURN});
+        EXPECT_EQ(screen.PageTitle(wizard), kPage) << "Enter leaves no unfinished page, in neither direction";
         screen.Check(wizard, IDC_FUNC_SELECT);
         EXPECT_TRUE(CanGoOn(screen, wizard));
         EXPECT_EQ(Shown(screen, wizard).substr(0, 7), L"[Alpha|");

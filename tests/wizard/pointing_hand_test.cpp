@@ -174,7 +174,7 @@ TEST_F(PointingHandTest, TheOnlyObjectAtThePointIsTakenAndNothingElseIs) {
         recorder_->objects = {com::Variant(7L)};
         point(target_.Login());
         EXPECT_EQ(screen.AnswerBox(IDOK), kUnsupported);
-        EXPECT_EQ(screen.WizardButtons(wizard), L"B* n f");
+        EXPECT_EQ(screen.WizardButtons(wizard), L"B n* f");
 
         recorder_->objects = {ValueOf(object.Get())};
         point(target_.Login());

@@ -122,7 +122,7 @@ TEST_F(WizardPagesTest, EveryErrorIsOfferedExplainedAndKept) {
         NextUntil(screen, wizard, L"Select Trigger Event");
         screen.Check(wizard, IDC_SELECT_TRIGGER_ERROR);
         screen.Next(wizard);
-        EXPECT_EQ(screen.WizardButtons(wizard), L"B* n f");
+        EXPECT_EQ(screen.WizardButtons(wizard), L"B n* f");
         for (const auto& [label, code] : errors) {
             screen.Choose(wizard, IDC_SELECT_ERROR_LIST, label);
             screen.Picture(wizard, std::wstring(L"error-") + code);

@@ -29,7 +29,7 @@ TEST_F(WizardWalkTest, MakesAScenarioFromAPopUpAndTwoOperations) {
         EXPECT_EQ(screen.WizardButtons(wizard), L"B N* f");
         screen.Next(wizard);
 
-        EXPECT_EQ(screen.WizardButtons(wizard), L"B* n f");
+        EXPECT_EQ(screen.WizardButtons(wizard), L"B n* f");
         EXPECT_TRUE(screen.IsChecked(wizard, IDC_POPUP_TITLE_CHECK));
         EXPECT_FALSE(screen.IsEnabled(wizard, IDC_POPUP_TEXT));
         screen.Enter(wizard, IDC_POPUP_TITLE, L" ");
@@ -77,7 +77,7 @@ TEST_F(WizardWalkTest, MakesAScenarioFromAPopUpAndTwoOperations) {
         screen.Check(wizard, IDC_TEST_FLOW_FIRST + 1);
         screen.Next(wizard);
 
-        EXPECT_EQ(screen.WizardButtons(wizard), L"B* n f");
+        EXPECT_EQ(screen.WizardButtons(wizard), L"B n* f");
         screen.Enter(wizard, IDC_SCEN_NAME, L"Popup");
         screen.Enter(wizard, IDC_SCEN_DESCRIPTION, L"closes the message");
         screen.Next(wizard);
