@@ -22,13 +22,6 @@ constexpr const wchar_t* kTitles[] = {L"Recovery Scenario Wizard",
                                       L"Recovery Scenario Properties",
                                       L"Recovery Scenario Properties"};
 
-template <class Interface>
-com::Ptr<Interface> New(const wchar_t* progId) {
-    com::Ptr<Interface> object;
-    com::Check(com::Create(progId, object));
-    return object;
-}
-
 }  // namespace
 
 Openings::Openings() : file_(WriteEveryKind(L"file.trs")) { rack_.Put(L"HelpViewer", help_.Get()); }

@@ -16,13 +16,6 @@ std::wstring FolderOfProcess() {
     return (fs::temp_directory_path() / (L"proof " + std::to_wstring(GetCurrentProcessId()))).wstring();
 }
 
-template <class Interface>
-com::Ptr<Interface> New(const wchar_t* progId) {
-    com::Ptr<Interface> object;
-    com::Check(com::Create(progId, object));
-    return object;
-}
-
 }  // namespace
 
 Scene::Scene() : options_(New<ITestOptions>(L"Tovarin.TestOptions")), folder_(FolderOfProcess()) {

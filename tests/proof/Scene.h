@@ -16,6 +16,14 @@
 
 namespace recoveryui::proof {
 
+// A new object of a class. Throws HResultError.
+template <class Interface>
+com::Ptr<Interface> New(const wchar_t* progId) {
+    com::Ptr<Interface> object;
+    com::Check(com::Create(progId, object));
+    return object;
+}
+
 class Scene : public Stage {
 public:
     const std::wstring& Folder() const { return folder_; }
