@@ -93,6 +93,13 @@ void SelectPopupPP::OnChecked(int check) {
     Validate();
 }
 
+HWND SelectPopupPP::FirstFocus() const {
+    for (const int value : {kTitle.value, kText.value}) {
+        if (IsWindowEnabled(Item(value))) return Item(value);
+    }
+    return Item(kTitle.check);
+}
+
 bool SelectPopupPP::OnCommand(const ui::Command& command) {
     switch (command.id) {
         case IDC_POPUP_HAND:

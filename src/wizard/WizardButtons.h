@@ -1,4 +1,4 @@
-// Which wizard buttons a page shows and enables.
+// Which wizard buttons a page shows and enables, and which one Enter presses.
 #pragma once
 
 #include <cstdint>
@@ -8,7 +8,16 @@
 
 namespace recoveryui::wizard {
 
+// The ids that every wizard frame gives its buttons.
+inline constexpr int kNextButton = 0x3024;
+inline constexpr int kFinishButton = 0x3025;
+
 // The flags of the property sheet's set-wizard-buttons message; nothing for a position without buttons.
 std::optional<std::uint32_t> WizardButtons(Position position, bool canAdvance);
+
+// What Enter presses, be it disabled: the sheet would take Back in an unfinished page, and Enter would leave it.
+constexpr int DefaultButton(Position position) {
+    return position == Position::Last ? kFinishButton : kNextButton;
+}
 
 }  // namespace recoveryui::wizard

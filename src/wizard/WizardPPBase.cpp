@@ -15,10 +15,6 @@ namespace {
 constexpr int kTitlePoints = 10;
 constexpr int kPointsPerInch = 72;
 
-// The ids that every wizard frame gives its buttons.
-constexpr int kNextButton = 0x3024;
-constexpr int kFinishButton = 0x3025;
-
 ui::Font TitleFont(HWND page) {
     LOGFONTW font{};
     const auto own = reinterpret_cast<HFONT>(SendMessageW(page, WM_GETFONT, 0, 0));
@@ -54,8 +50,7 @@ void WizardPPBase::UpdateWizardButtons() const {
     const auto flags = WizardButtons(page_.position, canAdvance_);
     if (!flags) return;
     PostMessageW(Sheet(), PSM_SETWIZBUTTONS, 0, static_cast<LPARAM>(*flags));
-    // The sheet would make Back the default button, and Enter in an unfinished page would leave it.
-    if (!canAdvance_) PostMessageW(Sheet(), DM_SETDEFID, kNextButton, 0);
+    PostMessageW(Sheet(), DM_SETDEFID, static_cast<WPARAM>(DefaultButton(page_.position)), 0);
     KeepFocusLater();
 }
 
