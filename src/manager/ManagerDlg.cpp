@@ -125,12 +125,6 @@ bool ManagerDlg::OnNotify(NMHDR& header, LRESULT& answer) {
 
 bool ManagerDlg::OnMessage(UINT message, WPARAM wParam, LPARAM lParam, LRESULT&) {
     switch (message) {
-        case WM_DRAWITEM: {
-            const auto& item = *reinterpret_cast<const DRAWITEMSTRUCT*>(lParam);
-            for (const ui::IconButton& button : buttons_)
-                if (button.Window() == item.hwndItem) button.Draw(item);
-            return true;
-        }
         case WM_SIZE:
             anchors_.Follow();
             list_.FitColumn();

@@ -123,14 +123,8 @@ bool RecoveryTab::OnListNotify(NMHDR& header, LRESULT& answer) {
     }
 }
 
-bool RecoveryTab::OnMessage(UINT message, WPARAM, LPARAM lParam, LRESULT&) {
+bool RecoveryTab::OnMessage(UINT message, WPARAM, LPARAM, LRESULT&) {
     switch (message) {
-        case WM_DRAWITEM: {
-            const auto& item = *reinterpret_cast<const DRAWITEMSTRUCT*>(lParam);
-            for (const ui::IconButton& button : buttons_)
-                if (button.Window() == item.hwndItem) button.Draw(item);
-            return true;
-        }
         case WM_SIZE: anchors_.Follow(); return true;
         case WM_THEMECHANGED: view_.MakeImages(); return false;
         default: return false;

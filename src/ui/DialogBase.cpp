@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "ui/Dpi.h"
+#include "ui/IconButton.h"
 
 namespace recoveryui::ui {
 namespace {
@@ -71,6 +72,7 @@ bool DialogBase::Handle(UINT message, WPARAM wParam, LPARAM lParam, LRESULT& ans
             return false;
         case kDpiChanged: FollowDpi(); return true;
         case WM_NCDESTROY: ForgetDpi(window_); return OnMessage(message, wParam, lParam, answer);
+        case WM_DRAWITEM: return IconButton::DrawItem(*reinterpret_cast<const DRAWITEMSTRUCT*>(lParam));
         case WM_HELP: OnHelp(); return true;
         default: return OnMessage(message, wParam, lParam, answer);
     }

@@ -1,6 +1,7 @@
 #include "ui/IconButton.h"
 
 #include <commctrl.h>
+#include <olectl.h>
 
 #include "ui/Dpi.h"
 #include "ui/Picture.h"
@@ -24,6 +25,11 @@ void IconButton::Attach(HWND button, int iconId, Kind kind) {
     iconId_ = iconId;
     LoadPicture();
     SetWindowSubclass(button, &IconButton::Procedure, kSubclassId, reinterpret_cast<DWORD_PTR>(this));
+}
+
+bool IconButton::DrawItem(const DRAWITEMSTRUCT& item) {
+    return item.CtlType == ODT_BUTTON &&
+           SendMessageW(item.hwndItem, OCM_DRAWITEM, item.CtlID, reinterpret_cast<LPARAM>(&item));
 }
 
 void IconButton::LoadPicture() noexcept {
@@ -50,6 +56,7 @@ LRESULT IconButton::Handle(UINT message, WPARAM wParam, LPARAM lParam) noexcept 
         return 0;
     }
     switch (message) {
+        case OCM_DRAWITEM: Draw(*reinterpret_cast<const DRAWITEMSTRUCT*>(lParam)); return TRUE;
         case WM_GETDLGCODE: {
             // An owner-drawn button is never a default one, so Enter would press the dialog's.
             const auto* key = reinterpret_cast<const MSG*>(lParam);

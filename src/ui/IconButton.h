@@ -20,9 +20,8 @@ public:
     IconButton& operator=(const IconButton&) = delete;
 
     void Attach(HWND button, int iconId, Kind kind = Kind::Plain);
-    HWND Window() const noexcept { return button_; }
-    // For the dialog's WM_DRAWITEM.
-    void Draw(const DRAWITEMSTRUCT& item) const;
+    // A dialog's WM_DRAWITEM goes on to the button itself; false when the item is none.
+    static bool DrawItem(const DRAWITEMSTRUCT& item);
 
 private:
     static LRESULT CALLBACK Procedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR id,
@@ -35,6 +34,7 @@ private:
     void LoadPicture() noexcept;
 
     RECT MenuPart(RECT button) const noexcept;
+    void Draw(const DRAWITEMSTRUCT& item) const;
     void DrawFace(HDC device, const RECT& place, UINT state) const;
     void DrawPicture(HDC device, RECT place, UINT state) const;
     void DrawMenuPart(HDC device, const RECT& part, UINT state) const;
