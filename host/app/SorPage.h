@@ -4,6 +4,8 @@
 
 #include <ocidl.h>
 
+#include <utility>
+
 #include "app/FrameValues.h"
 #include "com/Object.h"
 
@@ -11,7 +13,7 @@ namespace tovarin {
 
 class SorPage final : public recoveryui::com::Object<SorPage, IPropertyPage> {
 public:
-    explicit SorPage(const FrameValues& values) : values_(values) {}
+    explicit SorPage(FrameValues values) : values_(std::move(values)) {}
 
     HRESULT STDMETHODCALLTYPE SetPageSite(IPropertyPageSite*) noexcept override { return S_OK; }
     HRESULT STDMETHODCALLTYPE Activate(HWND parent, LPCRECT place, BOOL modal) noexcept override;

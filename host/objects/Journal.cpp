@@ -42,7 +42,7 @@ com::Ptr<ICallRecorder> Journal::Recorder() const {
     return recorder_;
 }
 
-void Journal::Add(JournalEntry entry) {
+void Journal::Add(const JournalEntry& entry) {
     if (const auto recorder = Recorder()) {
         recorder->Record(com::Bstr(entry.object).Get(), com::Bstr(entry.operation).Get(),
                          com::Bstr(entry.arguments).Get(), com::Bstr(entry.result).Get());

@@ -44,7 +44,7 @@ public:
     void ForwardTo(ICallRecorder* recorder);
 
     // Keeps the newest kMostEntries and tells the listeners.
-    void Add(JournalEntry entry);
+    void Add(const JournalEntry& entry);
     std::wstring Text() const;
     void Clear();
 

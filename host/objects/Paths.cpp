@@ -9,7 +9,7 @@ constexpr size_t kShortPath = 248;
 std::wstring FullPath(const std::wstring& path) {
     std::wstring full(path.size() + kShortPath, L'\0');
     for (;;) {
-        const DWORD size = static_cast<DWORD>(full.size());
+        const auto size = static_cast<DWORD>(full.size());
         const DWORD length = GetFullPathNameW(path.c_str(), size, full.data(), nullptr);
         if (length == 0) return path;
         full.resize(length);

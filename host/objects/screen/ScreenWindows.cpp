@@ -94,7 +94,7 @@ std::wstring ProcessNameOf(HWND window) {
     if (!process) return {};
     std::wstring path(1024, L'\0');
     for (;;) {
-        DWORD length = static_cast<DWORD>(path.size());
+        auto length = static_cast<DWORD>(path.size());
         if (QueryFullProcessImageNameW(process.get(), 0, path.data(), &length)) {
             path.resize(length);
             return path.substr(path.rfind(L'\\') + 1);

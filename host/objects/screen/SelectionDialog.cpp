@@ -73,7 +73,7 @@ INT_PTR SelectionDialog::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {
     switch (LOWORD(wParam)) {
         case IDC_OBJECT_SELECTION_HELP: ShowHelp(); return TRUE;
         case IDOK: {
-            const HTREEITEM selected = TreeView_GetSelection(Tree());
+            const auto selected = TreeView_GetSelection(Tree());
             for (size_t index = 0; index < items_.size(); ++index) {
                 if (selected && items_[index] == selected) choice_ = candidates_[index];
             }

@@ -33,7 +33,7 @@ std::wstring Show(OPENFILENAMEW& dialog, bool open, std::wstring name) {
         name.resize(size);
         dialog.lpstrFile = name.data();
         dialog.nMaxFile = size;
-        if (open ? GetOpenFileNameW(&dialog) : GetSaveFileNameW(&dialog)) return std::wstring(name.c_str());
+        if (open ? GetOpenFileNameW(&dialog) : GetSaveFileNameW(&dialog)) return name.c_str();
         switch (CommDlgExtendedError()) {
             case 0: return {};
             case FNERR_BUFFERTOOSMALL: size *= 2; break;
@@ -128,9 +128,9 @@ std::wstring TovCommonFileDialog::Ask(bool open) const {
 
     std::wstring name(Text(kInitialName));
     for (;;) {
-        const std::wstring path = Show(dialog, open, name);
+        std::wstring path = Show(dialog, open, name);
         if (open || path.empty() || MayReplace(dialog.hwndOwner, path)) return path;
-        name = path;
+        name = std::move(path);
     }
 }
 

@@ -62,7 +62,7 @@ HRESULT ReadArray(SAFEARRAY* array, std::vector<com::Ptr<IUnknown>>& objects) {
     VARTYPE type = VT_EMPTY;
     if (array && SUCCEEDED(SafeArrayGetVartype(array, &type)) && type == VT_VARIANT)
         return Read<VARIANT>(array, objects,
-                             [](com::Variant value) { return com::Ptr<IUnknown>(value.Object()); });
+                             [](const com::Variant& value) { return com::Ptr<IUnknown>(value.Object()); });
     return Read<IUnknown*>(array, objects, [](com::Ptr<IUnknown> object) { return object; });
 }
 

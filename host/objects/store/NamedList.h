@@ -19,8 +19,8 @@ public:
     using Key = std::wstring (*)(std::wstring_view name);
 
     explicit NamedList(Key key) : key_(key) {}
-    NamedList(NamedList&&) = default;
-    NamedList& operator=(NamedList&&) = default;
+    NamedList(NamedList&&) noexcept = default;
+    NamedList& operator=(NamedList&&) noexcept = default;
 
     // Null when there is none of that name.
     Entry* Find(std::wstring_view name) {
