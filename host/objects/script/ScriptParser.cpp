@@ -2,19 +2,10 @@
 
 #include "objects/script/ScriptScanner.h"
 
+using namespace std::string_view_literals;
+
 namespace tovarin {
 namespace {
-
-// An old editor may have left Ctrl+Z at the end.
-bool IsPlainText(std::wstring_view text) {
-    constexpr wchar_t kEndOfFile = 0x1A;
-    while (text.ends_with(kEndOfFile)) text.remove_suffix(1);
-    for (const wchar_t character : text) {
-        const bool space = character >= L'\t' && character <= L'\r';
-        if ((character < L' ' && !space) || character == 0x7F) return false;
-    }
-    return true;
-}
 
 class Parser {
 public:
@@ -22,9 +13,9 @@ public:
 
     std::optional<std::vector<ScriptFunction>> Parse() {
         for (;;) {
-            switch (scan_.Next()) {
+            switch (atStart_ ? scan_.Next() : scan_.NextMark()) {
                 case ScriptToken::End:
-                    if (procedure_.kind || inClass_) return std::nullopt;
+                    if (!procedure_.kind.empty() || inClass_) return std::nullopt;
                     return std::move(functions_);
                 case ScriptToken::Error: return std::nullopt;
                 case ScriptToken::Separator:
@@ -41,28 +32,28 @@ public:
 
 private:
     struct Procedure {
-        const wchar_t* kind = nullptr;  // null: outside every procedure
-        std::wstring name;
+        std::wstring_view kind{};  // empty: outside every procedure
+        std::wstring_view name;
         std::size_t start = 0;
     };
 
     // False for what cannot stand in a script.
     bool Word() {
-        if (scan_.Is(L"end")) {
+        if (scan_.Is(L"end"sv)) {
             atStart_ = false;
             return End();
         }
         if (!atStart_) return true;
         if (!modified_) first_ = scan_.Start();
-        if (scan_.Is(L"public") || scan_.Is(L"private") || scan_.Is(L"default")) {
+        if (scan_.Is(L"public"sv) || scan_.Is(L"private"sv) || scan_.Is(L"default"sv)) {
             modified_ = true;
             return true;
         }
         atStart_ = false;
-        if (scan_.Is(L"function")) return Begin(L"function");
-        if (scan_.Is(L"sub")) return Begin(L"sub");
-        if (scan_.Is(L"class")) return BeginClass();
-        if (scan_.Is(L"property")) return Property();
+        if (scan_.Is(L"function"sv)) return Begin(L"function"sv);
+        if (scan_.Is(L"sub"sv)) return Begin(L"sub"sv);
+        if (scan_.Is(L"class"sv)) return BeginClass();
+        if (scan_.Is(L"property"sv)) return Property();
         return true;
     }
 
@@ -71,14 +62,14 @@ private:
         return token == ScriptToken::Word || token == ScriptToken::Name;
     }
 
-    bool Begin(const wchar_t* kind) {
-        if (procedure_.kind || !TakeName()) return false;
-        procedure_ = {kind, std::wstring(scan_.Text()), first_};
+    bool Begin(std::wstring_view kind) {
+        if (!procedure_.kind.empty() || !TakeName()) return false;
+        procedure_ = {kind, scan_.Text(), first_};
         return true;
     }
 
     bool BeginClass() {
-        if (procedure_.kind || inClass_ || !TakeName()) return false;
+        if (!procedure_.kind.empty() || inClass_ || !TakeName()) return false;
         inClass_ = true;
         return true;
     }
@@ -86,9 +77,9 @@ private:
     // The word is a name like any other unless an accessor follows.
     bool Property() {
         const ScriptScanner before = scan_;
-        const bool accessor =
-            scan_.Next() == ScriptToken::Word && (scan_.Is(L"get") || scan_.Is(L"let") || scan_.Is(L"set"));
-        if (accessor) return inClass_ && Begin(L"property");
+        const bool accessor = scan_.Next() == ScriptToken::Word &&
+                              (scan_.Is(L"get"sv) || scan_.Is(L"let"sv) || scan_.Is(L"set"sv));
+        if (accessor) return inClass_ && Begin(L"property"sv);
         scan_ = before;
         return true;
     }
@@ -96,12 +87,12 @@ private:
     bool End() {
         const ScriptScanner before = scan_;
         if (scan_.Next() == ScriptToken::Word) {
-            if (scan_.Is(L"class")) {
-                const bool closes = inClass_ && !procedure_.kind;
+            if (scan_.Is(L"class"sv)) {
+                const bool closes = inClass_ && procedure_.kind.empty();
                 inClass_ = false;
                 return closes;
             }
-            for (const wchar_t* kind : {L"function", L"sub", L"property"}) {
+            for (const std::wstring_view kind : {L"function"sv, L"sub"sv, L"property"sv}) {
                 if (scan_.Is(kind)) return Close(kind);
             }
         }
@@ -110,10 +101,9 @@ private:
     }
 
     bool Close(std::wstring_view kind) {
-        if (!procedure_.kind || kind != procedure_.kind) return false;
+        if (kind != procedure_.kind) return false;
         if (!inClass_)
-            functions_.push_back(
-                {std::move(procedure_.name), procedure_.start, scan_.Stop() - procedure_.start});
+            functions_.push_back({procedure_.name, procedure_.start, scan_.Stop() - procedure_.start});
         procedure_ = {};
         return true;
     }
@@ -130,7 +120,10 @@ private:
 }  // namespace
 
 std::optional<std::vector<ScriptFunction>> ParseScript(std::wstring_view text) {
-    return IsPlainText(text) ? Parser(text).Parse() : std::nullopt;
+    // An old editor may have left Ctrl+Z at the end.
+    constexpr wchar_t kEndOfFile = 0x1A;
+    while (text.ends_with(kEndOfFile)) text.remove_suffix(1);
+    return Parser(text).Parse();
 }
 
 }  // namespace tovarin

@@ -3,7 +3,6 @@
 
 #include <cstddef>
 #include <optional>
-#include <string>
 #include <string_view>
 #include <vector>
 
@@ -12,7 +11,7 @@ namespace tovarin {
 // A function or sub outside every class, and where its text stands: from its first modifier to the end of
 // "End Function" or "End Sub".
 struct ScriptFunction {
-    std::wstring name;
+    std::wstring_view name;  // in the text
     std::size_t start;
     std::size_t length;
 };
