@@ -50,6 +50,9 @@ private:
             if (IsWindowVisible(window) && IsWindowEnabled(window) && !active) active = window;
         return active;
     }
+    static bool IsFileDialog(HWND window) {
+        return window && GetWindowLongPtrW(window, GWLP_HINSTANCE) == reinterpret_cast<LONG_PTR>(GetModuleHandleW(L"comdlg32.dll"));
+    }
     HWND ControlOf(HWND window) {
         for (int tries = 0; tries < 20 && !controls_.empty(); ++tries) {
             const HWND control = controls_[Below(static_cast<unsigned>(controls_.size()))];
@@ -66,11 +69,10 @@ private:
         const HWND window = Active();
         ++inputs_;
         if (!window) return player.Do([] {});
-        const std::wstring kind = test::ClassOf(window), title = test::TextOf(window);
+        const std::wstring kind = test::ClassOf(window);
         if (kind == kHand || FindWindowW(kHand, nullptr)) return player.RealKeys({VK_ESCAPE});
         // What the platform itself shows is soon left again.
-        const bool foreign = title == L"Open Recovery File" || title == L"Save Recovery File" ||
-                             title.rfind(L"Open", 0) == 0 || kind == L"#32768";
+        const bool foreign = kind == L"#32768" || IsFileDialog(window) || IsFileDialog(GetWindow(window, GW_OWNER));
         if (foreign && Below(4) == 0) return Leave(player, window);
         controls_ = test::Descendants(window);
         inputs_ += kInputsAtOnce - 1;
@@ -133,8 +135,9 @@ private:
             WM_APP,          WM_APP + 1,      WM_APP + 2,       WM_APP + 61,    WM_APP + 62,    WM_USER + 5000};
         const UINT message = OneOf(kMessages);
         const bool isCommand = message == WM_COMMAND;
-        // The platform's own controls need not bear what only their parts tell them.
-        const bool forDialogs = isCommand || message >= WM_USER;
+        // The platform's own controls need not bear what only their parts tell them, and closed they are gone: the list
+        // of a combo box too, without which the file dialog looks for its folders endlessly.
+        const bool forDialogs = isCommand || message == WM_CLOSE || message >= WM_USER;
         HWND dialog = GetParent(control);
         while (dialog && test::ClassOf(dialog) != L"#32770") dialog = GetParent(dialog);
         const HWND target = forDialogs ? dialog ? dialog : window : Below(2) ? window : control;
