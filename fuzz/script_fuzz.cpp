@@ -8,16 +8,6 @@
 #include "wizard/FunctionText.h"
 
 namespace recoveryui::fuzz {
-namespace {
-
-// Nothing can be added behind a line that goes on, or behind the end mark of old editors.
-bool EndsOpen(std::wstring_view text) {
-    const std::size_t last = text.find_last_not_of(L" \t\v\f\r\n\xa0");
-    return last != std::wstring_view::npos && (text[last] == L'_' || text.find(L'\x1a') != text.npos);
-}
-
-}  // namespace
-
 void Fuzz(Input input) {
     const std::wstring text = Input(input).Rest();
     const auto functions = tovarin::ParseScript(text);
@@ -37,13 +27,17 @@ void Fuzz(Input input) {
 
     const auto prototype = wizard::PrototypeFor(input.Byte() % 4);
     Require(prototype.has_value(), "every kind of trigger has a prototype");
+    std::string bytes(text.size(), '?');
+    std::transform(text.begin(), text.end(), bytes.begin(),
+                   [](wchar_t letter) { return letter < 256 ? static_cast<char>(letter) : '?'; });
+    const support::LibraryEnd end = support::EndOfLibrary(bytes);
     const std::wstring added =
-        support::AppendedText(wizard::RenameFunction(wizard::FunctionTemplate(*prototype), L"Added"));
+        support::AppendedText(wizard::RenameFunction(wizard::FunctionTemplate(*prototype), L"Added"), end);
     Require(added.starts_with(L"\r\n") && std::count(added.begin(), added.end(), L'\r') ==
                                               std::count(added.begin(), added.end(), L'\n'),
             "every line ends as lines of a library do");
-    if (!functions || EndsOpen(text)) return;
-    const auto more = tovarin::ParseScript(text + added);
+    if (!functions) return;
+    const auto more = tovarin::ParseScript(text.substr(0, text.size() - end.marks) + added);
     Require(more && more->size() == functions->size() + 1 && more->back().name == L"Added",
             "an added function is found behind the others");
 }

@@ -106,8 +106,8 @@ void ProcessPair::Load(const std::vector<std::wstring>& names) {
             if (!name.empty()) Chosen().InsertRow(Chosen().Count(), name);
         }
     }
-    RowsChanged();
     onReady_(true);
+    RowsChanged();
 }
 
 void ProcessPair::Clear() {

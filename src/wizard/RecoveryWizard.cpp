@@ -68,7 +68,7 @@ private:
 
         if (!state.scenario) return E_FAIL;
         scenario_ = state.scenario.Get();
-        name_ = state.name;
+        name_ = std::move(state.name);  // a copy could fail, and leave the new scenario with the old name
         addToCurrent_ = state.addToCurrent;
         addToDefault_ = state.addToDefault;
         return S_OK;

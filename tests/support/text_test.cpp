@@ -72,7 +72,27 @@ TEST(LibraryAppendTest, AFunctionGoesBehindALineBreakWithSingleLineEnds) {
         {L"a\r\r\nb\rc", L"\r\na\r\nbc"},
         {L" \r\n ", L"\r\n"},
     };
-    for (const auto& row : rows) EXPECT_EQ(AppendedText(row.text), row.written);
+    for (const auto& row : rows) EXPECT_EQ(AppendedText(row.text, {}), row.written);
+    EXPECT_EQ(AppendedText(L"a\nb", {0, true}), L"\r\n\r\na\r\nb");
+}
+
+TEST(LibraryAppendTest, ALineThatGoesOnIsEndedAndOldEndMarksGoAway) {
+    struct {
+        std::string_view bytes;
+        std::size_t marks;
+        bool goesOn;
+    } const rows[] = {
+        {"", 0, false},          {"End Sub\r\n", 0, false},
+        {"x = 1 + _", 0, true},  {"x = 1 + _ \t\xA0", 0, true},
+        {"x = _\n", 0, false},   {"End Sub\x1A\x1A", 2, false},
+        {"x = _ \x1A", 1, true}, {"\x1A", 1, false},
+        {"'\x1A.", 0, false},
+    };
+    for (const auto& row : rows) {
+        const LibraryEnd end = EndOfLibrary(row.bytes);
+        EXPECT_EQ(end.marks, row.marks) << row.bytes;
+        EXPECT_EQ(end.goesOn, row.goesOn) << row.bytes;
+    }
 }
 
 }  // namespace

@@ -14,8 +14,8 @@ protected:
         rack_.Put(L"RACK_FILE_LOCATOR", L"Tovarin.FileLocator")
             .Put(L"TovPluginMgrObject", L"Tovarin.PluginMgr");
     }
-    std::wstring Make(const std::wstring& name) const {
-        folder_.Write(folder_ / name, "'");
+    std::wstring Make(const std::wstring& name, const std::string& content = "'") const {
+        folder_.Write(folder_ / name, content);
         return folder_ / name;
     }
     std::string Content(const std::wstring& name) const { return folder_.Read(folder_ / name); }
@@ -69,14 +69,15 @@ BOOL WINAPI WriteOneByte(HANDLE file, LPCVOID bytes, DWORD, LPDWORD written, LPO
 }
 
 TEST_F(AppendFunctionsTest, WhatCannotBeWrittenIsAsItWasAndIsTold) {
-    const auto library = Make(L"full.vbs");
+    const std::string marked = "'\x1A\x1A";  // as an old editor ended it
+    const auto library = Make(L"full.vbs", marked);
     void* const before =
         proof::PutImport(GetModuleHandleW(nullptr), "WriteFile", reinterpret_cast<void*>(&WriteOneByte));
     ASSERT_NE(before, nullptr);
     const auto notWritten = Append({library});
     proof::PutImport(GetModuleHandleW(nullptr), "WriteFile", before);
     EXPECT_EQ(notWritten, std::vector<std::wstring>{library});
-    EXPECT_EQ(Content(L"full.vbs"), "'");
+    EXPECT_EQ(Content(L"full.vbs"), marked);
     EXPECT_EQ(Times(L"LibraryChanged"), 0u);
     EXPECT_TRUE(Append({library}).empty());
     EXPECT_EQ(Content(L"full.vbs"), kWritten);
