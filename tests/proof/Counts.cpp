@@ -62,18 +62,31 @@ bool IsIcon(ULONG_PTR handle) {
     return true;
 }
 
-// GetGuiResources always answers 0 where this runs; the table that the platform shares with every process
-// tells. An entry without a type is free.
-long CountGdiObjects() {
-    constexpr size_t kTableInPeb = 0xF8, kEntrySize = 24, kTypeInEntry = 14, kEntries = 0x4000;
+constexpr size_t kGdiKindInEntry = 14;
+const char* NameOfGdiKind(size_t kind) {
+    switch (kind) {
+        case 0x01: return "device contexts";
+        case 0x04: return "regions";
+        case 0x05: return "bitmaps";
+        case 0x0A: return "fonts";
+        case 0x10: return "brushes";
+        case 0x30: return "pens";
+        case 0x41: return "memory contexts";
+        default: return "other GDI objects";
+    }
+}
+
+// GetGuiResources always answers 0 where this runs; the platform's table of them tells. An entry without a kind is free.
+std::array<long, 128> CountGdiObjects() {
+    constexpr size_t kTableInPeb = 0xF8, kEntrySize = 24, kEntries = 0x4000;
     static const auto currentPeb = reinterpret_cast<char*(WINAPI*)()>(
         reinterpret_cast<void*>(GetProcAddress(GetModuleHandleW(L"ntdll.dll"), "RtlGetCurrentPeb")));
     const char* const peb = currentPeb();
     const char* const table = *reinterpret_cast<char* const*>(peb + kTableInPeb);
-    long count = 0;
-    for (size_t i = 0; table && i < kEntries; ++i)
-        count += *reinterpret_cast<const WORD*>(table + i * kEntrySize + kTypeInEntry) != 0;
-    return count;
+    std::array<long, 128> counts{};
+    for (size_t i = 0; table && i < kEntries; ++i) ++counts[table[i * kEntrySize + kGdiKindInEntry] & 0x7F];
+    counts[0] = 0;
+    return counts;
 }
 
 long CountWindows() {
@@ -122,7 +135,7 @@ std::string Counts::Against(const Counts& before) const {
     add("windows", windows, before.windows);
     add("menus", menus, before.menus);
     add("icons", icons, before.icons);
-    add("GDI objects", gdi, before.gdi);
+    for (size_t kind = 0; kind < gdi.size(); ++kind) add(NameOfGdiKind(kind), gdi[kind], before.gdi[kind]);
     add("live component", components, before.components);
     add("live stand-ins", standIns, before.standIns);
     add("task memory blocks", taskMemory, before.taskMemory);

@@ -1,5 +1,6 @@
 #include "proof/Openings.h"
 
+#include <array>
 #include <stdexcept>
 
 #include "proof/Counts.h"
@@ -86,6 +87,10 @@ void LoadModules() {
     const HMODULE component = LoadLibraryW(L"RecoveryUI.dll");
     if (!component || !LoadLibraryW(L"TovarinObjects.dll")) throw std::runtime_error("a module is missing");
     OutwardCalls::Catch(component);
+    // The platform keeps the device contexts of windows that were in use at once: as many as will ever be are made here.
+    std::array<HDC, 48> contexts{};
+    for (HDC& context : contexts) context = GetDC(nullptr);
+    for (const HDC context : contexts) ReleaseDC(nullptr, context);
 }
 
 }  // namespace recoveryui::proof
