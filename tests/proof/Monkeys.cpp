@@ -20,6 +20,7 @@ namespace {
 
 constexpr DWORD kPatience = 15'000;
 constexpr int kInputsOfOneOpening = 400, kInputsAtOnce = 8;
+constexpr DWORD kCrashed = 99;  // the exit code of a process that crashed
 constexpr wchar_t kHand[] = L"TovarinPointingHand";
 
 class Monkey {
@@ -202,38 +203,34 @@ int PlayMonkey(const Options& options) {
 }
 
 int Monkeys(const Options& options) {
-    const long wanted = options.Number(L"--inputs", 1'000'000), ofOne = 20'000;
-    const long seed = options.Number(L"--seed", 1);
+    const long wanted = options.Number(L"--inputs", 1'000'000), seed = options.Number(L"--seed", 1), ofOne = 20'000;
+    const bool raw = options.Number(L"--raw", 0) != 0;
     const ULONGLONG begun = GetTickCount64();
-    long made[2] = {};
+    long made = 0;
     int problems = 0, processes = 0;
-    const auto play = [&](bool raw, long inputs, long own, bool plant) {
-        std::string last;
-        const std::wstring arguments = L"--raw " + std::to_wstring(raw) + L" --inputs " + std::to_wstring(inputs) +
+    // A process of its own for some of the inputs; gives its exit code.
+    const auto play = [&](long inputs, long own, bool plant) {
+        const std::wstring arguments = L"monkey --raw " + std::to_wstring(raw) + L" --inputs " + std::to_wstring(inputs) +
                                        L" --seed " + std::to_wstring(own) + L" --plant " + std::to_wstring(plant);
-        std::string problem;
-        const DWORD code = RunChild(L"monkey " + arguments, [&](const std::string& line) {
-            if (line.rfind("made ", 0) == 0) {
-                made[raw] += std::stol(line.substr(5));
-            } else if (line.find(" after ") != line.npos && line.rfind("PROBLEM", 0) != 0) {
-                last = line;
-            } else {
-                problem += "\n    " + line;
+        std::string said;
+        const DWORD code = RunChild(arguments, [&](const std::string& line) {
+            if (line.rfind("made ", 0) == 0) made += std::stol(line.substr(5));
+            // Of the openings, the last one is told.
+            if (line.find(" after ") == line.npos) {
+                said += "\n    " + line;
+            } else if (said.find("PROBLEM") == said.npos) {
+                said = "\n    in the " + line;
             }
         });
         if (code != 0 && !plant)
-            std::printf("  PROBLEM in the %s: code %lu%s\n    again: prove monkey %s\n", last.c_str(), code,
-                        problem.c_str(), test::Utf8(arguments).c_str());
-        return code != 0;
+            std::printf("  PROBLEM code %lu%s\n    again: prove %s\n", code, said.c_str(), test::Utf8(arguments).c_str());
+        return code;
     };
-    for (const bool raw : {false, true}) {
-        for (long done = 0; done < wanted; done += ofOne, ++processes)
-            problems += play(raw, std::min(ofOne, wanted - done), seed + processes, false);
-    }
-    const bool found = play(false, 10, seed, true);
-    std::printf("PROOF monkeys: %ld valid inputs, %ld raw messages in %d processes, %d problems; planted crash %s; "
-                "seed %ld, %llu s\n",
-                made[0], made[1], processes, problems, found ? "found" : "NOT FOUND", seed,
+    for (long done = 0; done < wanted; done += ofOne, ++processes)
+        problems += play(std::min(ofOne, wanted - done), seed + processes, false) != 0;
+    const bool found = play(10, seed, true) == kCrashed;
+    std::printf("PROOF monkeys: %ld %s in %d processes, %d problems; planted crash %s; seed %ld, %llu s\n", made,
+                raw ? "raw messages" : "valid inputs", processes, problems, found ? "found" : "NOT FOUND", seed,
                 (GetTickCount64() - begun) / 1000);
     return problems == 0 && found ? 0 : 1;
 }

@@ -1,7 +1,7 @@
 // What the product promises, tried until it breaks.
 //   prove faults  [--journey name] [--most n] [--seed n] [--calls m3,p*7,h12]
 //   prove kills   [--rounds n] [--seed n]
-//   prove monkeys [--inputs n] [--seed n]
+//   prove monkeys [--raw 1] [--inputs n] [--seed n]
 //   prove long    [--rounds n]
 // The other words are for the processes that these start, and for doing again what one of them did.
 #include <gtest/gtest.h>
