@@ -3,6 +3,7 @@
 #include "model/RowRules.h"
 #include "process/RunningProcesses.h"
 #include "resources/ids.h"
+#include "ui/Clipboard.h"
 #include "ui/Messages.h"
 #include "ui/Window.h"
 
@@ -84,6 +85,7 @@ bool ProcessPair::OnNotify(NMHDR& header, LRESULT& answer) {
             answer = FALSE;  // the row's text is set here
             return true;
         case LVN_KEYDOWN: {
+            if (ui::CopyOnKey(header)) return true;
             const WORD key = reinterpret_cast<NMLVKEYDOWN&>(header).wVKey;
             if (key == VK_DELETE) Remove();
             if (key == VK_F2) Edit(ListView_GetNextItem(header.hwndFrom, -1, LVNI_FOCUSED));

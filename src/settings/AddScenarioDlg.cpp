@@ -11,6 +11,7 @@
 #include "resources/ids.h"
 #include "shell/Rack.h"
 #include "support/HelpTopics.h"
+#include "ui/Clipboard.h"
 #include "ui/EditKeys.h"
 #include "ui/Help.h"
 #include "ui/Messages.h"
@@ -61,6 +62,7 @@ bool AddScenarioDlg::OnCommand(const ui::Command& command) {
 
 bool AddScenarioDlg::OnNotify(NMHDR& header, LRESULT&) {
     if (header.idFrom != IDC_ADD_SCENARIO_LIST) return false;
+    if (ui::CopyOnKey(header)) return true;
     if (header.code == NM_SETFOCUS) PostMessageW(Window(), kFileLeft, FALSE, 0);
     if (header.code != NM_DBLCLK) return false;
     if (reinterpret_cast<const NMITEMACTIVATE&>(header).iItem >= 0 && IsWindowEnabled(Item(IDOK))) Accept();

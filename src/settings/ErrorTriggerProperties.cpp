@@ -14,8 +14,8 @@ void ErrorTriggerProperties::OnInit() {
     if (!trigger_ || FAILED(trigger_->GetErrorCode(&code))) return;
     const support::ReplayError* error = ErrorToShow(static_cast<std::int32_t>(code));
     if (!error) return;
-    SetItemText(IDC_PROPERTIES_ERROR, ui::LoadText(error->labelId));
-    SetItemText(IDC_PROPERTIES_ERROR_DESCRIPTION, ui::LoadText(error->descriptionId));
+    SetLabelText(IDC_PROPERTIES_ERROR, ui::LoadText(error->labelId));
+    SetLabelText(IDC_PROPERTIES_ERROR_DESCRIPTION, ui::LoadText(error->descriptionId));
 }
 
 }  // namespace recoveryui::settings

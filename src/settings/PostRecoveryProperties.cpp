@@ -10,7 +10,7 @@ PostRecoveryProperties::PostRecoveryProperties(long option, IObjectRack* rack) n
     : PropertiesPage(IDD_PROPERTIES_POST_RECOVERY, rack), option_(option) {}
 
 void PostRecoveryProperties::OnInit() {
-    SetItemText(IDC_PROPERTIES_OPTION, ui::LoadText(TextOfOption(static_cast<std::int32_t>(option_))));
+    SetLabelText(IDC_PROPERTIES_OPTION, ui::LoadText(TextOfOption(static_cast<std::int32_t>(option_))));
 }
 
 }  // namespace recoveryui::settings

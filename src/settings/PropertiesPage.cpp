@@ -14,6 +14,16 @@ void PropertiesPage::SetItemText(int id, const std::wstring& text) const {
     ui::SetText(Item(id), text);
 }
 
+// The margin inside would set it off from the labels.
+void PropertiesPage::SetLabelText(int id, const std::wstring& text) const {
+    SendMessageW(Item(id), EM_SETMARGINS, EC_LEFTMARGIN, 0);
+    SetItemText(id, text);
+}
+
+HWND PropertiesPage::FirstFocus() const {
+    return PropSheet_GetTabControl(Sheet());
+}
+
 void PropertiesPage::SetItemChecked(int id, bool checked) const {
     ui::SetChecked(Item(id), checked);
 }

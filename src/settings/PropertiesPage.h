@@ -15,6 +15,8 @@ protected:
 
     IObjectRack* Rack() const noexcept { return rack_.Get(); }
     void SetItemText(int id, const std::wstring& text) const;
+    // Of an edit box without a border: a label that can be copied.
+    void SetLabelText(int id, const std::wstring& text) const;
     void SetItemChecked(int id, bool checked) const;
 
     bool OnNotify(NMHDR& header, LRESULT& answer) override;
@@ -22,6 +24,8 @@ protected:
 private:
     bool OnMessage(UINT message, WPARAM wParam, LPARAM lParam, LRESULT& answer) override;
     void OnHelp() override;
+    // Nothing is to be done here: the tabs come first, and no text is selected.
+    HWND FirstFocus() const override;
 
     com::Ptr<IObjectRack> rack_;
 };

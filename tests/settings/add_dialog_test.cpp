@@ -53,6 +53,8 @@ TEST_F(AddDialogTest, ThreeRowsAreGivenInTheOrderOfTheSortedList) {
                   EXPECT_EQ(screen.Chosen(dialog, kList), Rows{L"alpha"});
                   EXPECT_EQ(screen.FocusId(), kList);
                   screen.Picture(dialog, L"add-dialog");
+                  screen.RealKeys({VK_CONTROL, 'A'});
+                  EXPECT_EQ(screen.Chosen(dialog, kList), screen.RowsOf(dialog, kList));
                   screen.Do([=] { ListView_SetItemState(GetDlgItem(dialog, kList), -1, 0, LVIS_SELECTED); });
                   screen.Press(dialog, IDOK);  // nothing is selected: nothing happens
                   SelectNames(screen, dialog, {L"echo", L"Bravo", L"delta"});

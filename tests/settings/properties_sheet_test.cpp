@@ -25,6 +25,8 @@ Rows Tabs(UserScreen& screen, HWND sheet) {
     return names;
 }
 
+constexpr int kTabs = 0x3020;
+
 void Turn(UserScreen& screen, HWND sheet, int page) {
     screen.Do([=] { SendMessageW(sheet, PSM_SETCURSEL, static_cast<WPARAM>(page), 0); });
 }
@@ -64,6 +66,7 @@ protected:
         User user([&](UserScreen& screen) {
             const HWND sheet = screen.WaitForWindow(L"Recovery Scenario Properties");
             Turn(screen, sheet, page);
+            EXPECT_EQ(screen.FocusId(), kTabs) << "no text is selected";
             script(screen, sheet);
             screen.Press(sheet, IDOK);
         });
