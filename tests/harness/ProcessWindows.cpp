@@ -23,6 +23,16 @@ std::string Describe(HWND window, const char* indent) {
     return line + "\n";
 }
 
+// An open menu, in the picture of the place that it covers.
+void DrawMenu(HDC picture, HWND menu, const RECT& covered) {
+    RECT place{};
+    GetWindowRect(menu, &place);
+    const HDC source = GetWindowDC(menu);
+    BitBlt(picture, place.left - covered.left, place.top - covered.top, place.right - place.left,
+           place.bottom - place.top, source, 0, 0, SRCCOPY);
+    ReleaseDC(menu, source);
+}
+
 LONG WINAPI OnCrash(EXCEPTION_POINTERS* crash) {
     void* const address = crash->ExceptionRecord->ExceptionAddress;
     MEMORY_BASIC_INFORMATION region{};
@@ -138,6 +148,8 @@ bool SaveBmp(HWND window, const std::wstring& path) {
     if (bitmap) {
         const HGDIOBJ before = SelectObject(memory, bitmap);
         BitBlt(memory, 0, 0, width, height, source, 0, 0, SRCCOPY);
+        for (const HWND menu : TopLevelWindows())
+            if (IsWindowVisible(menu) && ClassOf(menu) == L"#32768") DrawMenu(memory, menu, place);
         GdiFlush();
         const DWORD size = static_cast<DWORD>(width * height * 4);
         BITMAPFILEHEADER header{};
