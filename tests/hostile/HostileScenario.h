@@ -20,18 +20,21 @@ public:
     using MakeArray = std::function<SAFEARRAY*(VARTYPE)>;
 
     long kind = 0;  // of the trigger or of the operation
+    long option = 1;
+    com::Ptr<IUnknown> trigger;  // instead of itself
+    HRESULT texts = S_OK;        // what asking for one answers
     MakeArray operations, parts;
     std::wstring text;
 
     HRESULT STDMETHODCALLTYPE GetTriggerKind(long* out) noexcept override { return *out = kind, S_OK; }
     HRESULT STDMETHODCALLTYPE GetOperationKind(long* out) noexcept override { return *out = kind, S_OK; }
-    HRESULT STDMETHODCALLTYPE GetPostRecoveryOption(long* out) noexcept override { return *out = 1, S_OK; }
+    HRESULT STDMETHODCALLTYPE GetPostRecoveryOption(long* out) noexcept override {
+        return *out = option, S_OK;
+    }
     HRESULT STDMETHODCALLTYPE GetTargetKind(long* out) noexcept override { return *out = LONG_MIN, S_OK; }
     HRESULT STDMETHODCALLTYPE GetPrototypeMode(long* out) noexcept override { return *out = LONG_MAX, S_OK; }
     HRESULT STDMETHODCALLTYPE GetTrigger(IUnknown** out) noexcept override {
-        *out = static_cast<IRecoveryScenario*>(this);
-        AddRef();
-        return S_OK;
+        return (trigger ? trigger : KeepAlive()).CopyTo(out);
     }
     HRESULT STDMETHODCALLTYPE GetDescription(BSTR* out) noexcept override { return Give(out); }
     HRESULT STDMETHODCALLTYPE GetMethodName(BSTR* out) noexcept override { return Give(out); }
@@ -66,7 +69,7 @@ public:
     HRESULT STDMETHODCALLTYPE SetPrototypeMode(long) noexcept override { return E_NOTIMPL; }
 
 private:
-    HRESULT Give(BSTR* out) const noexcept { return com::CopyTo(out, text); }
+    HRESULT Give(BSTR* out) const noexcept { return FAILED(texts) ? texts : com::CopyTo(out, text); }
     HRESULT Part(VARTYPE type, SAFEARRAY** out) const noexcept {
         return *out = parts ? parts(type) : nullptr, S_OK;
     }

@@ -1,4 +1,4 @@
-// Values that somebody else left behind: in the host's options, in the registry, in recovery files.
+// Values that somebody else left behind: in the host's options and in recovery files.
 #include <windows.h>
 
 #include <commctrl.h>
@@ -7,7 +7,6 @@
 
 #include "com/Object.h"
 #include "manager/ManagerTest.h"
-#include "model/CMRUComboBox.h"
 #include "objects/services/NamedMembers.h"
 #include "settings/SettingsTest.h"
 
@@ -60,21 +59,7 @@ com::Variant OfArray(SAFEARRAY* array, VARTYPE type) {
     return made;
 }
 
-class HostileOptionsTest : public SettingsTest {
-protected:
-    // The tab, its frame and everything that they ask get their answers from the hostile object.
-    void OpenSettings(HostileOptions* hostile, const std::function<void(UserScreen&, HWND)>& script) {
-        rack_.Put(L"TestOptions", static_cast<ITestOptions*>(hostile));
-        const auto page = New<IPropertyPage>(L"Vantrel.RecoveryPP");
-        TestFrame frame(page.Get(), rack_.Get(), hostile, false);
-        User user([&](UserScreen& screen) {
-            const HWND window = screen.WaitForWindow(L"Test Settings");
-            script(screen, window);
-            screen.Press(window, IDCANCEL);
-        });
-        frame.ShowModal();
-    }
-};
+using HostileOptionsTest = SettingsTest;
 
 TEST_F(HostileOptionsTest, TheTabOpensOnOptionsOfEveryType) {
     static LONG number = 7;
@@ -100,11 +85,14 @@ TEST_F(HostileOptionsTest, TheTabOpensOnOptionsOfEveryType) {
                   {com::Variant(wide), 0},
                   {com::Variant(many), 2000}};
     const auto hostile = HostileOptions::Make();
+    // The tab, its frame and everything that they ask get their answers from it.
+    property_ = hostile.Get();
+    rack_.Put(L"TestOptions", property_);
     for (const auto& [value, rows] : values) {
         SCOPED_TRACE(value.Type());
         hostile->value = value;
         hostile->registryPath = nul;
-        OpenSettings(hostile.Get(), [&](UserScreen& screen, HWND frame) {
+        OpenSettings([&](UserScreen& screen, HWND frame) {
             EXPECT_EQ(screen.Ask(screen.Control(frame, IDC_RECOVERY_LIST), LVM_GETITEMCOUNT), rows);
             EXPECT_TRUE(screen.IsEnabled(frame, IDC_RECOVERY_ADD));
             if (rows != 1) return;
@@ -115,46 +103,10 @@ TEST_F(HostileOptionsTest, TheTabOpensOnOptionsOfEveryType) {
     // A branch that is none.
     for (const com::Variant& item : {OfType(VT_NULL, 0), OfType(VT_DISPATCH, 0), com::Variant(L"x")}) {
         hostile->item = item;
-        OpenSettings(hostile.Get(), [&](UserScreen& screen, HWND frame) {
+        OpenSettings([&](UserScreen& screen, HWND frame) {
             EXPECT_EQ(screen.RowsOf(frame, IDC_RECOVERY_LIST), Rows{});
         });
     }
-}
-
-TEST(HostileRegistryTest, ARecentListTakesWhateverItsValueHolds) {
-    constexpr const wchar_t* kKey = L"Software\\RecoveryUITests\\Hostile";
-    HKEY key = nullptr;
-    ASSERT_EQ(RegCreateKeyW(HKEY_CURRENT_USER, kKey, &key), ERROR_SUCCESS);
-    const std::wstring separators(1'000'000, L';'), entry(500'000, L'x'), nuls(5, L'\0');
-    const struct {
-        DWORD type;
-        const std::wstring text;
-        DWORD missing;  // bytes at its end
-        LRESULT entries;
-    } cases[] = {{REG_SZ, L"", 0, 0},          {REG_SZ, L"a;b", 0, 2},
-                 {REG_SZ, L"a;b", 1, 2},       {REG_SZ, L"a", 1, 1},
-                 {REG_MULTI_SZ, L"a;b", 0, 2}, {REG_EXPAND_SZ, L"%x%;b", 0, 2},
-                 {REG_DWORD, L"ab", 0, 1},     {REG_BINARY, nuls, 0, 0},
-                 {0x12345678, L"a", 0, 1},     {REG_SZ, separators, 0, 0},
-                 {REG_SZ, entry, 0, 1},        {REG_SZ, L"a;" + separators + L"b;c;d;e;f", 0, 4}};
-    for (const auto& [type, text, missing, entries] : cases) {
-        const auto bytes = static_cast<DWORD>(text.size() * sizeof(wchar_t)) - missing;
-        ASSERT_EQ(RegSetValueExW(key, L"Recent", 0, type, reinterpret_cast<const BYTE*>(text.data()), bytes),
-                  ERROR_SUCCESS);
-        const HWND window = CreateWindowW(L"COMBOBOX", L"", CBS_DROPDOWN | CBS_HASSTRINGS | WS_POPUP, 0, 0,
-                                          100, 100, nullptr, nullptr, nullptr, nullptr);
-        model::CMRUComboBox combo;
-        combo.Attach(window);
-        EXPECT_TRUE(combo.LoadMRU(HKEY_CURRENT_USER, kKey, L"Recent", 4));
-        EXPECT_EQ(SendMessageW(window, CB_GETCOUNT, 0, 0), entries) << type << " " << bytes;
-        combo.AddString(L"new");
-        DestroyWindow(window);
-        DWORD stored = 0, size = 0;
-        EXPECT_EQ(RegQueryValueExW(key, L"Recent", nullptr, &stored, nullptr, &size), ERROR_SUCCESS);
-        EXPECT_EQ(stored, static_cast<DWORD>(REG_SZ)) << "saved as what it should be";
-    }
-    RegCloseKey(key);
-    RegDeleteTreeW(HKEY_CURRENT_USER, L"Software\\RecoveryUITests");
 }
 
 class HostileFilesTest : public ManagerTest {};

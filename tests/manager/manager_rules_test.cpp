@@ -5,7 +5,6 @@
 #include "manager/CommandStates.h"
 #include "manager/OpenResult.h"
 #include "manager/SaveQuestion.h"
-#include "manager/SelectionRules.h"
 #include "manager/StorePlan.h"
 #include "manager/TestLists.h"
 #include "model/FailureCodes.h"
@@ -47,22 +46,8 @@ TEST(OpeningAFile, EndsByTheTwoLoads) {
         EXPECT_EQ(AfterViewingLoad(c.code), c.viewing) << std::hex << c.code;
         EXPECT_EQ(AfterEditingLoad(c.code), c.editing) << std::hex << c.code;
     }
-}
-
-TEST(SavingAFile, NamesAFullDisk) {
     for (const std::int32_t full : {model::kMediumFull, model::kDiskFull, model::kHandleDiskFull})
         EXPECT_EQ(SaveFailureMessage(full), IDS_FILE_DISK_FULL);
-    EXPECT_EQ(SaveFailureMessage(model::kAccessDenied), IDS_FILE_SAVE_FAILED);
-}
-
-TEST(Selection, StaysWhereTheUserWorks) {
-    EXPECT_EQ(RowAfterDelete(1, 2), 1);
-    EXPECT_EQ(RowAfterDelete(2, 2), 1);
-    EXPECT_EQ(RowAfterDelete(0, 0), kNoRow);
-    EXPECT_EQ(RowAfterPaste(3), 2);
-    const std::wstring names[] = {L"popup", L"Popup"};
-    EXPECT_EQ(RowAfterWizard(names, L"Popup"), 1);
-    EXPECT_EQ(RowAfterWizard(names, L"POPUP"), kNoRow);
 }
 
 TEST(StoringTheWizardsScenario, ARenameLeavesNoOldName) {
@@ -116,35 +101,9 @@ TEST(CommandStates, FollowFileSelectionAndClipboard) {
         {"no repository", {.hasRepository = false}, "NOnX"},
     };
     for (const auto& c : cases) EXPECT_EQ(Enabled(c.state), c.enabled) << c.why;
-}
-
-TEST(Saving, DoesOnlyWhatIsNeeded) {
-    EXPECT_EQ(StepOfSave({.hasRepository = false, .dirty = true}), SaveStep::Nothing);
     EXPECT_EQ(StepOfSave({.untitled = true}), SaveStep::AskForPath);
-    EXPECT_EQ(StepOfSave({.untitled = false}), SaveStep::Nothing);
     EXPECT_EQ(StepOfSave({.untitled = false, .dirty = true}), SaveStep::Write);
     EXPECT_EQ(StepOfSave({.readOnly = true, .untitled = false, .dirty = true}), SaveStep::Nothing);
-}
-
-TEST(Saving, TheQuestionDecidesWhetherTheFileIsLeft) {
-    const struct {
-        bool dirty;
-        SaveAnswer answer;
-        bool saves;
-        bool leaves;
-        const char* calls;
-    } cases[] = {
-        {false, SaveAnswer::Cancel, false, true, ""},       {true, SaveAnswer::Cancel, true, false, "ask "},
-        {true, SaveAnswer::No, false, true, "ask "},        {true, SaveAnswer::Yes, true, true, "ask save "},
-        {true, SaveAnswer::Yes, false, false, "ask save "},
-    };
-    for (const auto& c : cases) {
-        std::string calls;
-        const auto ask = [&] { return calls += "ask ", c.answer; };
-        const auto save = [&] { return calls += "save ", c.saves; };
-        EXPECT_EQ(MayLeaveFile(c.dirty, ask, save), c.leaves);
-        EXPECT_EQ(calls, c.calls);
-    }
 }
 
 using Files = std::vector<AddedScenarios::File>;
@@ -193,12 +152,12 @@ TEST(NameSearch, FindsWhatIsTypedFromARowOn) {
         {L"c", 3, {}, 1},
         {L"c", 3, {.wrap = false}, -1},
         {L"crashed", 0, {}, 2},
-        {L"POPUP", 1, {.prefix = false}, 0},
-        {L"pop", 0, {.prefix = false}, -1},
         {L"p", -1, {}, 0},
         {L"p", 99, {}, 0},
-        {L"x", 2, {}, -1},
+        {L"POPUP", 1, {.prefix = false}, 0},
         {L"popup 22", 0, {}, -1},
+        {L"x", 2, {}, -1},
+        {L"pop", 0, {.prefix = false}, -1},
     };
     for (const auto& c : cases)
         EXPECT_EQ(model::FindName(4, nameAt, c.text, c.start, c.how), c.row) << c.text << c.start;

@@ -4,7 +4,6 @@
 #include "model/Activation.h"
 #include "model/DefaultsComparison.h"
 #include "model/RecordString.h"
-#include "resources/ids.h"
 
 namespace recoveryui::model {
 namespace {
@@ -16,45 +15,30 @@ const Records kNone;
 const Records kEvery{{L"f", L"P", true, -1}, {L"f", L"Q", true, 1}};
 const Records kError{{L"f", L"P", true, 1}, {L"f", L"Q", true, -1}};
 
-TEST(Activation, TheStoredPairSelectsAnItem) {
+TEST(Activation, TheStoredPairSelectsAnItemWhichWritesAPair) {
     const struct {
         std::optional<std::int32_t> enabled;
         const Records& records;
         Item item;
-    } cases[] = {
-        {std::nullopt, kEvery, Item::None}, {0, kEvery, Item::Never},   {0, kNone, Item::Never},
-        {1, kEvery, Item::EveryStep},       {1, kError, Item::OnError}, {1, kNone, Item::OnError},
-        {-7, kEvery, Item::EveryStep},
-    };
-    for (const auto& c : cases) EXPECT_EQ(ActivationOnReading(c.enabled, c.records), c.item);
-}
-
-TEST(Activation, TheSelectedItemWritesAPair) {
-    const struct {
-        Item item;
-        const Records& records;
         ActivationValues written;
     } cases[] = {
-        {Item::EveryStep, kError, {1, -1}}, {Item::OnError, kEvery, {1, 1}}, {Item::Never, kEvery, {0, 1}},
-        {Item::None, kEvery, {1, -1}},      {Item::None, kNone, {1, 1}},
+        {std::nullopt, kEvery, Item::None, {1, -1}},
+        {std::nullopt, kNone, Item::None, {1, 1}},
+        {0, kEvery, Item::Never, {0, 1}},
+        {0, kNone, Item::Never, {0, 1}},
+        {1, kEvery, Item::EveryStep, {1, -1}},
+        {-7, kEvery, Item::EveryStep, {1, -1}},
+        {1, kError, Item::OnError, {1, 1}},
+        {1, kNone, Item::OnError, {1, 1}},
     };
-    for (const auto& c : cases) EXPECT_EQ(ActivationToWrite(c.item, c.records), c.written);
-}
-
-TEST(Activation, TheComboListsThreeItemsInOrder) {
-    const struct {
-        Item item;
-        std::int32_t value;
-        int text;
-    } items[kActivationItems] = {{Item::EveryStep, -1, IDS_ACTIVATE_EVERY_STEP},
-                                 {Item::OnError, 1, IDS_ACTIVATE_ON_ERROR},
-                                 {Item::Never, 0, IDS_ACTIVATE_NEVER}};
-    for (int i = 0; i < kActivationItems; ++i) {
-        EXPECT_EQ(static_cast<int>(items[i].item), i);
-        EXPECT_EQ(ActivationItemValue(items[i].item), items[i].value);
-        EXPECT_EQ(ActivationText(items[i].item), items[i].text);
+    for (const auto& c : cases) {
+        SCOPED_TRACE(&c - cases);
+        EXPECT_EQ(ActivationOnReading(c.enabled, c.records), c.item);
+        EXPECT_EQ(ActivationToWrite(c.item, c.records), c.written);
     }
-    EXPECT_EQ(ActivationText(Item::None), 0);
+    // The item decides, whatever mode the records had.
+    EXPECT_EQ(ActivationToWrite(Item::EveryStep, kError), (ActivationValues{1, -1}));
+    EXPECT_EQ(ActivationToWrite(Item::OnError, kEvery), (ActivationValues{1, 1}));
 }
 
 TEST(Defaults, CanBeSetUnlessBothAreAbsentOrEqual) {
@@ -67,7 +51,7 @@ TEST(Defaults, CanBeSetUnlessBothAreAbsentOrEqual) {
         {L"a;b;1;1*", std::nullopt, true},   {L"a;b;1;1*", L"A;b;1;1*", true},  {L"", std::nullopt, true},
         {std::nullopt, L"", true},
     };
-    for (const auto& c : cases) EXPECT_EQ(CanSetAsDefault(c.current, c.defaults), c.can);
+    for (const auto& c : cases) EXPECT_EQ(CanSetAsDefault(c.current, c.defaults), c.can) << &c - cases;
 }
 
 TEST(RecordString, ReadsCompleteRecordsAndStopsAtTheFirstBrokenOne) {

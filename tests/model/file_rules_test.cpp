@@ -21,10 +21,7 @@ TEST(FileNames, SavingAddsTheExtensionToAPathWithoutADot) {
         {L"[Brevalon] Subject\\scenarios", L"[Brevalon] Subject\\scenarios"},
         {L"[Brevalon]Subject\\scenarios", L"[Brevalon]Subject\\scenarios.trs"},
     };
-    for (const auto& c : cases) EXPECT_EQ(PathToSave(c.chosen, L".trs"), c.saved);
-}
-
-TEST(FileNames, OnlyWhiteSpaceIsACancelledDialog) {
+    for (const auto& c : cases) EXPECT_EQ(PathToSave(c.chosen, L".trs"), c.saved) << &c - cases;
     for (const wchar_t* path : {L"", L" ", L"\t \r\n"}) EXPECT_TRUE(IsCancelledPath(path));
     EXPECT_FALSE(IsCancelledPath(L" a "));
 }
@@ -64,7 +61,7 @@ TEST(FileNames, LongPathsGetTheExtendedForm) {
         {L"C:\\" + tail.substr(56), L"C:\\" + tail.substr(56)},
         {L"C:\\" + tail.substr(55), L"\\\\?\\C:\\" + tail.substr(55)},
     };
-    for (const auto& c : cases) EXPECT_EQ(ExtendedLengthPath(c.path), c.extended);
+    for (const auto& c : cases) EXPECT_EQ(ExtendedLengthPath(c.path), c.extended) << &c - cases;
 }
 
 TEST(RecentFiles, KeepsFourDifferentFilesTheLatestFirst) {
@@ -89,40 +86,20 @@ TEST(RecentFiles, KeepsFourDifferentFilesTheLatestFirst) {
     }
 }
 
-TEST(RecentFiles, OpeningAnEntryOfItsOwnListMovesIt) {
-    RecentFiles files(L"a;b;c;d");
-    files.Add(files.Entries()[3]);
-    EXPECT_EQ(files.Joined(), L"d;a;b;c");
-}
-
-TEST(MruList, AddStringMovesToTheFrontAndDropsTheOldest) {
-    const struct {
-        const char* why;
-        MruState list;
-        const wchar_t* text;
-        MruPlan plan;
-    } cases[] = {
-        {"first of all", {0, 4, -1}, L"a", {.result = 0, .insertAt = 0}},
-        {"a new one in a full list", {4, 4, -1}, L"a", {.result = 0, .deleteLast = 3, .insertAt = 0}},
-        {"already first", {4, 4, 0}, L"a", {.result = 0}},
-        {"the third to the front", {4, 4, 2}, L"a", {.result = 0, .deleteMatch = 2, .insertAt = 0}},
-        {"a match leaves an overfull list full",
-         {5, 4, 2},
-         L"a",
-         {.result = 0, .deleteMatch = 2, .deleteLast = 3, .insertAt = 0}},
-        {"no text", {4, 4, -1}, L"", {}},
-        {"room for none", {0, 0, -1}, L"a", {}},
-    };
-    for (const auto& c : cases) EXPECT_EQ(PlanAddString(c.list, c.text), c.plan) << c.why;
-}
-
-TEST(MruList, InsertStringRefusesWhatTheListCannotReach) {
+TEST(MruList, AnEntryMovesToItsPlaceAndTheOldestIsDropped) {
+    constexpr int kAdd = -2;
     const struct {
         const char* why;
         MruState list;
         int index;
         MruPlan plan;
     } cases[] = {
+        {"first of all", {0, 4, -1}, kAdd, {.result = 0, .insertAt = 0}},
+        {"a new one in a full list", {4, 4, -1}, kAdd, {.result = 0, .deleteLast = 3, .insertAt = 0}},
+        {"already first", {4, 4, 0}, kAdd, {.result = 0}},
+        {"the third to the front", {4, 4, 2}, kAdd, {.result = 0, .deleteMatch = 2, .insertAt = 0}},
+        {"overfull", {5, 4, 2}, kAdd, {.result = 0, .deleteMatch = 2, .deleteLast = 3, .insertAt = 0}},
+        {"room for none", {0, 0, -1}, kAdd, {}},
         {"before the first", {2, 4, -1}, -1, {}},
         {"at the maximum", {4, 4, -1}, 4, {}},
         {"at the end", {2, 4, -1}, 2, {.result = 2, .insertAt = 2}},
@@ -132,7 +109,10 @@ TEST(MruList, InsertStringRefusesWhatTheListCannotReach) {
         {"the match is there already", {3, 4, 1}, 1, {.result = 1}},
         {"last of a full list", {4, 4, -1}, 3, {.result = 3, .deleteLast = 3, .insertAt = 3}},
     };
-    for (const auto& c : cases) EXPECT_EQ(PlanInsertString(c.list, c.index, L"a"), c.plan) << c.why;
+    for (const auto& [why, list, index, plan] : cases)
+        EXPECT_EQ(index == kAdd ? PlanAddString(list, L"a") : PlanInsertString(list, index, L"a"), plan)
+            << why;
+    EXPECT_EQ(PlanAddString({4, 4, -1}, L""), MruPlan{}) << "no text";
 }
 
 TEST(MruList, TheStoredValueHasNoEmptyEntries) {

@@ -6,7 +6,6 @@
 #include "model/KeySequence.h"
 #include "model/Kinds.h"
 #include "model/ObjectHierarchy.h"
-#include "model/OperationOrder.h"
 #include "model/OperationRows.h"
 #include "model/PostRecovery.h"
 #include "model/Words.h"
@@ -18,31 +17,18 @@ namespace {
 TEST(KindsTest, EveryKindHasItsWordAndOtherNumbersMeanNothing) {
     const int triggers[] = {IDS_TRIGGER_OBJECT_STATE, IDS_TRIGGER_POPUP, IDS_TRIGGER_ERROR,
                             IDS_TRIGGER_CRASH};
-    const int summary[] = {IDS_OPERATION_KEYBOARD_OR_MOUSE, IDS_OPERATION_FUNCTION,
-                           IDS_OPERATION_CLOSE_PROCESS, IDS_OPERATION_KEYBOARD_OR_MOUSE};
-    const int listed[] = {IDS_LIST_KEYBOARD_CLICK, IDS_OPERATION_FUNCTION, IDS_OPERATION_CLOSE_PROCESS,
-                          IDS_LIST_KEYBOARD_CLICK};
-    for (int kind = 0; kind < 4; ++kind) {
-        EXPECT_EQ(TriggerWord(TriggerKindFrom(kind).value()), triggers[kind]);
-        EXPECT_EQ(OperationWord(OperationKindFrom(kind).value()), summary[kind]);
-        EXPECT_EQ(OperationListWord(OperationKindFrom(kind).value()), listed[kind]);
-    }
-    for (const std::int32_t kind : {-1, 4, INT32_MIN, INT32_MAX}) {
-        EXPECT_FALSE(TriggerKindFrom(kind)) << kind;
-        EXPECT_FALSE(OperationKindFrom(kind)) << kind;
-    }
-}
-
-TEST(KindsTest, SevenAndEightIncludeARestartUnderTheWordsOfFiveAndSix) {
-    const int words[] = {IDS_OPTION_REPEAT_STEP,    IDS_OPTION_NEXT_STEP,   IDS_OPTION_NEXT_ACTION,
-                         IDS_OPTION_NEXT_ITERATION, IDS_OPTION_RESTART_RUN, IDS_OPTION_STOP_RUN,
-                         IDS_OPTION_RESTART_RUN,    IDS_OPTION_STOP_RUN};
+    const int options[] = {IDS_OPTION_REPEAT_STEP,    IDS_OPTION_NEXT_STEP,   IDS_OPTION_NEXT_ACTION,
+                           IDS_OPTION_NEXT_ITERATION, IDS_OPTION_RESTART_RUN, IDS_OPTION_STOP_RUN,
+                           IDS_OPTION_RESTART_RUN,    IDS_OPTION_STOP_RUN};
+    for (int kind = 0; kind < 4; ++kind)
+        EXPECT_EQ(TriggerWord(TriggerKindFrom(kind).value()), triggers[kind]) << kind;
+    for (const std::int32_t kind : {-1, 4, INT32_MIN, INT32_MAX})
+        EXPECT_FALSE(TriggerKindFrom(kind) || OperationKindFrom(kind)) << kind;
     for (int option = 1; option <= 8; ++option) {
-        EXPECT_EQ(OptionWord(PostRecoveryOptionFrom(option).value()), words[option - 1]);
-        EXPECT_EQ(IncludesRestart(PostRecoveryOptionFrom(option).value()), option >= 7);
+        EXPECT_EQ(OptionWord(PostRecoveryOptionFrom(option).value()), options[option - 1]) << option;
+        EXPECT_EQ(IncludesRestart(PostRecoveryOptionFrom(option).value()), option >= 7) << option;
     }
-    EXPECT_FALSE(PostRecoveryOptionFrom(0));
-    EXPECT_FALSE(PostRecoveryOptionFrom(9));
+    for (const int none : {0, 9}) EXPECT_FALSE(PostRecoveryOptionFrom(none)) << none;
 }
 
 using Sequence = std::vector<std::uint32_t>;
@@ -76,11 +62,9 @@ TEST(KeysTest, ASequenceHasItsStoredFormAndReadsAsTheKeysPressed) {
         EXPECT_EQ(row.sequence, row.stored);
         EXPECT_EQ(KeyNames(row.sequence, test::FakeStrings(), CharacterOf), row.names);
     }
-}
-
-TEST(KeysTest, OnlyTheReleaseBitOfAnEventHidesAKey) {
     EXPECT_EQ(PressedKeys(Sequence{0x00000041, 0x00010042, 0x00020043, 0x00030044, 0xFFFD0045}),
-              (std::vector<std::uint16_t>{0x41, 0x42, 0x45}));
+              (std::vector<std::uint16_t>{0x41, 0x42, 0x45}))
+        << "only the release bit of an event hides a key";
 }
 
 TEST(ObjectHierarchyTest, RunsFromTheOutermostParentDownToTheObject) {
@@ -95,8 +79,6 @@ TEST(ObjectHierarchyTest, RunsFromTheOutermostParentDownToTheObject) {
     EXPECT_EQ(FirstUnidentified(std::vector<std::size_t>{2, 1}), std::nullopt);
     EXPECT_EQ(FirstUnidentified(std::vector<std::size_t>{2, 0, 0}), 1U);
 }
-
-using Row = std::optional<std::size_t>;
 
 OperationDescription Button(std::optional<std::wstring> label) {
     return {.kind = 0, .label = std::move(label)};
@@ -128,68 +110,33 @@ TEST(OperationListTest, ListsEveryKindWithItsDetailsAndTheRestartLast) {
     EXPECT_EQ(Written(OperationRows(operations, true, test::FakeStrings())),
               listed + L"Restart Microsoft Windows|\n");
     EXPECT_EQ(Written(OperationRows({}, true, test::FakeStrings())), L"Restart Microsoft Windows|\n");
-}
-
-TEST(OperationListTest, AnUnknownKindEndsTheListBeforeTheRestart) {
-    const std::vector<OperationDescription> operations = {
+    // An unknown kind ends the list, before the restart.
+    const std::vector<OperationDescription> foreign = {
         {.kind = 3, .keyNames = L"A"}, {.kind = 4}, {.kind = 2}};
-    EXPECT_EQ(Written(OperationRows(operations, true, test::FakeStrings())), L"Keyboard click|A\n");
-}
-
-TEST(OperationListTest, TheRestartStaysLastWhateverIsMoved) {
-    struct {
-        OperationList list;
-        std::size_t selected;
-        Row up, down;
-        Deletion deletion;
-    } const rows[] = {
-        {{0, false}, 0, {}, {}, Deletion::None},      {{0, true}, 0, {}, {}, Deletion::Restart},
-        {{1, false}, 0, {}, {}, Deletion::Operation}, {{3, false}, 0, {}, 1, Deletion::Operation},
-        {{3, false}, 2, 1, {}, Deletion::Operation},  {{3, true}, 1, 0, 2, Deletion::Operation},
-        {{3, true}, 2, 1, {}, Deletion::Operation},   {{3, true}, 3, {}, {}, Deletion::Restart},
-        {{3, false}, 3, {}, {}, Deletion::None},      {{3, true}, SIZE_MAX, {}, {}, Deletion::None},
-    };
-    for (const auto& row : rows) {
-        SCOPED_TRACE(testing::Message() << row.list.Rows() << " rows, selected " << row.selected);
-        EXPECT_EQ(SwapUp(row.list, row.selected), row.up);
-        EXPECT_EQ(SwapDown(row.list, row.selected), row.down);
-        EXPECT_EQ(DeletionOf(row.list, row.selected), row.deletion);
-    }
-}
-
-int Written(int choice, bool restart) {
-    const auto option = OptionOf(choice, restart);
-    return option ? static_cast<int>(*option) : 0;
+    EXPECT_EQ(Written(OperationRows(foreign, true, test::FakeStrings())), L"Keyboard click|A\n");
 }
 
 TEST(PostRecoveryTest, AChoiceWritesTheOptionThatTheRestartDecides) {
-    struct {
-        int choice, plain, withRestart;
-    } const rows[] = {{-1, 0, 0}, {0, 1, 0}, {1, 2, 0}, {2, 3, 0},
-                      {3, 4, 0},  {4, 5, 7}, {5, 6, 8}, {6, 0, 0}};
-    for (const auto& row : rows) {
-        EXPECT_EQ(Written(row.choice, false), row.plain) << row.choice;
-        EXPECT_EQ(Written(row.choice, true), row.withRestart) << row.choice;
-        EXPECT_EQ(IsOffered(row.choice, true), row.withRestart != 0) << row.choice;
+    const int written[][2] = {{1, 0}, {2, 0}, {3, 0}, {4, 0}, {5, 7}, {6, 8}};  // without, with a restart
+    for (int choice = -1; choice <= kChoiceCount; ++choice) {
+        const bool exists = choice >= 0 && choice < kChoiceCount;
+        for (const bool restart : {false, true}) {
+            SCOPED_TRACE(testing::Message() << "choice " << choice << ", restart " << restart);
+            const auto option = OptionOf(choice, restart);
+            EXPECT_EQ(option ? static_cast<int>(*option) : 0, exists ? written[choice][restart] : 0);
+            EXPECT_EQ(IsOffered(choice, restart), option.has_value());
+            // A hidden choice gives way to restarting the run.
+            EXPECT_EQ(ChoiceOnActivation(choice, restart), !restart || choice == 5 ? choice : 4);
+        }
     }
-    EXPECT_EQ(CaptionOf(0), IDS_OPTION_REPEAT_STEP);
-    EXPECT_EQ(CaptionOf(5), IDS_OPTION_STOP_RUN);
-}
-
-TEST(PostRecoveryTest, AnExistingScenarioShowsItsOptionAndANewOneTheFirstOffered) {
     const int choices[] = {kNoChoice, 0, 1, 2, 3, 4, 5, 4, 5, kNoChoice};  // by option 0 to 9
     for (int option = 0; option <= 9; ++option)
-        EXPECT_EQ(InitialChoice(option, false), choices[option]) << option;
-    EXPECT_EQ(InitialChoice(2, true), 1);
-    EXPECT_EQ(InitialChoice(std::nullopt, false), 0);
+        for (const bool restart : {false, true})
+            EXPECT_EQ(InitialChoice(option, restart), choices[option]) << option << restart;
+    EXPECT_EQ(InitialChoice(std::nullopt, false), 0) << "a new one: the first offered";
     EXPECT_EQ(InitialChoice(std::nullopt, true), 4);
-}
-
-TEST(PostRecoveryTest, AHiddenChoiceGivesWayToRestartingTheRun) {
-    for (int choice = kNoChoice; choice < kChoiceCount; ++choice) {
-        EXPECT_EQ(ChoiceOnActivation(choice, true), choice == 5 ? 5 : 4);
-        EXPECT_EQ(ChoiceOnActivation(choice, false), choice);
-    }
+    EXPECT_EQ(CaptionOf(0), IDS_OPTION_REPEAT_STEP);
+    EXPECT_EQ(CaptionOf(5), IDS_OPTION_STOP_RUN);
 }
 
 }  // namespace

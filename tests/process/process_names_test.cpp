@@ -10,13 +10,6 @@ namespace {
 using Names = std::vector<std::wstring>;
 using enum EditEnd::Action;
 
-TEST(ProcessNamesTest, ARunningProcessIsListedByItsFileName) {
-    EXPECT_EQ(FileNameOf(L"C:\\Tools\\my.app.exe"), L"my.app.exe");
-    EXPECT_EQ(FileNameOf(L"my.app.exe"), L"my.app.exe");
-    EXPECT_EQ(FileNameOf(L"/a/b"), L"/a/b");
-    EXPECT_EQ(FileNameOf(L"folder\\"), L"");
-}
-
 TEST(ProcessNamesTest, AnEditEndsWithANameOrWithTheReasonWhyNot) {
     const Names rows = {L"notepad.exe", L"", L"Calc.exe"};
     struct {

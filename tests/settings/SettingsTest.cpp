@@ -30,7 +30,7 @@ std::wstring SettingsTest::MakeFile(const std::wstring& name, const std::vector<
 
 std::vector<std::string> SettingsTest::OpenSettings(const std::function<void(UserScreen&, HWND)>& script) {
     const auto page = New<IPropertyPage>(L"Vantrel.RecoveryPP");
-    TestFrame frame(page.Get(), rack_.Get(), hasSettingsProperty_ ? settings_.Get() : nullptr, isReadOnly_);
+    TestFrame frame(page.Get(), rack_.Get(), property_, isReadOnly_);
     frame.keepsOpenOnClose = keepsOpenOnClose_;
     User user([&](UserScreen& screen) {
         const HWND window = screen.WaitForWindow(L"Test Settings");

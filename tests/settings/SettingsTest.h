@@ -69,10 +69,10 @@ protected:
     static void SelectNames(UserScreen& screen, HWND dialog, const Rows& names);
 
     bool isReadOnly_ = false;
-    bool hasSettingsProperty_ = true;
     bool keepsOpenOnClose_ = false;
     Rack rack_;
     TestSettings settings_;
+    ITestOptions* property_ = settings_.Get();  // what the frame holds
 
 private:
     tovarin::TempFolder folder_;

@@ -99,6 +99,7 @@ TEST_F(FrameProtocolTest, AChangeOfTheTabSetsTheButtonsAfterTheFrameFromNumbersO
     } cases[] = {{Variant(0L), Variant(0L), false, true},
                  {Variant(1L), Variant(0L), true, true},
                  {Variant(1L), Variant(1L), false, false},
+                 {Variant(0L), Variant(1L), false, false},
                  {Variant(L"1"), Variant(L"1"), false, true},
                  {Variant(true), Variant(true), false, true}};
     for (const auto& c : cases) {
@@ -134,7 +135,7 @@ TEST_F(FrameProtocolTest, TheFramesEndReleasesTheSettingsOnceAndAFrameWithoutThe
     EXPECT_EQ(references(), before);
 
     SetConfiguration(true);
-    hasSettingsProperty_ = false;
+    property_ = nullptr;
     EXPECT_EQ(OpenSettings([](UserScreen& screen, HWND frame) { screen.Press(frame, IDOK); }), Seen{"OK"});
     EXPECT_EQ(AllowApply(), 7);
 }

@@ -2,7 +2,10 @@
 
 #include <gtest/gtest.h>
 
+#include "resources/ids.h"
 #include "support/LibraryAppend.h"
+#include "support/ReplayErrors.h"
+#include "support/RepositoryPath.h"
 
 namespace recoveryui::support {
 namespace {
@@ -18,17 +21,10 @@ TEST(TextTest, TrimsBlanksAndWhiteSpace) {
         {L"\v\fx\u00A0 ", L"\v\fx\u00A0", L"x\u00A0", L"x\u00A0 "},
     };
     for (const auto& row : rows) {
+        SCOPED_TRACE(&row - rows);
         EXPECT_EQ(TrimBlanks(row.text), row.blanks);
         EXPECT_EQ(TrimWhiteSpace(row.text), row.white);
         EXPECT_EQ(TrimLeadingWhiteSpace(row.text), row.leading);
-    }
-}
-
-TEST(TextTest, LineEndsSurviveTheRoundTripThroughAnEditBox) {
-    EXPECT_EQ(ToEditLineEnds(L"a\nb\n"), L"a\r\nb\r\n");
-    EXPECT_EQ(ToStoredLineEnds(L"a\r\nb\r\n"), L"a\nb\n");
-    for (const std::wstring stored : {L"", L"\n", L"a\n\nb", L"a\r\nb", L"\r", L"\n\r\n\r"}) {
-        EXPECT_EQ(ToStoredLineEnds(ToEditLineEnds(stored)), stored);
     }
 }
 
@@ -58,9 +54,54 @@ TEST(TextTest, NamesCompareIgnoringCaseInEveryScript) {
         {L"\u5B57", L"\u5B57", true},
     };
     for (const auto& row : rows) {
-        EXPECT_EQ(EqualIgnoringCase(row.left, row.right), row.equal) << row.left.size();
+        SCOPED_TRACE(&row - rows);
+        EXPECT_EQ(EqualIgnoringCase(row.left, row.right), row.equal);
         EXPECT_EQ(Lower(row.left) == Lower(row.right), row.equal);
     }
+}
+
+TEST(RepositoryPathTest, OnlyOnePrefixNeedsTheBlankBehindItsBracket) {
+    struct {
+        std::wstring path;
+        bool repository;
+    } const rows[] = {
+        {L"[Ondrafel] Subject\\a.vbs", true},
+        {L"[Ondrafel]Subject", true},
+        {L" \t\r\n[ONDRAFEL]", true},
+        {L"[Brevalon] Resources\\a.vbs", true},
+        {L"[Brevalon]Resources\\a.vbs", false},
+        {L"\v[brevalon] ", true},
+        {L"[Brevalon]\tResources", false},
+        {L"C:\\[Ondrafel] \\a.vbs", false},
+        {L"", false},
+        {L"[Ondrafel", false},
+    };
+    for (const auto& row : rows) EXPECT_EQ(IsRepositoryPath(row.path), row.repository) << &row - rows;
+}
+
+TEST(ReplayErrorsTest, TheListIsFilledInItsOrderAndEveryErrorHasItsTexts) {
+    struct {
+        std::uint32_t code;
+        int label, description;
+    } const rows[] = {
+        {0, 109, 110},
+        {0x80040202, 26, 89},
+        {0x80040203, IDS_REPLAY_OBJECT_NOT_UNIQUE, 87},
+        {0x80040208, IDS_REPLAY_OBJECT_DISABLED, 88},
+        {0x80040209, IDS_REPLAY_ITEM_NOT_FOUND, 86},
+        {0x8004020A, IDS_REPLAY_ITEM_NOT_UNIQUE, 85},
+        {0x80040205, IDS_REPLAY_OBJECT_NOT_VISIBLE, 90},
+    };
+    ASSERT_EQ(ReplayErrors().size(), std::size(rows));
+    for (std::size_t i = 0; i < std::size(rows); ++i) {
+        SCOPED_TRACE(i);
+        const auto code = static_cast<std::int32_t>(rows[i].code);
+        EXPECT_EQ(ReplayErrors()[i].code, code);
+        ASSERT_NE(FindReplayError(code), nullptr);
+        EXPECT_EQ(FindReplayError(code)->labelId, rows[i].label);
+        EXPECT_EQ(FindReplayError(code)->descriptionId, rows[i].description);
+    }
+    EXPECT_EQ(FindReplayError(static_cast<std::int32_t>(0x80040204)), nullptr);
 }
 
 TEST(LibraryAppendTest, AFunctionGoesBehindALineBreakWithSingleLineEnds) {
@@ -72,7 +113,7 @@ TEST(LibraryAppendTest, AFunctionGoesBehindALineBreakWithSingleLineEnds) {
         {L"a\r\r\nb\rc", L"\r\na\r\nbc"},
         {L" \r\n ", L"\r\n"},
     };
-    for (const auto& row : rows) EXPECT_EQ(AppendedText(row.text, {}), row.written);
+    for (const auto& row : rows) EXPECT_EQ(AppendedText(row.text, {}), row.written) << &row - rows;
     EXPECT_EQ(AppendedText(L"a\nb", {0, true}), L"\r\n\r\na\r\nb");
 }
 
