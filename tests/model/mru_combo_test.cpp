@@ -45,8 +45,10 @@ protected:
         if (size) *size = bytes;
         return text;
     }
-    static void Store(const wchar_t* text, size_t characters) {
-        RegSetKeyValueW(HKEY_CURRENT_USER, kKey, kValue, REG_SZ, text, static_cast<DWORD>(characters * 2));
+    // `missing` bytes at its end are left out.
+    static void Store(const std::wstring& text, DWORD type = REG_SZ, size_t missing = 0) {
+        const size_t bytes = text.size() * sizeof(wchar_t) - missing;
+        RegSetKeyValueW(HKEY_CURRENT_USER, kKey, kValue, type, text.data(), static_cast<DWORD>(bytes));
     }
 
     HWND window_ = nullptr;
@@ -73,7 +75,7 @@ TEST_F(MruComboTest, WhatWasUsedIsOfferedNextTimeTheLatestFirst) {
 }
 
 TEST_F(MruComboTest, WithoutAKeyItIsAPlainComboThatRemembersNothing) {
-    Store(L"kept", 5);
+    Store(L"kept");
     ASSERT_TRUE(Load());  // what was bound before is so no more
     EXPECT_FALSE(combo_.LoadMRU(HKEY_CURRENT_USER, L"", kValue, 4));
     EXPECT_FALSE(combo_.LoadMRU(HKEY_CURRENT_USER, L"Software\\RecoveryUITests\\None", kValue, 4));
@@ -83,6 +85,33 @@ TEST_F(MruComboTest, WithoutAKeyItIsAPlainComboThatRemembersNothing) {
     EXPECT_EQ(Entries(), L"kept|a|a|b|c|d|");
     Close();
     EXPECT_EQ(Stored(), L"kept");
+}
+
+TEST_F(MruComboTest, AStoredListMayBeWhateverSomebodyLeftThere) {
+    const std::wstring separators(1'000'000, L';'), entry(500'000, L'x'), nuls(5, L'\0');
+    const struct {
+        DWORD type;
+        const std::wstring text;
+        size_t missing;
+        LRESULT entries;
+    } cases[] = {{REG_SZ, L"", 0, 0},          {REG_SZ, L"a;b", 0, 2},
+                 {REG_SZ, L"a;b", 1, 2},       {REG_SZ, L"a", 1, 1},
+                 {REG_MULTI_SZ, L"a;b", 0, 2}, {REG_EXPAND_SZ, L"%x%;b", 0, 2},
+                 {REG_DWORD, L"ab", 0, 1},     {REG_BINARY, nuls, 0, 0},
+                 {0x12345678, L"a", 0, 1},     {REG_SZ, separators, 0, 0},
+                 {REG_SZ, entry, 0, 1},        {REG_SZ, L"a;" + separators + L"b;c;d;e;f", 0, 4}};
+    for (const auto& [type, text, missing, entries] : cases) {
+        Close();
+        Store(text, type, missing);
+        Open();
+        EXPECT_TRUE(Load());
+        EXPECT_EQ(SendMessageW(window_, CB_GETCOUNT, 0, 0), entries) << type << " " << text.size();
+        combo_.AddString(L"new");
+        Close();
+        DWORD stored = 0;
+        Stored(&stored);
+        EXPECT_EQ(stored, static_cast<DWORD>(REG_SZ)) << "saved as what it should be";
+    }
 }
 
 }  // namespace

@@ -24,16 +24,24 @@ const std::vector<IID> kInterfaces = {
     IID_IRecoveryAddDlg,   IID_IScenarioProperties, IID_IUIAddIn,            IID_IObjectRackClient,
     IID_IOleCommandTarget, IID_IPropertyPage,    IID_ISpecifyPropertyPages, IID_IClassFactory};
 
-class CitizenTest : public ComTest {
-protected:
-    static com::Ptr<IClassFactory> Factory(const CLSID& clsid) {
-        const auto get = reinterpret_cast<HRESULT(STDAPICALLTYPE*)(REFCLSID, REFIID, void**)>(
-            reinterpret_cast<void*>(GetProcAddress(GetModuleHandleW(L"RecoveryUI.dll"), "DllGetClassObject")));
-        com::Ptr<IClassFactory> factory;
-        EXPECT_EQ(get(clsid, IID_IClassFactory, reinterpret_cast<void**>(factory.GetAddressOf())), S_OK);
-        return factory;
-    }
-};
+using CitizenTest = ComTest;
+
+template <class Function>
+Function* EntryPoint(const char* name) {
+    return reinterpret_cast<Function*>(
+        reinterpret_cast<void*>(GetProcAddress(GetModuleHandleW(L"RecoveryUI.dll"), name)));
+}
+
+HRESULT GetClass(const CLSID& clsid, REFIID iid, void** object) {
+    return EntryPoint<HRESULT STDAPICALLTYPE(REFCLSID, REFIID, void**)>("DllGetClassObject")(
+        clsid, iid, object);
+}
+
+com::Ptr<IClassFactory> Factory(const CLSID& clsid) {
+    com::Ptr<IClassFactory> factory;
+    EXPECT_EQ(GetClass(clsid, IID_IClassFactory, reinterpret_cast<void**>(factory.GetAddressOf())), S_OK);
+    return factory;
+}
 
 TEST_F(CitizenTest, EveryClassKeepsItsIdentityWhateverIsAskedOfIt) {
     for (const com::ClassEntry& entry : shell::Classes()) {
@@ -71,14 +79,11 @@ TEST_F(CitizenTest, EveryClassKeepsItsIdentityWhateverIsAskedOfIt) {
 }
 
 TEST_F(CitizenTest, FactoriesRefuseAggregationAndHoldTheModule) {
-    const auto get = reinterpret_cast<HRESULT(STDAPICALLTYPE*)(REFCLSID, REFIID, void**)>(
-        reinterpret_cast<void*>(GetProcAddress(GetModuleHandleW(L"RecoveryUI.dll"), "DllGetClassObject")));
-    const auto canUnload = reinterpret_cast<HRESULT(STDAPICALLTYPE*)()>(
-        reinterpret_cast<void*>(GetProcAddress(GetModuleHandleW(L"RecoveryUI.dll"), "DllCanUnloadNow")));
+    auto* const canUnload = EntryPoint<HRESULT STDAPICALLTYPE()>("DllCanUnloadNow");
     void* object = this;
-    EXPECT_EQ(get(CLSID_NULL, IID_IClassFactory, &object), CLASS_E_CLASSNOTAVAILABLE);
+    EXPECT_EQ(GetClass(CLSID_NULL, IID_IClassFactory, &object), CLASS_E_CLASSNOTAVAILABLE);
     EXPECT_EQ(object, nullptr);
-    EXPECT_EQ(get(CLSID_RecoveryDlg, IID_IClassFactory, nullptr), E_POINTER);
+    EXPECT_EQ(GetClass(CLSID_RecoveryDlg, IID_IClassFactory, nullptr), E_POINTER);
     for (const com::ClassEntry& entry : shell::Classes()) {
         const auto factory = Factory(*entry.clsid);
         object = this;
@@ -159,22 +164,19 @@ TEST_F(CitizenTest, TheLibraryDescribesEveryClassInterfaceAndMember) {
     EXPECT_GT(members, 0u);
 }
 
-TEST_F(CitizenTest, EveryClassCanBeCalledByName) {
-    const Rack rack;
+TEST_F(CitizenTest, EveryClassIsCalledByNameAndDescribesItself) {
     for (const com::ClassEntry& entry : shell::Classes())
         EXPECT_TRUE(New<IDispatch>(entry.progId)) << Utf8(entry.progId);
     // The interface that is not dual, by the names of its description.
-    const auto page = New<IDispatch>(L"Vantrel.RecoveryPPSpecifier");
-    const com::Variant argument[] = {com::Variant(com::Query<IDispatch>(rack.Get()).Get())};
-    ASSERT_EQ(argument[0].Type(), VT_DISPATCH);
+    const Rack rack;
+    const auto page = New<IObjectRackClient>(L"Vantrel.RecoveryPPSpecifier");
+    const com::Variant argument(com::Query<IDispatch>(rack.Get()).Get());
     com::Variant result;
-    EXPECT_EQ(com::CallMethod(page.Get(), L"SetRack", argument, &result), S_OK);
+    EXPECT_EQ(com::CallMethod(com::Query<IDispatch>(page.Get()).Get(), L"SetRack", {&argument, 1}, &result), S_OK);
     com::Ptr<IObjectRack> held;
-    EXPECT_EQ(com::Query<IObjectRackClient>(page.Get())->GetRack(held.GetAddressOf()), S_OK);
+    EXPECT_EQ(page->GetRack(held.GetAddressOf()), S_OK);
     EXPECT_EQ(held.Get(), rack.Get());
-}
 
-TEST_F(CitizenTest, DualInterfacesDescribeThemselves) {
     const auto dispatch = New<IDispatch>(L"Vantrel.RecoveryWizard");
     UINT count = 0;
     EXPECT_EQ(dispatch->GetTypeInfoCount(&count), S_OK);
