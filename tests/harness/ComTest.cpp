@@ -18,6 +18,15 @@ HRESULT CanUnload(HMODULE module) {
     return answer ? answer() : E_FAIL;
 }
 
+// The platform's file dialog leaves COM initialised once more for every time that it was shown.
+void LeaveApartment() {
+    APTTYPE kind{};
+    APTTYPEQUALIFIER qualifier{};
+    do {
+        CoUninitialize();
+    } while (SUCCEEDED(CoGetApartmentType(&kind, &qualifier)) && kind == APTTYPE_MAINSTA);
+}
+
 void RunPendingMessages() {
     MSG message;
     while (PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE)) DispatchMessageW(&message);
@@ -46,7 +55,7 @@ ComTest::~ComTest() {
         if (name == L"IME" || name == L"MSCTFIME UI") continue;  // the system's own
         ADD_FAILURE() << "a window is left: " << Utf8(name) << " \"" << Utf8(TextOf(window)) << "\"";
     }
-    CoUninitialize();
+    LeaveApartment();
     FreeLibrary(standIns_);
     FreeLibrary(component_);
 }
