@@ -65,20 +65,5 @@ TEST_F(HostFileDialog, SavingNeverReplacesAFileUnasked) {
     EXPECT_EQ(given, folder_ / L"b");
 }
 
-TEST_F(HostFileDialog, ItsMembersAreKnownByName) {
-    Variant value;
-    Put(L"filefilter", Variant(L"x|*.x||"));
-    EXPECT_EQ(com::GetProperty(dialog_.Get(), L"FileFilter", &value), S_OK);
-    EXPECT_EQ(value.Text(), L"x|*.x||");
-    Put(L"CreateAttachmnet", Variant(1L));
-    EXPECT_EQ(com::GetProperty(dialog_.Get(), L"CreateAttachmnet", &value), S_OK);
-    EXPECT_EQ(value.Get().boolVal, VARIANT_TRUE);
-    EXPECT_EQ(com::PutProperty(dialog_.Get(), L"CreateAttachment", Variant(true)), DISP_E_UNKNOWNNAME);
-    FailCall(L"TovCommonFileDialog", L"DoModal", E_FAIL);
-    const Variant open(true);
-    EXPECT_EQ(com::CallMethod(dialog_.Get(), L"DoModal", {&open, 1}, &value), E_FAIL);
-    EXPECT_EQ(value.Type(), VT_EMPTY);
-}
-
 }  // namespace
 }  // namespace tovarin

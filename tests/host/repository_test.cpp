@@ -1,11 +1,9 @@
 #include "HostInterfaces.h"
-#include "com/Automation.h"
-#include "com/Object.h"
 #include "harness/Arrays.h"
 #include "harness/ComTest.h"
 #include "host/store_samples.h"
 #include "host/temp_folder.h"
-#include "objects/services/NamedMembers.h"
+#include "model/FakeTestObject.h"
 
 namespace tovarin {
 namespace {
@@ -76,26 +74,6 @@ TEST_F(RepositoryTest, AFileComesBackWithEverythingAndIsWrittenTheSameAgain) {
     EXPECT_EQ(text, TempFolder::Read(folder_ / L"seen.trs")) << "every object was made and read again";
 }
 
-TEST_F(RepositoryTest, AScenarioMadeHereIsFoundInTheFile) {
-    const auto repository = NewRepository();
-    ASSERT_EQ(S_OK, Load(repository, L""));
-    EXPECT_EQ(L"", StateOf(repository));
-    const auto scenario = NewScenario(L"first");
-    EXPECT_EQ(S_OK, Add(repository, scenario.Get(), L"S"));
-    EXPECT_EQ(scenario.Get(), Get(repository, L"s").Get()) << "the object itself is handed out";
-    EXPECT_EQ(S_OK, scenario->SetDescription(Bstr(L"second").Get()));
-    EXPECT_EQ(S_OK, Save(repository, path_));
-
-    const auto reader = NewRepository();
-    EXPECT_EQ(STG_E_SHAREVIOLATION, Load(reader, path_));
-    ASSERT_EQ(S_OK, Load(reader, path_, true));
-    EXPECT_EQ(path_ + L"|S", StateOf(reader));
-    EXPECT_EQ(L"second", DescriptionOf(reader, L"S"));
-    EXPECT_EQ(S_OK, Load(repository, L""));
-    EXPECT_EQ(L"", StateOf(repository));
-    EXPECT_EQ(S_OK, Load(reader, path_)) << "let go by emptying";
-}
-
 TEST_F(RepositoryTest, NamesDifferByMoreThanLetterCase) {
     const auto repository = NewRepository();
     const auto one = NewScenario(L"1"), two = NewScenario(L"2"), three = NewScenario(L"3");
@@ -110,15 +88,23 @@ TEST_F(RepositoryTest, NamesDifferByMoreThanLetterCase) {
     EXPECT_EQ(S_OK, Add(repository, three.Get(), oddLower, 1));
     EXPECT_EQ(L"|" + oddLower + L"|Two", StateOf(repository)) << "replaced in its place";
     EXPECT_EQ(L"3", DescriptionOf(repository, odd));
-    EXPECT_EQ(S_OK, Add(repository, one.Get(), L"New", 1));
     EXPECT_EQ(S_OK, Save(repository, path_));
     EXPECT_EQ(S_OK, Load(repository, path_));
+    EXPECT_EQ(S_OK, Add(repository, one.Get(), L"New", 1));
     EXPECT_EQ(path_ + L"|" + oddLower + L"|Two|New", StateOf(repository));
     EXPECT_EQ(S_OK, repository->RemoveScenario(Bstr(L"TWO").Get()));
     EXPECT_EQ(E_FAIL, repository->RemoveScenario(Bstr(L"TWO").Get()));
     EXPECT_EQ(S_OK, repository->ScenarioExists(Bstr(L"Two").Get(), &exists));
     EXPECT_EQ(VARIANT_FALSE, exists);
     EXPECT_FALSE(Get(repository, L"Two"));
+    // What is changed in an object that was added is saved with the next file; an empty one holds nothing.
+    EXPECT_EQ(one.Get(), Get(repository, L"new").Get());
+    EXPECT_EQ(S_OK, one->SetDescription(Bstr(L"changed").Get()));
+    EXPECT_EQ(S_OK, Save(repository, L""));
+    EXPECT_EQ(S_OK, Load(repository, L""));
+    EXPECT_EQ(L"", StateOf(repository));
+    EXPECT_EQ(S_OK, Load(repository, path_));
+    EXPECT_EQ(L"changed", DescriptionOf(repository, L"New"));
 }
 
 TEST_F(RepositoryTest, AFileThatCannotBeReadChangesNothing) {
@@ -186,46 +172,21 @@ TEST_F(RepositoryTest, WhatAFileCannotHoldIsRefusedBeforeItIsWritten) {
     EXPECT_EQ(S_OK, access->SetMethodArguments(ArrayOf<VARIANT, com::Variant>({}).Get()));
 }
 
-// A test object of somebody else's, which is its own parent.
-class ForeignObject final : public com::Object<ForeignObject, ITestObject, NamedMembers> {
-public:
-    HRESULT STDMETHODCALLTYPE GetDisplayName(BSTR* name) noexcept override {
-        return com::CopyTo(name, L"Foreign");
-    }
-    HRESULT STDMETHODCALLTYPE GetPropertyCount(long* count) noexcept override { return *count = 1, S_OK; }
-    HRESULT STDMETHODCALLTYPE GetProperty(long, BSTR* name, VARIANT* value, long* isRegularExpression,
-                                          long* isChecked) noexcept override {
-        *value = com::Variant(L"v").Detach();
-        *isRegularExpression = 0;
-        *isChecked = 1;
-        return com::CopyTo(name, L"p");
-    }
-    HRESULT STDMETHODCALLTYPE SetPropertyValue(long, VARIANT, long) noexcept override { return E_NOTIMPL; }
-    HRESULT STDMETHODCALLTYPE SetPropertyChecked(long, long) noexcept override { return E_NOTIMPL; }
-
-private:
-    DISPID FindMember(const wchar_t* name) const noexcept override {
-        return SameName(name, L"parent") ? 1 : -1;
-    }
-    HRESULT InvokeMember(DISPID, WORD, DISPPARAMS&, VARIANT* result) noexcept override {
-        *result = com::Variant(static_cast<IDispatch*>(this)).Detach();
-        return S_OK;
-    }
-};
-
-TEST_F(RepositoryTest, AForeignTestObjectIsStoredAndAnEndlessChainOfParentsEnds) {
+TEST_F(RepositoryTest, AnEndlessChainOfParentsEnds) {
     const auto repository = NewRepository();
     const auto scenario = NewScenario();
     const auto trigger = New<IObjectStateRecoveryTrigger>(L"Vantrel.ObjectStateRecoveryTrigger");
-    EXPECT_EQ(S_OK, trigger->SetTestObject(ForeignObject::Make().Get()));
+    EXPECT_EQ(S_OK, trigger->SetTestObject(recoveryui::test::FakeTestObject::Nested(300).Get()));
     EXPECT_EQ(S_OK, scenario->SetTrigger(trigger.Get()));
     EXPECT_EQ(S_OK, Add(repository, scenario.Get(), L"S"));
     ASSERT_EQ(S_OK, Save(repository, path_));
     std::vector<store::NamedScenario> read;
     ASSERT_EQ(store::ReadResult::Read, store::ReadStore(TempFolder::Read(path_), read));
     const auto& objects = std::get<store::ObjectStateTrigger>(read[0].scenario.trigger).objects;
-    const store::TestObject expected{L"Foreign", {{L"p", {store::ValueType::Text, 0, 0, L"v"}, 0, 1}}};
-    EXPECT_EQ(store::Hierarchy(256, expected), objects);
+    ASSERT_EQ(256u, objects.size());
+    const std::vector<store::Property> text{{L"text", {store::ValueType::Text, 0, 0, L"t"}, 0, 1}};
+    EXPECT_EQ((store::TestObject{L"level 300", text}), objects.front());
+    EXPECT_EQ((store::TestObject{L"level 45", text}), objects.back());
 }
 
 }  // namespace

@@ -37,25 +37,14 @@ TEST(HostScriptParser, FunctionsAndSubsAreFoundWithTheirExactText) {
         {L"Dim Functions, SubTotal, EndSub", L""},
         {L"Default = 1 : Property = 2 : x = Property", L""},
     };
-    for (const auto& [text, functions] : cases) EXPECT_EQ(Functions(text), functions);
+    for (const auto& [text, functions] : cases) EXPECT_EQ(Functions(text), functions) << text;
 }
 
 TEST(HostScriptParser, CommentsStringsDatesAndNumbersHideNothingAndShowNothing) {
-    const wchar_t* const hidden[] = {
-        L"' Function A",
-        L"Rem Function A",
-        L"x = 1 : rem : Function A",
-        L"REM",
-        L"x = \"Function A : Sub B\"",
-        L"x = \"a\"\"\" : y = \"\"\"' \" : z = \"\"",
-        L"t = #10:30:00# : u = 1",
-        L"' a _\nx = 1",
-        L"x = 1.5e3",
-        L"Remark = 1",
-        L"x = a'Sub B",
-        L"x = 5 # 3",
-    };
-    for (const wchar_t* line : hidden) {
+    for (const wchar_t* line : {L"' Function A", L"Rem Function A", L"x = 1 : rem : Function A", L"REM",
+                                L"x = \"Function A : Sub B\"", L"x = \"a\"\"\" : y = \"\"\"' \" : z = \"\"",
+                                L"t = #10:30:00# : u = 1", L"' a _\nx = 1", L"x = 1.5e3", L"Remark = 1",
+                                L"x = a'Sub B", L"x = 5 # 3"}) {
         const std::wstring script = std::wstring(line) + L"\nSub Z\n" + line + L"\nEnd Sub";
         EXPECT_EQ(Functions(script), L"Z=Sub Z\n" + std::wstring(line) + L"\nEnd Sub");
     }
@@ -71,28 +60,13 @@ TEST(HostScriptParser, MembersOfClassesAreNoLibraryFunctions) {
 }
 
 TEST(HostScriptParser, WhatCannotBeAScriptIsRejected) {
-    const wchar_t* const bad[] = {
-        L"Function A",
-        L"Function A\nFunction B\nEnd Function\nEnd Function",
-        L"Function A\nEnd Sub",
-        L"End Function",
-        L"End Sub",
-        L"Sub A\nClass C\nEnd Class\nEnd Sub",
-        L"Class C",
-        L"Class C\nClass D\nEnd Class\nEnd Class",
-        L"End Class",
-        L"Class C\nSub A\nEnd Class\nEnd Sub",
-        L"Property Get A\nEnd Property",
-        L"Function\nEnd Function",
-        L"Sub (a)\nEnd Sub",
-        L"x = \"open",
-        L"x = \"open\ny = \"\"",
-        L"x = [open",
-        L"MZ\x90\x3",
-        L"x\x1Fy",
-        L"a\x1A b",
-    };
-    for (const wchar_t* text : bad) EXPECT_EQ(Functions(text), L"rejected") << std::wstring(text).size();
+    for (const wchar_t* text :
+         {L"Function A", L"Function A\nFunction B\nEnd Function\nEnd Function", L"Function A\nEnd Sub",
+          L"End Function", L"End Sub", L"Sub A\nClass C\nEnd Class\nEnd Sub", L"Class C",
+          L"Class C\nClass D\nEnd Class\nEnd Class", L"End Class", L"Class C\nSub A\nEnd Class\nEnd Sub",
+          L"Property Get A\nEnd Property", L"Function\nEnd Function", L"Sub (a)\nEnd Sub", L"x = \"open",
+          L"x = \"open\ny = \"\"", L"x = [open", L"MZ\x90\x3", L"x\x1Fy", L"a\x1A b"})
+        EXPECT_EQ(Functions(text), L"rejected") << text;
     EXPECT_EQ(Functions(std::wstring_view(L"x\0y", 3)), L"rejected");
     EXPECT_EQ(Functions(L"Sub A\nEnd Sub\n\x1A"), L"A=Sub A\nEnd Sub");
 }

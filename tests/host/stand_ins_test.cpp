@@ -1,10 +1,9 @@
-// What the stand-ins promise beyond keeping what they are given, which the recovery files' own test shows.
+// The journal of the calls on stand-ins, and the faults that are ordered there: what every other test rests
+// on.
 #include "HostInterfaces.h"
 #include "com/Object.h"
-#include "harness/Arrays.h"
 #include "harness/ComTest.h"
 #include "host/temp_folder.h"
-#include "objects/Describe.h"
 #include "objects/Journal.h"
 
 namespace tovarin {
@@ -13,79 +12,6 @@ namespace com = recoveryui::com;
 using com::Bstr;
 
 using StandInsTest = recoveryui::test::ComTest;
-
-TEST_F(StandInsTest, EveryKindIsItsNumber) {
-    const wchar_t* triggers[] = {L"Vantrel.ObjectStateRecoveryTrigger", L"Vantrel.PopUpRecoveryTrigger",
-                                 L"Vantrel.ErrorRecoveryTrigger", L"Vantrel.CrashRecoveryTrigger"};
-    const wchar_t* operations[] = {
-        L"Vantrel.ObjectAccessorRecoveryAction", L"Vantrel.FunctionCallRecoveryAction",
-        L"Vantrel.ProcessControlRecoveryAction", L"Vantrel.KeyBoardSimulatorRecoveryAction"};
-    for (long kind = 0; kind < 4; ++kind) {
-        long given = -1;
-        EXPECT_EQ(S_OK, New<IRecoveryTrigger>(triggers[kind])->GetTriggerKind(&given));
-        EXPECT_EQ(kind, given);
-        EXPECT_EQ(S_OK, New<IRecoveryAction>(operations[kind])->GetOperationKind(&given));
-        EXPECT_EQ(kind, given);
-    }
-}
-
-TEST_F(StandInsTest, TheScenarioKeepsItsPartsThemselvesAndRefusesWhatIsNoList) {
-    const auto scenario = New<IRecoveryScenario>(L"Vantrel.ReplayRecoveryScenario");
-    const auto trigger = New<IUnknown>(L"Vantrel.ErrorRecoveryTrigger");
-    com::Ptr<IUnknown> given = trigger;
-    EXPECT_EQ(S_OK, scenario->GetTrigger(given.ReleaseAndGetAddressOf()));
-    EXPECT_FALSE(given);
-    EXPECT_EQ(S_OK, scenario->SetTrigger(trigger.Get()));
-    EXPECT_EQ(S_OK, scenario->GetTrigger(given.ReleaseAndGetAddressOf()));
-    EXPECT_EQ(trigger.Get(), given.Get());
-    EXPECT_EQ(E_POINTER, scenario->GetTrigger(nullptr));
-
-    // Bounds of the caller's choice go in, 0 comes out.
-    SAFEARRAYBOUND bounds[2] = {{2, 5}, {1, 0}};
-    com::CVtlSafeArray<VARIANT> variants(SafeArrayCreate(VT_VARIANT, 1, bounds));
-    com::CVtlSafeArray<IUnknown*> operations;
-    EXPECT_EQ(S_OK, variants.PutElement(6, com::Variant(trigger.Get())));
-    EXPECT_EQ(S_OK, scenario->SetOperations(variants.Get()));
-    for (SAFEARRAY* const array : {static_cast<SAFEARRAY*>(nullptr), SafeArrayCreateVector(VT_DATE, 0, 1),
-                                   SafeArrayCreate(VT_UNKNOWN, 2, bounds)})
-        EXPECT_EQ(E_INVALIDARG, scenario->SetOperations(com::CVtlSafeArray<IUnknown*>(array).Get()));
-    EXPECT_EQ(S_OK, scenario->GetOperations(operations.Put()));
-    EXPECT_EQ(0, operations.LowerBound());
-    EXPECT_EQ(L"[nothing, ErrorRecoveryTrigger]", Describe(operations.Get()));
-    EXPECT_EQ(E_POINTER, scenario->GetOperations(nullptr));
-}
-
-TEST_F(StandInsTest, TheRackGivesWhatWasPutInUnderExactlyThatName) {
-    const auto rack = New<IObjectRack>(L"Tovarin.ObjectRack");
-    const auto client = New<IObjectRackClient>(L"Vantrel.RecoveryRepository");
-    const Bstr name(L"RecordMgr");
-    const auto get = [&](const wchar_t* asked, REFIID iid) {
-        IUnknown* object = client.Get();
-        const HRESULT hr = rack->GetObject(Bstr(asked).Get(), iid, &object);
-        EXPECT_EQ(SUCCEEDED(hr), object != nullptr);
-        if (object) object->Release();
-        return hr;
-    };
-    EXPECT_EQ(E_FAIL, get(L"RecordMgr", IID_IUnknown));
-    EXPECT_EQ(S_OK, rack->SetObject(name.Get(), client.Get()));
-    EXPECT_EQ(S_OK, get(L"RecordMgr", __uuidof(IObjectRackClient)));
-    EXPECT_EQ(E_NOINTERFACE, get(L"RecordMgr", __uuidof(IRecordMgr)));
-    EXPECT_EQ(E_FAIL, get(L"recordmgr", IID_IUnknown));
-    EXPECT_EQ(E_POINTER, rack->GetObject(name.Get(), IID_IUnknown, nullptr));
-    EXPECT_EQ(E_INVALIDARG, rack->SetObject(name.Get(), nullptr));
-    EXPECT_EQ(E_INVALIDARG, rack->SetObject(nullptr, client.Get()));
-    EXPECT_EQ(S_OK, rack->RemoveObject(name.Get()));
-    EXPECT_EQ(E_FAIL, rack->RemoveObject(name.Get()));
-
-    com::Ptr<IObjectRack> held;
-    EXPECT_EQ(E_FAIL, client->GetRack(held.GetAddressOf()));
-    for (int twice = 0; twice < 2; ++twice) EXPECT_EQ(S_OK, client->SetRack(rack.Get()));
-    EXPECT_EQ(S_OK, client->GetRack(held.GetAddressOf()));
-    EXPECT_EQ(rack.Get(), held.Get());
-    EXPECT_EQ(E_POINTER, client->GetRack(nullptr));
-    EXPECT_EQ(S_OK, client->SetRack(nullptr));
-    EXPECT_EQ(E_FAIL, client->GetRack(held.ReleaseAndGetAddressOf()));
-}
 
 class Listener final : public com::Object<Listener, IJournalListener> {
 public:

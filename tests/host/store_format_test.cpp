@@ -5,7 +5,6 @@
 #include <cmath>
 #include <limits>
 
-#include "objects/store/NamedList.h"
 #include "store_samples.h"
 
 namespace tovarin::store {
@@ -68,66 +67,39 @@ TEST(StoreFormat, TheFileReadsAsDocumented) {
               TextOfStore({{L"N", scenario}}));
 }
 
-TEST(StoreFormat, AnyTextSurvives) {
+TEST(StoreFormat, AnyTextAndAnyRealNumberSurvives) {
     const std::wstring high(1, wchar_t(0xd83d)), low(1, wchar_t(0xde00)), nul(1, L'\0');
     std::wstring everyUnit;
     for (unsigned unit = 0; unit < 0x10000; ++unit) everyUnit += wchar_t(unit);
-    const std::wstring texts[] = {L"",
-                                  L" \t\r\n\\\"/\x7f",
+    const std::wstring texts[] = {L" \t\r\n\\\"/\x7f",
                                   nul + L"a" + nul,
                                   L"\x1a"
                                   L"001a",
                                   high,
-                                  low,
-                                  high + L"x",
                                   low + high,
+                                  everyUnit,
                                   L"\x1a" + high,
                                   L"\U0001F600",
-                                  everyUnit,
                                   high + high + low,
                                   L"\xfffe\xffff\xfeff"};
+    std::vector<NamedScenario> read;
     for (const std::wstring& text : texts) {
         const std::vector<NamedScenario> scenarios = {{text, {0, CrashTrigger{0, {text}}, {}, text}}};
-        std::vector<NamedScenario> read;
         ASSERT_EQ(ReadResult::Read, ReadStore(TextOfStore(scenarios), read));
         EXPECT_EQ(TextOfStore(scenarios), TextOfStore(read));
         // where characters have four bytes, two halves that met come back as one
         EXPECT_TRUE(scenarios == read || sizeof(wchar_t) == 4);
     }
-}
-
-TEST(StoreFormat, EveryKindOfValueSurvives) {
-    using Limits = std::numeric_limits<std::int64_t>;
-    const std::vector<Value> values = {
-        {ValueType::Empty},
-        {ValueType::Null},
-        {ValueType::Boolean, 1},
-        {ValueType::Boolean, 0},
-        {ValueType::Int8, -128},
-        {ValueType::UInt8, 255},
-        {ValueType::Int16, -32768},
-        {ValueType::UInt16, 65535},
-        {ValueType::Int32, -5},
-        {ValueType::UInt32, 0xffffffff},
-        {ValueType::Int, -5},
-        {ValueType::UInt, 0xffffffff},
-        {ValueType::Int64, Limits::min()},
-        {ValueType::UInt64, -1},
-        {ValueType::Currency, Limits::max()},
-        {ValueType::Double, 0, 0.1},
-        {ValueType::Double, 0, -std::numeric_limits<double>::infinity()},
-        {ValueType::Double, 0, std::numeric_limits<double>::denorm_min()},
-        {ValueType::Single, 0, 0.1f},
-        {ValueType::Date, 0, 45000.5},
-    };
-    const auto stored = [](const std::vector<Value>& arguments) {
-        std::vector<NamedScenario> read;
-        const Scenario scenario{0, {}, {AccessObject{0, L"", arguments}}, L""};
-        EXPECT_EQ(ReadResult::Read, ReadStore(TextOfStore({{L"n", scenario}}), read));
-        return std::get<AccessObject>(read.at(0).scenario.operations.at(0)).arguments;
-    };
-    EXPECT_EQ(values, stored(values));
-    EXPECT_TRUE(std::isnan(stored({{ValueType::Double, 0, std::nan("")}}).at(0).real));
+    using Limits = std::numeric_limits<double>;
+    for (const double real :
+         {0.1, Limits::infinity(), -Limits::infinity(), Limits::denorm_min(), Limits::quiet_NaN()}) {
+        const AccessObject operation{0, L"", {{ValueType::Double, 0, real}}};
+        ASSERT_EQ(ReadResult::Read, ReadStore(TextOfStore({{L"n", {0, {}, {operation}, L""}}}), read))
+            << real;
+        const double stored =
+            std::get<AccessObject>(read.at(0).scenario.operations.at(0)).arguments.at(0).real;
+        EXPECT_TRUE(stored == real || (std::isnan(stored) && std::isnan(real))) << real;
+    }
 }
 
 TEST(StoreFormat, AFileCutAnywhereIsCorruptAndChangesNothing) {
@@ -147,17 +119,14 @@ TEST(StoreFormat, ABitFlippedAnywhereNeverBreaksTheReader) {
     const size_t step = sizeof(wchar_t) == 2 ? 1 : 7;  // the sanitizers take their time
     size_t readable = 0;
     for (size_t bit = 0; bit < text.size() * 8; bit += step) {
-        text[bit / 8] ^= static_cast<char>(1 << bit % 8);
+        std::string flipped = text;
+        flipped[bit / 8] ^= static_cast<char>(1 << bit % 8);
         std::vector<NamedScenario> read = kept, again;
-        const ReadResult result = ReadStore(text, read);
-        text[bit / 8] ^= static_cast<char>(1 << bit % 8);
-        if (result != ReadResult::Read) {
-            ASSERT_EQ(kept, read) << bit;
-            continue;
+        if (ReadStore(flipped, read) == ReadResult::Read) {
+            ++readable;
+            ASSERT_EQ(ReadResult::Read, ReadStore(TextOfStore(read), again)) << bit;
         }
-        ++readable;
-        ASSERT_EQ(ReadResult::Read, ReadStore(TextOfStore(read), again)) << bit;
-        ASSERT_EQ(read, again) << bit;
+        ASSERT_EQ(again.empty() ? kept : again, read) << bit;
     }
     EXPECT_GT(readable, 0u) << "a changed letter of a name is no damage";
 }
@@ -168,41 +137,25 @@ TEST(StoreFormat, ForeignAndNewerFilesAreToldApart) {
         std::string text = scenario;
         return text.replace(text.find(old), old.size(), replacement);
     };
-    const std::string deep(100'000, '[');
-    const std::string head = "{\"formatVersion\": 1, \"scenarios\": ";
     const auto trigger = [&](const std::string& text) { return with("null", text); };
-    const std::string corrupt[] = {
-        "",
-        "[]",
-        "1",
-        "{}",
-        "{\"scenarios\": []}",
-        "{\"formatVersion\": 1}",
-        "{\"scenarios\": [], \"formatVersion\": 1}",
-        head + "{}}",
-        head + "[1]}",
-        head + "[[]]}",
-        head + "[], \"more\": 1}",
-        head + "[]} x",
-        head + deep,
-        "{\"formatVersion\": 0, \"scenarios\": []}",
-        "{\"formatVersion\": -2, \"scenarios\": []}",
-        "{\"formatVersion\": 2.5, \"scenarios\": []}",
-        "{\"formatVersion\": \"2\", \"scenarios\": []}",
-        "{\"formatVersion\": [2], \"scenarios\": []}",
-        "{\"formatVersion\": 2, \"anything\": ",
-        with("\"N\"", "\"\\u001a12\""),
-        with("\"N\"", "\"\\u001a0041\""),
-        with("\"N\"", "\"\\ud800\""),
-        with("\"N\"", "\"\xff\""),
-        with("\"N\"", "7"),
-        with("\"name\"", "\"other\""),
-        trigger("null, \"trigger\": null"),
-        trigger("null, \"colour\": 1"),
-        trigger("{\"kind\": \"flood\"}"),
-        trigger("{\"kind\": \"error\", \"code\": 2147483648}"),
+    const auto expectCorrupt = [](const std::string& text) {
+        EXPECT_EQ(ReadResult::Corrupt, Read(text)) << text.substr(0, 200);
     };
-    for (const std::string& text : corrupt) EXPECT_EQ(ReadResult::Corrupt, Read(text)) << text.substr(0, 200);
+    for (const char* text :
+         {"", "[]", "1", "{}", R"({"scenarios": []})", R"({"formatVersion": 1})",
+          R"({"scenarios": [], "formatVersion": 1})", R"({"formatVersion": 2, "anything": )"})
+        expectCorrupt(text);
+    for (const char* version : {"0", "-2", "2.5", "\"2\"", "[2]"})
+        expectCorrupt(with("1,", version + std::string(",")));
+    const std::string deep(100'000, '[');
+    for (const char* list : {"{}}", "[1]}", "[[]]}", "[], \"more\": 1}", "[]} x", deep.c_str()})
+        expectCorrupt("{\"formatVersion\": 1, \"scenarios\": " + std::string(list));
+    for (const char* name : {"\"\\u001a12\"", "\"\\u001a0041\"", "\"\\ud800\"", "\"\xff\"", "7"})
+        expectCorrupt(with("\"N\"", name));
+    expectCorrupt(with("\"name\"", "\"other\""));
+    for (const char* wrong : {R"(null, "trigger": null)", R"(null, "colour": 1)", R"({"kind": "flood"})",
+                              R"({"kind": "error", "code": 2147483648})"})
+        expectCorrupt(trigger(wrong));
     for (const char* text : {"{\"formatVersion\": 2, \"anything\": [[[{\"at\": \"all\"}]]]}",
                              "{\"formatVersion\": 18446744073709551615}"})
         EXPECT_EQ(ReadResult::Newer, Read(text)) << text;
@@ -218,25 +171,6 @@ TEST(StoreFormat, WhatIsTooLargeToReadIsNotWritten) {
     EXPECT_FALSE(WithinLimits(L"n", {0, {}, {}, std::wstring(kMostCharacters + 1, L'x')}));
     EXPECT_EQ(ReadResult::Read, Read(TextOfStore({{L"n", full}})));
     EXPECT_EQ(ReadResult::Corrupt, Read(TextOfStore({{L"n", overfull}})));
-}
-
-TEST(NamedList, AReplacedNameKeepsItsPlaceAndANewOneGoesLast) {
-    NamedList<int> list([](std::wstring_view name) {
-        std::wstring key(name);
-        for (wchar_t& letter : key) letter = letter == L'A' ? L'a' : letter;
-        return key;
-    });
-    EXPECT_TRUE(list.Add(L"A", 1, false));
-    EXPECT_TRUE(list.Add(L"b", 2, true));
-    EXPECT_FALSE(list.Add(L"a", 3, false));
-    EXPECT_TRUE(list.Add(L"a", 4, true));
-    EXPECT_FALSE(list.Remove(L"c"));
-    std::wstring order;
-    for (const auto& entry : list) order += entry.name + std::to_wstring(entry.item);
-    EXPECT_EQ(L"a4b2", order);
-    EXPECT_TRUE(list.Remove(L"A"));
-    EXPECT_EQ(nullptr, list.Find(L"a"));
-    EXPECT_EQ(2, list.Find(L"b")->item);
 }
 
 }  // namespace
