@@ -42,7 +42,7 @@ void RecoveryTab::OnInit() {
     view_.Attach(Item(IDC_RECOVERY_LIST));
     FillActivation();
     PrepareLayout();
-    ui::LeaveKeysToSheet(Item(IDC_RECOVERY_DESCRIPTION));
+    ui::LeaveKeysToSheet(Window());
     ShowList(settings_->list.Has(settings_->currentRow) ? settings_->currentRow : 0);
     view_.FitColumns();
     UpdateDefaultButton();

@@ -7,17 +7,24 @@ namespace {
 
 enum Subclass : UINT_PTR { kMultiLine = 1, kEnter = 2 };
 
-bool IsKeyDown(LPARAM message, WPARAM first, WPARAM second) {
+bool IsKeyDown(LPARAM message, WPARAM key) {
     const auto* asked = reinterpret_cast<const MSG*>(message);
-    return asked && asked->message == WM_KEYDOWN && (asked->wParam == first || asked->wParam == second);
+    return asked && asked->message == WM_KEYDOWN && asked->wParam == key;
+}
+
+bool MakesLines(HWND edit) {
+    const LONG_PTR style = GetWindowLongPtrW(edit, GWL_STYLE);
+    return style & ES_WANTRETURN && !(style & ES_READONLY);
 }
 
 LRESULT CALLBACK MultiLineProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR id,
                                     DWORD_PTR) noexcept {
     if (message == WM_NCDESTROY) RemoveWindowSubclass(window, &MultiLineProcedure, id);
     const LRESULT answer = DefSubclassProc(window, message, wParam, lParam);
-    if (message == WM_GETDLGCODE && IsKeyDown(lParam, VK_TAB, VK_ESCAPE)) return answer & ~DLGC_WANTALLKEYS;
-    return answer;
+    if (message != WM_GETDLGCODE) return answer;
+    const bool isSheets = IsKeyDown(lParam, VK_TAB) || IsKeyDown(lParam, VK_ESCAPE) ||
+                          (IsKeyDown(lParam, VK_RETURN) && !MakesLines(window));
+    return isSheets ? answer & ~DLGC_WANTALLKEYS : answer;
 }
 
 LRESULT CALLBACK EnterProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR id,
@@ -25,7 +32,7 @@ LRESULT CALLBACK EnterProcedure(HWND window, UINT message, WPARAM wParam, LPARAM
     const HWND combo = GetParent(window);
     const bool listOpen = SendMessageW(combo, CB_GETDROPPEDSTATE, 0, 0) != FALSE;
     if (message == WM_NCDESTROY) RemoveWindowSubclass(window, &EnterProcedure, id);
-    if (message == WM_GETDLGCODE && IsKeyDown(lParam, VK_RETURN, VK_RETURN))
+    if (message == WM_GETDLGCODE && IsKeyDown(lParam, VK_RETURN))
         return DefSubclassProc(window, message, wParam, lParam) | DLGC_WANTMESSAGE;
     if (wParam == VK_RETURN && !listOpen) {
         if (message == WM_KEYDOWN) PostMessageW(GetParent(combo), static_cast<UINT>(target), 0, 0);

@@ -7,6 +7,7 @@
 #include <set>
 
 #include "model/FakeTestObject.h"
+#include "settings/SettingsTest.h"
 #include "wizard/WizardTest.h"
 
 namespace recoveryui::test {
@@ -119,9 +120,21 @@ TEST_F(WizardTest, AScenarioIsNamedWithTheKeyboardAlone) {
                   screen.Keys({VK_TAB});
                   screen.Keys({VK_RETURN});
                   EXPECT_EQ(screen.PageTitle(wizard), L"Completing the Recovery Scenario Wizard");
-                  screen.Keys({VK_ESCAPE});
+                  screen.Keys({VK_RETURN});
               }),
-              S_FALSE);
+              S_OK)
+        << "Enter in the summary finishes";
+}
+
+TEST_F(SettingsTest, EnterAndEscapeInTheDescriptionAreTheFrames) {
+    for (const auto& [key, seen] : {std::pair{VK_RETURN, "OK"}, std::pair{VK_ESCAPE, "Cancel"}}) {
+        const auto all = OpenSettings([key = key](UserScreen& screen, HWND frame) {
+            const HWND description = screen.Control(frame, IDC_RECOVERY_DESCRIPTION);
+            screen.Do([=] { SetFocus(description); });
+            screen.Keys({static_cast<WORD>(key)});
+        });
+        EXPECT_EQ(all, std::vector<std::string>{seen});
+    }
 }
 
 }  // namespace
