@@ -5,89 +5,116 @@
 
 namespace tovarin::store {
 namespace {
-constexpr std::size_t kMostKeys = 16;   // of one object
-constexpr std::size_t kMostFields = 5;  // of the format's largest one
+
+constexpr std::uint32_t kMostKeys = 16;  // of one object
+constexpr std::size_t kScenarioDepth = 2;
+
 }  // namespace
 
 bool JsonParts::key(string_t& name) {
     if (newer_) return true;
-    Level& level = levels_.back();
-    if (level.container.size() >= kMostKeys || level.container.contains(name)) return false;
-    // The version comes first, so that all that follows can be judged by it.
-    const bool first = levels_.size() == 1 && level.container.empty();
-    if (first != (levels_.size() == 1 && name == kVersionKey)) return false;
-    if (levels_.size() == 1 && !first && name != kScenariosKey) return false;
-    level.key = std::move(name);
-    return true;
-}
-
-bool JsonParts::Put(Json value) {
-    if (newer_) return true;
-    if (levels_.empty()) return false;
-    Level& level = levels_.back();
-    if (levels_.size() == 1 && level.key == kVersionKey) {
-        PutVersion(value);
-        level.container[level.key] = nullptr;
-    } else if (levels_.size() == 1 || levels_.size() == 2) {
-        return false;  // the list of scenarios is an array of objects
-    } else if (level.container.is_array()) {
-        level.container.push_back(std::move(value));
-        return level.container.size() <= kMostItems;
-    } else {
-        // a new key: repeated ones were refused
-        level.container.get_ref<Json::object_t&>().emplace_back(std::move(level.key), std::move(value));
+    if (depth_ == 1) {
+        // The version comes first, so that all that follows can be judged by it.
+        bool& seen = hasVersion_ ? hasScenarios_ : hasVersion_;
+        if (seen || name != (hasVersion_ ? kScenariosKey : kVersionKey)) return false;
+        return seen = true;
     }
+    JsonNode& object = row_.nodes[open_.back()];
+    if (object.count == kMostKeys) return false;
+    JsonValue other(row_, open_.back() + 1);
+    for (std::uint32_t i = 0; i < object.count; ++i, other = other.Next().Next())
+        if (other.Text() == name) return false;
+    ++object.count;
+    return Append({.kind = Kind::Key, .text = Keep(name)});
+}
+
+JsonNode::Slice JsonParts::Keep(std::string_view text) {
+    const JsonNode::Slice slice{static_cast<std::uint32_t>(row_.texts.size()),
+                                static_cast<std::uint32_t>(text.size())};
+    if (depth_ > kScenarioDepth) row_.texts += text;
+    return slice;
+}
+
+bool JsonParts::Put(JsonNode value) {
+    if (newer_) return true;
+    if (depth_ == 1 && !hasScenarios_) {
+        PutVersion(value);
+        return true;
+    }
+    if (depth_ <= kScenarioDepth) return false;  // the list of scenarios is an array of objects
+    JsonNode& container = row_.nodes[open_.back()];
+    if (container.kind == Kind::List && ++container.count > kMostItems) return false;
+    return Append(value);
+}
+
+bool JsonParts::Append(JsonNode value) {
+    value.end = static_cast<std::uint32_t>(row_.nodes.size() + 1);
+    row_.nodes.push_back(value);
     return true;
 }
 
-void JsonParts::PutVersion(const Json& value) {
-    if (!value.is_number_unsigned() || value.get<std::uint64_t>() == 0) throw CorruptStore();
-    newer_ = value.get<std::uint64_t>() > kFormatVersion;
+void JsonParts::PutVersion(const JsonNode& value) {
+    if (value.kind != Kind::Unsigned || value.natural == 0) throw CorruptStore();
+    newer_ = value.natural > kFormatVersion;
 }
 
-bool JsonParts::Open(Json container) {
+bool JsonParts::Open(Kind kind) {
     if (newer_) return true;
-    const bool isArray = container.is_array();
-    const std::size_t depth = levels_.size();
-    if (depth >= kMostDepth || (depth <= 2 && isArray != (depth == 1))) return false;
-    if (depth == 1 && levels_.back().key == kVersionKey) return false;
-    if (depth == 2 && ++scenarios_ > kMostScenarios) return false;
-    if (!isArray) container.get_ref<Json::object_t&>().reserve(kMostFields);
-    levels_.push_back({std::move(container), {}});
+    const std::size_t depth = depth_++;
+    if (depth == kMostDepth) return false;
+    if (depth <= kScenarioDepth) {
+        if ((kind == Kind::List) != (depth == 1) || (depth == 1 && !hasScenarios_)) return false;
+        if (depth < kScenarioDepth) return true;
+        if (++scenarios_ > kMostScenarios) return false;
+        row_.nodes.clear();
+        row_.texts.clear();
+        Append({.kind = kind, .count = 0});
+    } else if (!Put({.kind = kind, .count = 0})) {
+        return false;
+    }
+    open_.push_back(row_.nodes.size() - 1);
     return true;
 }
 
 bool JsonParts::Close() {
     if (newer_) return true;
-    Json done = std::move(levels_.back().container);
-    levels_.pop_back();
-    switch (levels_.size()) {
-        case 0: complete_ = done.contains(kScenariosKey); return true;
-        case 1: levels_.back().container[std::string(kScenariosKey)] = nullptr; return true;
-        case 2: scenario_(done); return true;
-        default: return Put(std::move(done));
+    if (--depth_ == 0) complete_ = hasScenarios_;
+    if (depth_ < kScenarioDepth) return true;
+    row_.nodes[open_.back()].end = static_cast<std::uint32_t>(row_.nodes.size());
+    open_.pop_back();
+    if (depth_ == kScenarioDepth) scenario_(JsonValue(row_));
+    return true;
+}
+
+Fields::Fields(JsonValue object) : first_(object.First()), next_(first_) {
+    if (object.Type() != JsonValue::Kind::Object) throw CorruptStore();
+    count_ = object.Node().count;
+}
+
+JsonValue Fields::Take(std::string_view key) {
+    for (std::uint32_t left = count_; left > 0; --left) {
+        if (place_ == count_) {
+            next_ = first_;
+            place_ = 0;
+        }
+        const JsonValue name = next_, value = next_.Next();
+        next_ = value.Next();
+        ++place_;
+        if (name.Text() != key) continue;
+        ++taken_;
+        return value;
     }
-}
-
-Fields::Fields(const Json& object) : object_(object) {
-    if (!object.is_object()) throw CorruptStore();
-}
-
-const Json& Fields::Take(std::string_view key) {
-    const auto found = object_.find(key);
-    if (found == object_.end()) throw CorruptStore();
-    ++taken_;
-    return *found;
+    throw CorruptStore();
 }
 
 std::wstring Fields::Text(std::string_view key) {
     return TextOf(Take(key));
 }
 
-std::string Fields::Word(std::string_view key) {
-    const Json& json = Take(key);
-    if (!json.is_string()) throw CorruptStore();
-    return json.get<std::string>();
+std::string_view Fields::Word(std::string_view key) {
+    const JsonValue value = Take(key);
+    if (value.Type() != JsonValue::Kind::Text) throw CorruptStore();
+    return value.Text();
 }
 
 std::int32_t Fields::Number(std::string_view key) {
@@ -95,21 +122,24 @@ std::int32_t Fields::Number(std::string_view key) {
 }
 
 void Fields::Done() const {
-    if (taken_ != object_.size()) throw CorruptStore();
+    if (taken_ != count_) throw CorruptStore();
 }
 
-std::wstring TextOf(const Json& json) {
-    if (!json.is_string()) throw CorruptStore();
-    std::optional<std::wstring> text = FromUtf8(json.get_ref<const std::string&>());
+std::wstring TextOf(JsonValue value) {
+    if (value.Type() != JsonValue::Kind::Text) throw CorruptStore();
+    std::optional<std::wstring> text = FromUtf8(value.Text());
     if (!text || text->size() > kMostCharacters) throw CorruptStore();
     return std::move(*text);
 }
 
-std::int64_t WholeOf(const Json& json, std::int64_t least, std::int64_t most) {
-    if (!json.is_number_integer()) throw CorruptStore();
-    if (json.is_number_unsigned() && json.get<std::uint64_t>() > static_cast<std::uint64_t>(INT64_MAX))
-        throw CorruptStore();
-    const auto number = json.get<std::int64_t>();
+std::int64_t WholeOf(JsonValue value, std::int64_t least, std::int64_t most) {
+    const JsonNode& node = value.Node();
+    const bool isWhole =
+        node.kind == JsonNode::Kind::Whole ||
+        (node.kind == JsonNode::Kind::Unsigned && node.natural <= static_cast<std::uint64_t>(INT64_MAX));
+    if (!isWhole) throw CorruptStore();
+    const std::int64_t number =
+        node.kind == JsonNode::Kind::Whole ? node.whole : static_cast<std::int64_t>(node.natural);
     if (number < least || number > most) throw CorruptStore();
     return number;
 }

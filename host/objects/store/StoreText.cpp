@@ -57,6 +57,11 @@ char32_t NextPoint(std::string_view bytes, std::size_t& at) {
     return point;
 }
 
+// A character of one byte that is no escape.
+bool IsPlain(char byte) {
+    return static_cast<unsigned char>(byte) < 0x80 && byte != static_cast<char>(kEscape);
+}
+
 // Four digits as ToUtf8 writes them; nothing for other digits or another value.
 std::optional<char32_t> EscapedUnit(std::string_view digits) {
     if (digits.size() != 4) return std::nullopt;
@@ -94,6 +99,11 @@ std::optional<std::wstring> FromUtf8(std::string_view bytes) {
     std::wstring text;
     text.reserve(bytes.size());
     for (std::size_t at = 0; at < bytes.size();) {
+        std::size_t plain = at;
+        while (plain < bytes.size() && IsPlain(bytes[plain])) ++plain;
+        text.append(bytes.begin() + at, bytes.begin() + plain);
+        at = plain;
+        if (at == bytes.size()) break;
         const char32_t point = NextPoint(bytes, at);
         if (point != kEscape) {
             AppendWide(text, point);
