@@ -46,18 +46,22 @@ HRESULT RunScript(const std::vector<RegistryEntry>& entries) {
     return S_OK;
 }
 
-// As much as can be removed; gives the first failure.
-LSTATUS RemoveAll(const std::vector<RegistryEntry>& entries) {
+std::wstring ClassKey(const com::ClassEntry& entry) { return L"CLSID\\" + GuidText(*entry.clsid); }
+
+// As much as can be removed; gives the first failure. The class itself goes last and only when all else is gone:
+// without it nobody would try again.
+LSTATUS RemoveAll(const com::ClassEntry& entry, const std::vector<RegistryEntry>& entries) {
+    const std::wstring classKey = ClassKey(entry);
     LSTATUS result = ERROR_SUCCESS;
     for (const std::wstring& key : OwnedKeys(entries)) {
-        const LSTATUS status = DeleteTree(HKEY_CLASSES_ROOT, key);
+        const LSTATUS status = key == classKey ? ERROR_SUCCESS : DeleteTree(HKEY_CLASSES_ROOT, key);
         if (result == ERROR_SUCCESS) result = status;
     }
-    return result;
+    return result == ERROR_SUCCESS ? DeleteTree(HKEY_CLASSES_ROOT, classKey) : result;
 }
 
 RegistryKey OpenServerKey(const com::ClassEntry& entry, LSTATUS* status = nullptr) {
-    return OpenKey(HKEY_CLASSES_ROOT, L"CLSID\\" + GuidText(*entry.clsid) + L"\\InprocServer32", 0, status);
+    return OpenKey(HKEY_CLASSES_ROOT, ClassKey(entry) + L"\\InprocServer32", 0, status);
 }
 
 }  // namespace
@@ -81,7 +85,7 @@ HRESULT RegisterClassEntry(const com::ClassEntry& entry) {
         const RegistryKey key = OpenServerKey(entry);
         hr = key && WriteCount(key.Get(), ReadCount(key.Get()) + 1) == ERROR_SUCCESS ? S_OK : E_FAIL;
     }
-    if (FAILED(hr) && IsMissing(before)) RemoveAll(entries);
+    if (FAILED(hr) && IsMissing(before)) RemoveAll(entry, entries);
     return hr;
 }
 
@@ -95,7 +99,7 @@ HRESULT UnregisterClassEntry(const com::ClassEntry& entry) {
         if (!key) return E_FAIL;
         left = TakeOne(key.Get());
     }
-    return left == 0 ? HRESULT_FROM_WIN32(RemoveAll(entries)) : S_OK;
+    return left == 0 ? HRESULT_FROM_WIN32(RemoveAll(entry, entries)) : S_OK;
 }
 
 }  // namespace recoveryui::shell

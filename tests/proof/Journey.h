@@ -6,6 +6,7 @@
 #include <string>
 #include <vector>
 
+#include "com/Guard.h"
 #include "proof/Actor.h"
 
 namespace recoveryui::proof {
@@ -15,8 +16,13 @@ class Stage {
 public:
     virtual ~Stage() = default;
 
-    // Everything that the user and the host do.
-    virtual void Play(Actor& actor) = 0;
+    // The journey; an object that it cannot begin with ends it.
+    void Perform(Actor& actor) {
+        try {
+            isDone_ = Play(actor);
+        } catch (const com::HResultError&) {
+        }
+    }
     // What is to be kept or changed as a whole: files, objects, values. Asked without faults.
     virtual std::wstring State() = 0;
     // The journey has reported success to its caller: its last state must have been reached.
@@ -25,15 +31,19 @@ public:
     const std::vector<std::string>& Broken() const { return broken_; }
     // The states at which a playing that is given up may stop, the first and the last included.
     const std::vector<std::wstring>& Marks() const { return marks_; }
-    // Notes the states on the way; not while calls fail.
-    void MarkStates() { isMarking_ = true; }
-
-protected:
-    bool IsMarking() const { return isMarking_; }
+    // Notes the states from here on; not while calls fail.
+    void MarkStates() {
+        isMarking_ = true;
+        Mark();
+    }
     void Mark() {
         if (isMarking_) marks_.push_back(State());
     }
-    void SetDone(bool done) { isDone_ = done; }
+
+protected:
+    // Everything that the user and the host do; true when success was reported.
+    virtual bool Play(Actor& actor) = 0;
+    bool IsMarking() const { return isMarking_; }
     void Promise(bool kept, const std::string& what) {
         if (!kept) broken_.push_back(what);
     }
@@ -49,9 +59,9 @@ struct Journey {
     std::unique_ptr<Stage> (*make)();
 };
 
-template <class Made>
-std::unique_ptr<Stage> MakeStage() {
-    return std::make_unique<Made>();
+template <class Made, class... Arguments>
+std::unique_ptr<Stage> Make(Arguments... arguments) {
+    return std::make_unique<Made>(arguments...);
 }
 
 std::span<const Journey> WizardJourneys();

@@ -153,7 +153,11 @@ private:
             return [=] { PostMessageW(target, message, wParam & 1, 0); };
         if (message == WM_PAINT || message == WM_NCPAINT) return [=] { PostMessageW(target, message, 0, 0); };
         if (message >= WM_KEYFIRST && message <= WM_KEYLAST) return [=] { PostKey(message, wParam, lParam); };
-        return [=] { PostMessageW(target, message, wParam, lParam); };
+        return [=] {
+            PostMessageW(target, message, wParam, lParam);
+            // A list waits for the end of a press, and whoever presses lets go.
+            if (message == WM_LBUTTONDOWN || message == WM_RBUTTONDOWN) PostMessageW(target, message + 1, 0, lParam);
+        };
     }
 
     std::mt19937 random_;

@@ -10,75 +10,43 @@
 namespace recoveryui::proof {
 namespace {
 
-constexpr const char* kNames[] = {"wizard",           "wizard, editing",  "manager",
-                                  "add dialog",       "tab",              "properties of a pop-up",
+constexpr wchar_t kWizard[] = L"Recovery Scenario Wizard", kProperties[] = L"Recovery Scenario Properties";
+constexpr const char* kNames[] = {"wizard", "wizard, editing", "manager", "add dialog", "tab", "properties of a pop-up",
                                   "properties of a state", "properties of an error", "properties of a crash"};
-constexpr const wchar_t* kTitles[] = {L"Recovery Scenario Wizard",
-                                      L"Recovery Scenario Wizard",
-                                      L"Recovery Scenario Manager",
-                                      L"Add Recovery Scenario",
-                                      L"Test Settings",
-                                      L"Recovery Scenario Properties",
-                                      L"Recovery Scenario Properties",
-                                      L"Recovery Scenario Properties",
-                                      L"Recovery Scenario Properties"};
+constexpr const wchar_t* kTitles[] = {kWizard, kWizard, L"Recovery Scenario Manager", L"Add Recovery Scenario",
+                                      L"Test Settings", kProperties, kProperties, kProperties, kProperties};
 
 }  // namespace
 
-Openings::Openings() : file_(WriteEveryKind(L"file.trs")) { rack_.Put(L"HelpViewer", help_.Get()); }
+Openings::Openings() { rack_.Put(L"HelpViewer", help_.Get()); }
 
 std::span<const char* const> Openings::Names() { return kNames; }
 
 void Openings::Open(size_t dialog, Actor& actor, const Script& script) {
-    const auto show = [&] {
-        switch (dialog) {
-            case 0: return Wizard(nullptr);
-            case 1: return Wizard(L"Pop-up");
-            case 2: return Manager();
-            case 3: return AddDialog();
-            case 4: return Tab();
-            case 5: return Properties(L"Pop-up");
-            case 6: return Properties(L"State");
-            case 7: return Properties(L"Error");
-            default: return Properties(L"Crash");
+    actor.During([&] { return Show(dialog); },
+                 [&](Player& player) { script(player, player.First(kTitles[dialog])); });
+}
+
+HRESULT Openings::Show(size_t dialog) {
+    if (dialog < 2) {
+        const auto wizard = Start<IRecoveryWizard>(L"Vantrel.RecoveryWizard");
+        com::Check(wizard->put_Repository(Load({}).Get()));
+        if (dialog == 1) {
+            com::Check(wizard->put_Scenario(Scenario(file_, L"Pop-up").Get()));
+            com::Check(wizard->put_ScenarioName(com::Bstr(L"Pop-up").Get()));
         }
-    };
-    actor.During(show, [&](Player& player) { script(player, player.First(kTitles[dialog])); });
-}
-
-HRESULT Openings::Wizard(const wchar_t* edited) {
-    const auto wizard = New<IRecoveryWizard>(L"Vantrel.RecoveryWizard");
-    HandRack(wizard.Get());
-    com::Check(wizard->put_Repository(Load({}).Get()));
-    if (edited) {
-        com::Check(wizard->put_Scenario(Scenario(file_, edited).Get()));
-        com::Check(wizard->put_ScenarioName(com::Bstr(edited).Get()));
+        return com::Query<IRecoveryDlg>(wizard.Get())->DoModal();
     }
-    return com::Query<IRecoveryDlg>(wizard.Get())->DoModal();
-}
-
-HRESULT Openings::Manager() {
-    const auto manager = New<IRecoveryDlg>(L"Vantrel.RecoveryDlg");
-    HandRack(manager.Get());
-    return manager->DoModal();
-}
-
-HRESULT Openings::AddDialog() {
-    const auto dialog = New<IRecoveryAddDlg>(L"Vantrel.RecoveryAddDlg");
-    HandRack(dialog.Get());
-    return dialog->DoModal();
-}
-
-HRESULT Openings::Tab() {
-    const auto page = New<IPropertyPage>(L"Vantrel.RecoveryPP");
-    test::TestFrame(page.Get(), rack_.Get(), options_.Get(), false).ShowModal();
-    return S_OK;
-}
-
-HRESULT Openings::Properties(const wchar_t* name) {
-    const auto sheet = New<IScenarioProperties>(L"Vantrel.ScenarioProperties");
-    HandRack(sheet.Get());
-    return sheet->DoModal(Scenario(file_, name).Get(), com::Bstr(file_).Get(), com::Bstr(name).Get());
+    if (dialog == 2) return Start<IRecoveryDlg>(L"Vantrel.RecoveryDlg")->DoModal();
+    if (dialog == 3) return Start<IRecoveryAddDlg>(L"Vantrel.RecoveryAddDlg")->DoModal();
+    if (dialog == 4) {
+        const auto page = New<IPropertyPage>(L"Vantrel.RecoveryPP");
+        test::TestFrame(page.Get(), rack_.Get(), options_.Get(), false).ShowModal();
+        return S_OK;
+    }
+    const wchar_t* const name = std::array{L"Pop-up", L"State", L"Error", L"Crash"}[dialog - 5];
+    return Start<IScenarioProperties>(L"Vantrel.ScenarioProperties")
+        ->DoModal(Scenario(file_, name).Get(), com::Bstr(file_).Get(), com::Bstr(name).Get());
 }
 
 void LoadModules() {

@@ -20,17 +20,12 @@ public:
     void Open(size_t dialog, Actor& actor, const Script& script);
 
 private:
-    void Play(Actor&) override {}
+    bool Play(Actor&) override { return true; }
     std::wstring State() override { return {}; }
-
-    HRESULT Wizard(const wchar_t* edited);
-    HRESULT Manager();
-    HRESULT AddDialog();
-    HRESULT Tab();
-    HRESULT Properties(const wchar_t* name);
+    HRESULT Show(size_t dialog);
 
     com::Ptr<test::HelpViewer> help_ = test::HelpViewer::Make();
-    const std::wstring file_;
+    const std::wstring file_ = WriteEveryKind(L"file.trs");
 };
 
 // Loads the modules into this process, with everything counted.

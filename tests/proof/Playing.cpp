@@ -75,7 +75,8 @@ void Rehearsal::Rehearse() {
     const auto stage = journey_.make();
     stage->MarkStates();
     Actor actor(kPatient, [] {});
-    stage->Play(actor);
+    stage->Perform(actor);
+    stage->Mark();
     if (!actor.GaveUp().empty()) throw std::runtime_error("the journey itself does not work: " + actor.GaveUp());
     if (!stage->IsDone()) throw std::runtime_error("the journey itself does not come to its end");
     marks_ = stage->Marks();
@@ -99,7 +100,7 @@ Playing Rehearsal::PlayOnce(const Fault& fault, unsigned patience) {
         const auto stage = journey_.make();
         Order order(fault);
         Actor actor(patience, [&] { order.Lift(); });
-        stage->Play(actor);
+        stage->Perform(actor);
         order.End();
         playing.hasFailed = order.HasFailed();
         playing.failed = order.Failed();
@@ -124,7 +125,7 @@ std::vector<std::uint64_t> Rehearsal::Survey(Outside outside) {
     Order order({outside, 0, false});
     OutwardCalls::RecordCallers(true);
     Actor actor(kPatient, [] {});
-    stage->Play(actor);
+    stage->Perform(actor);
     order.End();
     OutwardCalls::RecordCallers(false);
     if (outside != Outside::Host) return OutwardCalls::Callers();

@@ -12,17 +12,18 @@ namespace {
 
 namespace fs = std::filesystem;
 
-std::wstring FolderOfProcess() {
-    return (fs::temp_directory_path() / (L"proof " + std::to_wstring(GetCurrentProcessId()))).wstring();
-}
+std::wstring OfProcess(const wchar_t* name) { return name + std::to_wstring(GetCurrentProcessId()); }
 
 }  // namespace
 
-Scene::Scene() : options_(New<ITestOptions>(L"Tovarin.TestOptions")), folder_(FolderOfProcess()) {
+Scene::Scene()
+    : branch_(OfProcess(L"Software\\Tovarin\\Proof ")),
+      options_(New<ITestOptions>(L"Tovarin.TestOptions")),
+      folder_(fs::temp_directory_path() / OfProcess(L"proof ")) {
     fs::remove_all(folder_);
     fs::create_directories(folder_);
-    RegDeleteTreeW(HKEY_CURRENT_USER, kBranch);
-    com::Check(com::Query<ITestFile>(options_.Get())->SetSettingsRegistryPath(com::Bstr(kBranch).Get()));
+    RegDeleteTreeW(HKEY_CURRENT_USER, branch_.c_str());
+    com::Check(com::Query<ITestFile>(options_.Get())->SetSettingsRegistryPath(com::Bstr(branch_).Get()));
     const auto locator = New<IFileLocator>(L"Tovarin.FileLocator");
     com::Check(com::Query<IFileLocatorFolders>(locator.Get())->SetTestFolder(com::Bstr(folder_).Get()));
     rack_.Put(L"TestOptions", options_.Get())
@@ -35,7 +36,7 @@ Scene::Scene() : options_(New<ITestOptions>(L"Tovarin.TestOptions")), folder_(Fo
 Scene::~Scene() {
     std::error_code ignored;
     fs::remove_all(folder_, ignored);
-    RegDeleteTreeW(HKEY_CURRENT_USER, kBranch);
+    RegDeleteTreeW(HKEY_CURRENT_USER, branch_.c_str());
 }
 
 std::wstring Scene::Write(const std::wstring& name, const std::string& bytes) const {
@@ -94,11 +95,6 @@ std::wstring Scene::Options() const {
                     (value.Type() == VT_I4 ? std::to_wstring(value.Get().lVal) : std::wstring(value.Text())) + L"\n";
     }
     return text;
-}
-
-bool Scene::HandRack(IUnknown* object) const {
-    const auto client = com::Query<IObjectRackClient>(object);
-    return client && SUCCEEDED(client->SetRack(rack_.Get()));
 }
 
 }  // namespace recoveryui::proof

@@ -48,10 +48,17 @@ protected:
     // The user's defaults and the values of the open test.
     std::wstring Options() const;
 
-    // Gives a component object the rack; false when it could not be created or takes none.
-    bool HandRack(IUnknown* object) const;
+    // A new object of the component that has the rack. Throws HResultError.
+    template <class Interface>
+    com::Ptr<Interface> Start(const wchar_t* progId) const {
+        auto object = New<Interface>(progId);
+        const auto client = com::Query<IObjectRackClient>(object.Get());
+        com::Check(client ? client->SetRack(rack_.Get()) : E_NOINTERFACE);
+        return object;
+    }
 
-    static constexpr wchar_t kBranch[] = L"Software\\Tovarin\\Proof";
+    // Under HKEY_CURRENT_USER; the process's own, for another one may play at the same time.
+    const std::wstring branch_;
     test::Rack rack_;
     com::Ptr<ITestOptions> options_;
 

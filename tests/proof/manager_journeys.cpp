@@ -14,10 +14,8 @@ protected:
 
     virtual void Manage(Player& player, HWND manager) = 0;
 
-    void Play(Actor& actor) override {
-        Mark();
-        com::Ptr<IRecoveryDlg> dialog;
-        if (FAILED(com::Create(L"Vantrel.RecoveryDlg", dialog)) || !HandRack(dialog.Get())) return;
+    bool Play(Actor& actor) override {
+        const auto dialog = Start<IRecoveryDlg>(L"Vantrel.RecoveryDlg");
         const HRESULT hr = actor.During([&] { return dialog->DoModal(); },
                                         [&](Player& player) {
                                             const HWND manager = player.First(L"Recovery Scenario Manager");
@@ -25,8 +23,7 @@ protected:
                                             const bool asked = player.CloseWithAnswer(manager, IDNO);
                                             Promise(asked || !hasUnsaved_, "closed without a word about unsaved changes");
                                         });
-        SetDone(hr == S_OK && actor.GaveUp().empty());
-        Mark();
+        return hr == S_OK && actor.GaveUp().empty();
     }
     std::wstring State() override { return Read(work_) + L"\n" + Read(second_); }
 
@@ -130,9 +127,9 @@ class MakeInManager final : public ManagerStage {
     }
 };
 
-constexpr Journey kJourneys[] = {{"manager-edit", MakeStage<EditFile>},
-                                 {"manager-new", MakeStage<ReplaceInFile>},
-                                 {"manager-wizard", MakeStage<MakeInManager>}};
+constexpr Journey kJourneys[] = {{"manager-edit", Make<EditFile>},
+                                 {"manager-new", Make<ReplaceInFile>},
+                                 {"manager-wizard", Make<MakeInManager>}};
 
 }  // namespace
 

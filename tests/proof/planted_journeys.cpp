@@ -7,59 +7,48 @@
 namespace recoveryui::proof {
 namespace {
 
-// Registers a class object of the component, which costs it some calls, and then does what it should not.
-class Planted : public Scene {
-protected:
-    virtual void Misbehave() = 0;
+using Misdeed = void(std::wstring& state);
+
+// Makes an object of the component, which costs it some calls, and then does what it should not.
+class Planted final : public Scene {
+public:
+    explicit Planted(Misdeed* misbehave) : misbehave_(misbehave) {}
 
 private:
-    void Play(Actor& actor) override {
-        Mark();
+    bool Play(Actor& actor) override {
         com::Ptr<IRecoveryDlg> dialog;
         static_cast<void>(com::Create(L"Vantrel.RecoveryDlg", dialog));
         if (dialog) dialog->DoModal();  // without a rack it does nothing
-        if (OutwardCalls::HasFailed()) {
-            actor.During(
-                [&] {
-                    Misbehave();
-                    return S_OK;
-                },
-                [](Player&) {});
-        }
-        SetDone(!OutwardCalls::HasFailed());
+        if (!OutwardCalls::HasFailed()) return true;
+        actor.During(
+            [&] {
+                misbehave_(state_);
+                return S_OK;
+            },
+            [](Player&) {});
+        return false;
     }
     std::wstring State() override { return state_; }
 
-protected:
+    Misdeed* misbehave_;
     std::wstring state_ = L"old";
 };
 
-struct Crash final : Planted {
-    void Misbehave() override { RaiseException(EXCEPTION_ACCESS_VIOLATION, 0, 0, nullptr); }
-};
-struct Leak final : Planted {
-    void Misbehave() override { CreateCompatibleDC(nullptr); }
-};
-struct WindowLeft final : Planted {
-    void Misbehave() override {
-        CreateWindowW(L"Static", L"left", WS_POPUP, 0, 0, 9, 9, nullptr, nullptr, nullptr, nullptr);
-    }
-};
-struct HalfState final : Planted {
-    void Misbehave() override { state_ = L"half"; }
-};
-struct NoWayOut final : Planted {
-    void Misbehave() override {
-        const ULONGLONG end = GetTickCount64() + 7000;
-        while (GetTickCount64() < end) Sleep(50);
-    }
-};
+template <Misdeed* misbehave>
+std::unique_ptr<Stage> Plant() {
+    return Make<Planted>(misbehave);
+}
 
-constexpr Journey kJourneys[] = {{"planted-crash", MakeStage<Crash>},
-                                 {"planted-leak", MakeStage<Leak>},
-                                 {"planted-window", MakeStage<WindowLeft>},
-                                 {"planted-half", MakeStage<HalfState>},
-                                 {"planted-standstill", MakeStage<NoWayOut>}};
+constexpr Journey kJourneys[] = {
+    {"planted-crash", Plant<[](std::wstring&) { RaiseException(EXCEPTION_ACCESS_VIOLATION, 0, 0, nullptr); }>},
+    {"planted-leak", Plant<[](std::wstring&) { CreateCompatibleDC(nullptr); }>},
+    {"planted-window",
+     Plant<[](std::wstring&) {
+         CreateWindowW(L"Static", L"left", WS_POPUP, 0, 0, 9, 9, nullptr, nullptr, nullptr, nullptr);
+     }>},
+    {"planted-half", Plant<[](std::wstring& state) { state = L"half"; }>},
+    {"planted-standstill", Plant<[](std::wstring&) { Sleep(7000); }>},
+};
 
 }  // namespace
 

@@ -24,17 +24,14 @@ void ChooseAll(Player& player, HWND dialog, const std::wstring& file) {
 }
 
 class AddDialog final : public Scene {
-    void Play(Actor& actor) override {
-        Mark();
-        if (FAILED(com::Create(L"Vantrel.RecoveryAddDlg", dialog_)) || !HandRack(dialog_.Get())) return;
-        const HRESULT hr = actor.During([&] { return dialog_->DoModal(); },
-                                        [&](Player& player) {
-                                            const HWND window = player.First(L"Add Recovery Scenario");
-                                            ChooseAll(player, window, file_);
-                                            player.Leave(window, IDOK);
-                                        });
-        SetDone(hr == S_OK);
-        if (hr == S_OK) Mark();
+    bool Play(Actor& actor) override {
+        dialog_ = Start<IRecoveryAddDlg>(L"Vantrel.RecoveryAddDlg");
+        return actor.During([&] { return dialog_->DoModal(); },
+                            [&](Player& player) {
+                                const HWND window = player.First(L"Add Recovery Scenario");
+                                ChooseAll(player, window, file_);
+                                player.Leave(window, IDOK);
+                            }) == S_OK;
     }
     std::wstring State() override {
         com::Bstr file;
@@ -51,10 +48,8 @@ class AddDialog final : public Scene {
 };
 
 class Tab final : public Scene {
-    void Play(Actor& actor) override {
-        Mark();
-        com::Ptr<IPropertyPage> page;
-        if (FAILED(com::Create(L"Vantrel.RecoveryPP", page)) || !HandRack(page.Get())) return;
+    bool Play(Actor& actor) override {
+        const auto page = Start<IPropertyPage>(L"Vantrel.RecoveryPP");
         test::TestFrame frame(page.Get(), rack_.Get(), options_.Get(), false);
         actor.During(
             [&] {
@@ -62,7 +57,7 @@ class Tab final : public Scene {
                 return S_OK;
             },
             [&](Player& player) { Use(player); });
-        SetDone(actor.GaveUp().empty());
+        return actor.GaveUp().empty();
     }
     void Use(Player& player) {
         const HWND frame = player.First(L"Test Settings");
@@ -84,31 +79,27 @@ class Tab final : public Scene {
         Mark();
         player.Try([&] { player.Choose(frame, IDC_RECOVERY_ACTIVATION, L"Never"); });
         player.Leave(frame, IDOK);
-        Mark();
     }
     std::wstring State() override { return Options(); }
 
     const std::wstring file_ = WriteEveryKind(L"file.trs");
 };
 
-class PropertiesOf : public Scene {
-protected:
+class PropertiesOf final : public Scene {
+public:
     explicit PropertiesOf(const wchar_t* name) : name_(name), scenario_(Scenario(file_, name)) {}
 
 private:
-    void Play(Actor& actor) override {
-        Mark();
-        com::Ptr<IScenarioProperties> sheet;
-        if (FAILED(com::Create(L"Vantrel.ScenarioProperties", sheet)) || !HandRack(sheet.Get())) return;
+    bool Play(Actor& actor) override {
+        const auto sheet = Start<IScenarioProperties>(L"Vantrel.ScenarioProperties");
         const com::Bstr file(file_), name(name_);
-        const HRESULT hr = actor.During([&] { return sheet->DoModal(scenario_.Get(), file.Get(), name.Get()); },
-                                        [&](Player& player) {
-                                            const HWND window = player.First(L"Recovery Scenario Properties");
-                                            for (WPARAM tab : {1, 2, 3, 0})
-                                                player.Do([=] { SendMessageW(window, PSM_SETCURSEL, tab, 0); });
-                                            player.Leave(window, IDOK);
-                                        });
-        SetDone(SUCCEEDED(hr));
+        return SUCCEEDED(actor.During([&] { return sheet->DoModal(scenario_.Get(), file.Get(), name.Get()); },
+                                      [&](Player& player) {
+                                          const HWND window = player.First(L"Recovery Scenario Properties");
+                                          for (WPARAM tab : {1, 2, 3, 0})
+                                              player.Do([=] { SendMessageW(window, PSM_SETCURSEL, tab, 0); });
+                                          player.Leave(window, IDOK);
+                                      }));
     }
     std::wstring State() override { return Describe(scenario_.Get(), name_); }
 
@@ -116,26 +107,14 @@ private:
     const std::wstring name_;
     com::Ptr<IUnknown> scenario_;
 };
-struct PropertiesOfPopup final : PropertiesOf {
-    PropertiesOfPopup() : PropertiesOf(L"Pop-up") {}
-};
-struct PropertiesOfState final : PropertiesOf {
-    PropertiesOfState() : PropertiesOf(L"State") {}
-};
-struct PropertiesOfError final : PropertiesOf {
-    PropertiesOfError() : PropertiesOf(L"Error") {}
-};
-struct PropertiesOfCrash final : PropertiesOf {
-    PropertiesOfCrash() : PropertiesOf(L"Crash") {}
-};
 
 constexpr Journey kJourneys[] = {
-    {"add-dialog", MakeStage<AddDialog>},
-    {"tab", MakeStage<Tab>},
-    {"properties-popup", MakeStage<PropertiesOfPopup>},
-    {"properties-state", MakeStage<PropertiesOfState>},
-    {"properties-error", MakeStage<PropertiesOfError>},
-    {"properties-crash", MakeStage<PropertiesOfCrash>},
+    {"add-dialog", Make<AddDialog>},
+    {"tab", Make<Tab>},
+    {"properties-popup", [] { return Make<PropertiesOf>(L"Pop-up"); }},
+    {"properties-state", [] { return Make<PropertiesOf>(L"State"); }},
+    {"properties-error", [] { return Make<PropertiesOf>(L"Error"); }},
+    {"properties-crash", [] { return Make<PropertiesOf>(L"Crash"); }},
 };
 
 }  // namespace

@@ -8,27 +8,17 @@
 namespace recoveryui::proof {
 namespace {
 
-constexpr wchar_t kClasses[] = L"Software\\Tovarin\\ProofClasses";
-
 // In a branch of its own in place of the machine's classes.
 class Registration final : public Scene {
 public:
-    Registration() {
-        RegDeleteTreeW(HKEY_CURRENT_USER, kClasses);
-        RegCreateKeyExW(HKEY_CURRENT_USER, kClasses, 0, nullptr, 0, KEY_ALL_ACCESS, nullptr, &branch_, nullptr);
-    }
-    ~Registration() override {
-        RegCloseKey(branch_);
-        RegDeleteTreeW(HKEY_CURRENT_USER, kClasses);
-    }
+    Registration() { RegCreateKeyW(HKEY_CURRENT_USER, classes_.c_str(), &key_); }
+    ~Registration() override { RegCloseKey(key_); }
 
 private:
-    void Play(Actor&) override {
+    bool Play(Actor&) override {
+        if (!(isRegistered_ = SUCCEEDED(Call("DllRegisterServer")))) return false;
         Mark();
-        if (!(isRegistered_ = SUCCEEDED(Call("DllRegisterServer")))) return;
-        Mark();
-        SetDone(Call("DllUnregisterServer") == S_OK);
-        Mark();
+        return Call("DllUnregisterServer") == S_OK;
     }
     // What failed half way can be tried again, and then nothing is left. Only a registration that had no
     // memory to be taken back with stays counted.
@@ -41,11 +31,11 @@ private:
         return Found();
     }
     // The program ids and class ids that are registered, without those of other makers.
-    static std::wstring Found() {
+    std::wstring Found() const {
         std::wstring found;
         for (const wchar_t* parent : {L"", L"\\CLSID", L"\\TypeLib", L"\\Interface"}) {
             HKEY key = nullptr;
-            if (RegOpenKeyExW(HKEY_CURRENT_USER, (std::wstring(kClasses) + parent).c_str(), 0, KEY_READ, &key)) continue;
+            if (RegOpenKeyExW(HKEY_CURRENT_USER, (classes_ + parent).c_str(), 0, KEY_READ, &key)) continue;
             wchar_t name[256];
             for (DWORD i = 0, size = 256; !RegEnumKeyExW(key, i, name, &size, nullptr, nullptr, nullptr, nullptr); ++i, size = 256)
                 if (*parent || std::wstring(name).rfind(L"Vantrel", 0) == 0) found += std::wstring(name) + L"\n";
@@ -54,24 +44,24 @@ private:
         return found;
     }
     HRESULT Call(const char* entryPoint) const {
-        RegOverridePredefKey(HKEY_CLASSES_ROOT, branch_);
+        RegOverridePredefKey(HKEY_CLASSES_ROOT, key_);
         const HRESULT hr = reinterpret_cast<HRESULT(STDAPICALLTYPE*)()>(
             reinterpret_cast<void*>(GetProcAddress(GetModuleHandleW(L"RecoveryUI.dll"), entryPoint)))();
         RegOverridePredefKey(HKEY_CLASSES_ROOT, nullptr);
         return hr;
     }
 
-    HKEY branch_ = nullptr;
+    const std::wstring classes_ = branch_ + L"\\Classes";
+    HKEY key_ = nullptr;
     bool isRegistered_ = false;
 };
 
 class HostStart final : public Scene {
-    void Play(Actor& actor) override {
-        Mark();
+    bool Play(Actor& actor) override {
         tovarin::HostOptions options;
-        options.settingsPath = kBranch;
+        options.settingsPath = branch_;
         const HRESULT ended = actor.During([&] { return tovarin::RunHost(options); }, [&](Player& player) { Use(player); });
-        SetDone(ended == 0 && actor.GaveUp().empty());
+        return ended == 0 && actor.GaveUp().empty();
     }
     void Use(Player& player) {
         const HWND host = player.First(nullptr, tovarin::kMainWindowClass);
@@ -102,7 +92,7 @@ class HostStart final : public Scene {
     std::wstring State() override { return L"nothing stays"; }
 };
 
-constexpr Journey kJourneys[] = {{"registration", MakeStage<Registration>}, {"host", MakeStage<HostStart>}};
+constexpr Journey kJourneys[] = {{"registration", Make<Registration>}, {"host", Make<HostStart>}};
 
 }  // namespace
 

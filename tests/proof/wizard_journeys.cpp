@@ -26,23 +26,18 @@ protected:
 
     virtual void Walk(Player& player, HWND wizard) = 0;
 
-    void Play(Actor& actor) override {
-        Mark();
-        if (FAILED(com::Create(L"Vantrel.RecoveryWizard", wizard_)) || !HandRack(wizard_.Get())) return;
-        if (FAILED(wizard_->put_Repository(repository_.Get()))) return;
-        if (original_ && (FAILED(wizard_->put_Scenario(original_.Get())) ||
-                          FAILED(wizard_->put_ScenarioName(com::Bstr(name_).Get()))))
-            return;
+    bool Play(Actor& actor) override {
+        wizard_ = Start<IRecoveryWizard>(L"Vantrel.RecoveryWizard");
+        com::Check(wizard_->put_Repository(repository_.Get()));
+        if (original_) {
+            com::Check(wizard_->put_Scenario(original_.Get()));
+            com::Check(wizard_->put_ScenarioName(com::Bstr(name_).Get()));
+        }
         const HRESULT hr = actor.During([&] { return com::Query<IRecoveryDlg>(wizard_.Get())->DoModal(); },
-                                        [&](Player& player) {
-                                            const HWND wizard = player.First(kTitle);
-                                            Walk(player, wizard);
-                                        });
-        SetDone(hr == S_OK);
+                                        [&](Player& player) { Walk(player, player.First(kTitle)); });
         Promise(hr != S_OK || actor.GaveUp().empty(), "finished although the user gave up: " + actor.GaveUp());
-        if (hr == S_OK) Mark();
+        return hr == S_OK;
     }
-
     std::wstring State() override {
         com::Ptr<IUnknown> scenario;
         com::Bstr name;
@@ -174,37 +169,30 @@ class CrashWithProcess final : public WizardStage {
 };
 
 // From the first page to the last, with another name.
-class EditEachPage : public WizardStage {
-protected:
-    EditEachPage(const wchar_t* name, std::vector<const wchar_t*> pages) : WizardStage(name), pages_(std::move(pages)) {}
+class EditEachPage final : public WizardStage {
+public:
+    using Pages = std::vector<const wchar_t*>;
+    EditEachPage(const wchar_t* name, Pages pages) : WizardStage(name), pages_(std::move(pages)) {}
+
+private:
     void Walk(Player& player, HWND wizard) override {
         player.NextTo(wizard, kTriggers);
         for (const wchar_t* page : pages_) player.NextTo(wizard, page);
         player.NextTo(wizard, kOperations);
         Finish(player, wizard, L"Another name");
     }
-
-private:
-    std::vector<const wchar_t*> pages_;
+    Pages pages_;
 };
-struct EditPopup final : EditEachPage {
-    EditPopup() : EditEachPage(L"Pop-up", {L"Specify Pop-up Window Conditions"}) {}
-};
-struct EditState final : EditEachPage {
-    EditState() : EditEachPage(L"State", {L"Select Object", L"Set Object Properties and Values"}) {}
-};
-struct EditError final : EditEachPage {
-    EditError() : EditEachPage(L"Error", {L"Select Test Run Error"}) {}
-};
-struct EditCrash final : EditEachPage {
-    EditCrash() : EditEachPage(L"Crash", {L"Select Processes"}) {}
-};
+using Pages = EditEachPage::Pages;
 
 constexpr Journey kJourneys[] = {
-    {"wizard-popup", MakeStage<PopupWithKeys>}, {"wizard-error", MakeStage<ErrorWithFunction>},
-    {"wizard-crash", MakeStage<CrashWithProcess>}, {"edit-popup", MakeStage<EditPopup>},
-    {"edit-state", MakeStage<EditState>},       {"edit-error", MakeStage<EditError>},
-    {"edit-crash", MakeStage<EditCrash>},
+    {"wizard-popup", Make<PopupWithKeys>},
+    {"wizard-error", Make<ErrorWithFunction>},
+    {"wizard-crash", Make<CrashWithProcess>},
+    {"edit-popup", [] { return Make<EditEachPage>(L"Pop-up", Pages{L"Specify Pop-up Window Conditions"}); }},
+    {"edit-state", [] { return Make<EditEachPage>(L"State", Pages{L"Select Object", L"Set Object Properties and Values"}); }},
+    {"edit-error", [] { return Make<EditEachPage>(L"Error", Pages{L"Select Test Run Error"}); }},
+    {"edit-crash", [] { return Make<EditEachPage>(L"Crash", Pages{L"Select Processes"}); }},
 };
 
 }  // namespace
