@@ -50,6 +50,16 @@ void TreeRows(HWND tree, HTREEITEM item, int level, Rows& rows, std::vector<HTRE
     }
 }
 
+// Of a list box or a combo box, by its messages.
+Rows Texts(HWND list, UINT count, UINT length, UINT read) {
+    Rows rows(static_cast<size_t>(SendMessageW(list, count, 0, 0)));
+    for (size_t row = 0; row < rows.size(); ++row) {
+        rows[row].resize(static_cast<size_t>(SendMessageW(list, length, row, 0)));
+        SendMessageW(list, read, row, reinterpret_cast<LPARAM>(rows[row].data()));
+    }
+    return rows;
+}
+
 Rows Read(HWND list, std::vector<HTREEITEM>* items = nullptr) {
     Rows rows;
     switch (KindOf(list)) {
@@ -63,20 +73,8 @@ Rows Read(HWND list, std::vector<HTREEITEM>* items = nullptr) {
             }
             break;
         }
-        case Kind::ListBox:
-            for (int row = 0; row < ListBox_GetCount(list); ++row) {
-                std::wstring text(static_cast<size_t>(ListBox_GetTextLen(list, row)) + 1, L'\0');
-                text.resize(static_cast<size_t>(ListBox_GetText(list, row, text.data())));
-                rows.push_back(text);
-            }
-            break;
-        case Kind::Combo:
-            for (int row = 0; row < ComboBox_GetCount(list); ++row) {
-                std::wstring text(static_cast<size_t>(ComboBox_GetLBTextLen(list, row)) + 1, L'\0');
-                text.resize(static_cast<size_t>(ComboBox_GetLBText(list, row, text.data())));
-                rows.push_back(text);
-            }
-            break;
+        case Kind::ListBox: return Texts(list, LB_GETCOUNT, LB_GETTEXTLEN, LB_GETTEXT);
+        case Kind::Combo: return Texts(list, CB_GETCOUNT, CB_GETLBTEXTLEN, CB_GETLBTEXT);
         case Kind::Tree: TreeRows(list, TreeView_GetRoot(list), 0, rows, items); break;
     }
     return rows;

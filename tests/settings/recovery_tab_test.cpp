@@ -212,6 +212,8 @@ TEST_F(RecoveryTabTest, WhatIsRefusedStaysToBeWrittenAndReadOnlySettingsStayAsTh
         screen.Choose(frame, kList, L"A");
         screen.ToggleRow(frame, kList, L"A");
         screen.Press(frame, IDOK);
+        screen.Press(frame, IDC_RECOVERY_SET_DEFAULT);
+        EXPECT_EQ(Buttons(screen, frame).back(), '.') << "what is shown is the default now";
         screen.Press(frame, IDOK);
     });
     EXPECT_EQ(seen, (Seen{"OK", "Refused", "OK"}));

@@ -75,10 +75,6 @@ TEST_F(WizardHelpTest, EveryPageHasABoldTitleAndLeadsToItsTopic) {
         {Next, IDC_SELECT_TRIGGER_OBJECT_STATE, L"Select Object", topics::kSelectObject},
         {Next, 0, L"Set Object Properties and Values", topics::kObjectProps},
         {Next, 0, L"Recovery Operations", topics::kOperationList},
-        {Back, 0, L"Set Object Properties and Values", topics::kObjectProps},
-        {Back, 0, L"Select Object", topics::kSelectObject},
-        {Next, 0, L"Set Object Properties and Values", topics::kObjectProps},
-        {Next, 0, L"Recovery Operations", topics::kOperationList},
         {Next, 0, L"Recovery Operation", topics::kSelectOperation},
         {Next, IDC_SELECT_OPERATION_PROCESS, L"Recovery Operation - Close Processes",
          topics::kCloseProcesses},
@@ -91,6 +87,13 @@ TEST_F(WizardHelpTest, EveryPageHasABoldTitleAndLeadsToItsTopic) {
         {Next, IDC_OPERATION_LIST_ANOTHER, L"Post-Recovery Test Run Options", topics::kTestFlow},
         {Next, 0, L"Name and Description", topics::kScenDescription},
         {Next, 0, L"Completing the Recovery Scenario Wizard", topics::kSummary},
+        {Back, 0, L"Name and Description", topics::kScenDescription},
+        {Back, 0, L"Post-Recovery Test Run Options", topics::kTestFlow},
+        {Back, 0, L"Recovery Operations", topics::kOperationList},
+        {Back, 0, L"Set Object Properties and Values", topics::kObjectProps},
+        {Back, 0, L"Select Object", topics::kSelectObject},
+        {Back, 0, L"Select Trigger Event", topics::kSelectTrigger},
+        {Back, 0, L"Welcome to the Recovery Scenario Wizard", topics::kWelcome},
     };
     const auto trigger = New<IObjectStateRecoveryTrigger>(L"Vantrel.ObjectStateRecoveryTrigger");
     EXPECT_EQ(trigger->SetTestObject(FakeTestObject::LoginName().Get()), S_OK);

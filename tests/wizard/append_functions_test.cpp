@@ -69,18 +69,19 @@ BOOL WINAPI WriteOneByte(HANDLE file, LPCVOID bytes, DWORD, LPDWORD written, LPO
 }
 
 TEST_F(AppendFunctionsTest, WhatCannotBeWrittenIsAsItWasAndIsTold) {
-    const std::string marked = "'\x1A\x1A";  // as an old editor ended it
-    const auto library = Make(L"full.vbs", marked);
-    void* const before =
-        proof::PutImport(GetModuleHandleW(nullptr), "WriteFile", reinterpret_cast<void*>(&WriteOneByte));
-    ASSERT_NE(before, nullptr);
-    const auto notWritten = Append({library});
-    proof::PutImport(GetModuleHandleW(nullptr), "WriteFile", before);
-    EXPECT_EQ(notWritten, std::vector<std::wstring>{library});
-    EXPECT_EQ(Content(L"full.vbs"), marked);
-    EXPECT_EQ(Times(L"LibraryChanged"), 0u);
-    EXPECT_TRUE(Append({library}).empty());
-    EXPECT_EQ(Content(L"full.vbs"), kWritten);
+    for (const std::string original : {"'", "'\x1A\x1A"}) {  // the second as an old editor ended it
+        const auto library = Make(L"full.vbs", original);
+        void* const before =
+            proof::PutImport(GetModuleHandleW(nullptr), "WriteFile", reinterpret_cast<void*>(&WriteOneByte));
+        ASSERT_NE(before, nullptr);
+        const auto notWritten = Append({library});
+        proof::PutImport(GetModuleHandleW(nullptr), "WriteFile", before);
+        EXPECT_EQ(notWritten, std::vector<std::wstring>{library});
+        EXPECT_EQ(Content(L"full.vbs"), original);
+        EXPECT_EQ(Times(L"LibraryChanged"), 0u);
+        EXPECT_TRUE(Append({library}).empty());
+        EXPECT_EQ(Content(L"full.vbs"), kWritten);
+    }
 }
 
 TEST_F(AppendFunctionsTest, FilesOfTheTestManagementRepositoryAreHandedBack) {

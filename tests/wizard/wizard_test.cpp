@@ -114,26 +114,6 @@ TEST_F(WizardWalkTest, MakesAScenarioFromAPopUpAndTwoOperations) {
     EXPECT_TRUE(Called(L"S_OK: [0x00010011, 0x00010012, 0x00010044, 0x00030012, 0x00030011]"));
 }
 
-TEST_F(WizardWalkTest, BackWalksTheSameWayAndKeepsWhatWasEntered) {
-    const HRESULT result = Run([](UserScreen& screen, HWND wizard) {
-        GoToOperations(screen, wizard);
-        GoToOptions(screen, wizard, IDC_SELECT_OPERATION_CLICK);
-        GoToSummary(screen, wizard, L"Popup");
-        for (const wchar_t* title : {L"Name and Description", L"Post-Recovery Test Run Options",
-                                     L"Recovery Operations", L"Specify Pop-up Window Conditions",
-                                     L"Select Trigger Event", L"Welcome to the Recovery Scenario Wizard"}) {
-            screen.Back(wizard);
-            EXPECT_EQ(screen.PageTitle(wizard), title);
-            if (title == std::wstring_view(L"Name and Description")) {
-                EXPECT_EQ(screen.Text(wizard, IDC_SCEN_NAME), L"Popup");
-            }
-        }
-        screen.Keys({VK_ESCAPE});
-    });
-    EXPECT_EQ(result, S_FALSE);
-    EXPECT_FALSE(Scenario());
-}
-
 // Each failing call leaves the wizard on its page without a word; the next press succeeds.
 TEST_F(WizardWalkTest, StaysOnThePageWhenAHostCallFails) {
     using Calls = std::initializer_list<std::pair<const wchar_t*, const wchar_t*>>;
