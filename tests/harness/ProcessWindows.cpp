@@ -70,6 +70,12 @@ std::vector<HWND> Descendants(HWND window) {
     return windows;
 }
 
+HWND FindBox() {
+    for (const HWND window : TopLevelWindows())
+        if (IsWindowVisible(window) && ClassOf(window) == L"#32770" && GetDlgItem(window, kBoxText)) return window;
+    return nullptr;
+}
+
 std::wstring ClassOf(HWND window) {
     wchar_t name[256] = L"";
     GetClassNameW(window, name, 256);

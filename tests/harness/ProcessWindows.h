@@ -16,6 +16,9 @@ std::string Utf8(std::wstring_view text);
 std::vector<HWND> TopLevelWindows();
 std::vector<HWND> Descendants(HWND window);
 std::wstring ClassOf(HWND window);
+// An open message box, whose text has a number of its own; null when there is none.
+inline constexpr int kBoxText = 0xFFFF;
+HWND FindBox();
 // Empty when the window does not answer in time.
 std::wstring TextOf(HWND window);
 

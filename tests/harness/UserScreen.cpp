@@ -15,7 +15,6 @@ namespace {
 
 constexpr DWORD kStepLimit = 15000;
 constexpr UINT kGetMenuOfWindow = 0x1E1;  // MN_GETHMENU
-constexpr int kBoxText = 0xFFFF;
 // The file dialog's place for a name: an edit box, or one in a box in a list.
 constexpr int kFileNameEdit = 0x480, kFileNameList = 0x47C;
 
@@ -80,13 +79,7 @@ void UserScreen::WaitUntilClosed(HWND window) {
 
 HWND UserScreen::WaitForBox() {
     HWND box = nullptr;
-    WaitUntil("a message box", [&] {
-        for (const HWND window : TopLevelWindows()) {
-            if (IsWindowVisible(window) && ClassOf(window) == L"#32770" && GetDlgItem(window, kBoxText))
-                box = window;
-        }
-        return box != nullptr;
-    });
+    WaitUntil("a message box", [&] { return (box = FindBox()) != nullptr; });
     return box;
 }
 

@@ -8,18 +8,9 @@ namespace recoveryui::proof {
 namespace {
 
 constexpr int kTries = 3;
-constexpr int kBoxText = 0xFFFF;
 constexpr ULONGLONG kHang = 5000;
 // What the harness says when the message loop stands still.
 constexpr const char* kStandsStill = "the windows do not answer";
-
-HWND FindBox() {
-    for (const HWND window : test::TopLevelWindows()) {
-        if (IsWindowVisible(window) && test::ClassOf(window) == L"#32770" && GetDlgItem(window, kBoxText))
-            return window;
-    }
-    return nullptr;
-}
 
 }  // namespace
 
@@ -36,9 +27,9 @@ HWND Player::First(const wchar_t* title, const wchar_t* windowClass) {
 }
 
 bool Player::ReadBoxAway() {
-    const HWND box = FindBox();
+    const HWND box = test::FindBox();
     if (!box) return false;
-    const std::wstring caption = test::TextOf(box), text = test::TextOf(GetDlgItem(box, kBoxText));
+    const std::wstring caption = test::TextOf(box), text = test::TextOf(GetDlgItem(box, test::kBoxText));
     actor_.boxes_.push_back(text);
     if (caption != L"Tovarin" && !caption.empty())
         actor_.problems_.push_back("an unexpected message: " + test::Utf8(caption) + ": " + test::Utf8(text));
@@ -88,21 +79,13 @@ void Player::Fill(HWND window, int id, const std::wstring& text) {
     });
 }
 
-void Player::GiveFile(const wchar_t* caption, const std::wstring& path) {
-    constexpr int kFileName = 0x47C;  // the number of the list, of the box in it and of the edit in that
-    const HWND dialog = WaitForWindow(caption);
-    Enter(Control(Control(dialog, kFileName), kFileName), kFileName, path);
-    Do([=] { PostMessageW(GetDlgItem(dialog, IDOK), BM_CLICK, 0, 0); });
-    WaitUntilClosed(dialog);
-}
-
 bool Player::CloseWithAnswer(HWND window, WORD answer) {
     bool asked = false;
     Try([&] {
         if (!IsWindow(window)) return;
         Press(window, IDCANCEL);
-        WaitUntil("an end or a question", [&] { return !IsWindow(window) || FindBox(); });
-        const HWND box = IsWindow(window) ? FindBox() : nullptr;
+        WaitUntil("an end or a question", [&] { return !IsWindow(window) || test::FindBox(); });
+        const HWND box = IsWindow(window) ? test::FindBox() : nullptr;
         if (!box || !GetDlgItem(box, answer)) return;
         asked = true;
         Press(box, answer);

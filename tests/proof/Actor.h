@@ -29,8 +29,6 @@ public:
     void Leave(HWND window, int button);
     // The whole text of an edit box, seen to be there.
     void Fill(HWND window, int id, const std::wstring& text);
-    // Types a path into the platform's file dialog and confirms it.
-    void GiveFile(const wchar_t* caption, const std::wstring& path);
     // Closes a window that may ask a question first; true when it did.
     bool CloseWithAnswer(HWND window, WORD answer);
 

@@ -16,11 +16,6 @@ namespace {
 constexpr DWORD kPatience = 15'000;
 constexpr long kWarmUp = 5;
 
-void RunPendingMessages() {
-    MSG message;
-    while (PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE)) DispatchMessageW(&message);
-}
-
 void OpenAndClose(Openings& openings, size_t dialog, long rounds, bool plantLeak) {
     for (long round = 0; round < rounds; ++round) {
         test::RestartWatchdog();

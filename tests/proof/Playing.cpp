@@ -10,16 +10,12 @@
 #include "com/Create.h"
 #include "com/Guard.h"
 #include "harness/ProcessWindows.h"
+#include "proof/Scene.h"
 
 namespace recoveryui::proof {
 namespace {
 
 constexpr DWORD kPatient = 10'000, kImpatient = 150;
-
-void RunPendingMessages() {
-    MSG message;
-    while (PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE)) DispatchMessageW(&message);
-}
 
 // The faults of one playing, on both sides of the border.
 class Order {

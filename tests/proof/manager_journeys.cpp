@@ -101,7 +101,6 @@ class ReplaceInFile final : public ManagerStage {
 
 class MakeInManager final : public ManagerStage {
     void Manage(Player& player, HWND manager) override {
-        constexpr int kFinish = 0x3025;
         Open(player, manager, work_);
         HWND wizard = nullptr;
         player.Try([&] {

@@ -11,8 +11,6 @@
 namespace recoveryui::proof {
 namespace {
 
-constexpr int kEditOfCombo = 1001;
-
 void ChooseAll(Player& player, HWND dialog, const std::wstring& file) {
     player.Try([&] {
         player.Enter(dialog, kEditOfCombo, file);

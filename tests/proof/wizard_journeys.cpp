@@ -8,7 +8,6 @@
 namespace recoveryui::proof {
 namespace {
 
-constexpr int kFinish = 0x3025, kEditOfCombo = 1001;
 constexpr wchar_t kTitle[] = L"Recovery Scenario Wizard", kTriggers[] = L"Select Trigger Event",
                   kOperations[] = L"Recovery Operations", kTypes[] = L"Recovery Operation",
                   kFlow[] = L"Post-Recovery Test Run Options", kName[] = L"Name and Description",
