@@ -8,9 +8,10 @@ std::optional<std::wstring> WithScenarios(std::wstring_view stored, const std::w
                                           std::span<const std::wstring> names,
                                           const model::PathConversion& toFull,
                                           const model::PathConversion& toStored) {
-    std::vector<model::ScenarioAssociation> records = model::ReadRecords(stored, toFull);
+    model::Texts paths;
+    std::vector<model::ScenarioAssociation> records = model::ReadRecords(stored, toFull, paths);
     const std::int32_t mode = records.empty() ? model::kModeEveryStep : records.front().ActivationMode;
-    std::unordered_set<std::wstring> present;
+    std::unordered_set<std::wstring_view> present;
     for (const model::ScenarioAssociation& record : records)
         if (record.file == file) present.insert(record.name);
     const std::size_t before = records.size();

@@ -1,6 +1,7 @@
 #include "model/RecordString.h"
 
 #include <algorithm>
+#include <cstring>
 #include <limits>
 
 namespace recoveryui::model {
@@ -15,22 +16,32 @@ constexpr std::size_t kLongestRest = 13;  // ";" three times, enabled, eight dig
 // separator is skipped, so a stray "*" after a record becomes part of the next file.
 class Tokens {
 public:
-    explicit Tokens(std::wstring_view text) : rest_(text) {}
+    explicit Tokens(std::wstring_view text) : at_(text.data()), end_(at_ + text.size()) {}
 
-    std::optional<std::wstring_view> Next(wchar_t separator) {
-        const std::size_t start = rest_.find_first_not_of(separator);
-        if (start == std::wstring_view::npos) {
-            rest_ = {};
-            return std::nullopt;
+    // `likely` is an earlier token of the same separator: most files are that of the record before.
+    std::optional<std::wstring_view> Next(wchar_t separator, std::wstring_view likely = {}) {
+        while (at_ != end_ && *at_ == separator) ++at_;
+        if (at_ == end_) return std::nullopt;
+        if (Follows(likely) && at_[likely.size()] == separator) {
+            at_ += likely.size() + 1;
+            return likely;
         }
-        rest_.remove_prefix(start);
-        const std::wstring_view token = rest_.substr(0, rest_.find(separator));
-        rest_.remove_prefix(token.size() < rest_.size() ? token.size() + 1 : token.size());
+        const wchar_t* const start = at_;
+        while (at_ != end_ && *at_ != separator) ++at_;
+        const std::wstring_view token(start, static_cast<std::size_t>(at_ - start));
+        if (at_ != end_) ++at_;
         return token;
     }
 
 private:
-    std::wstring_view rest_;
+    // Never at the very end, so that a character more can be looked at.
+    bool Follows(std::wstring_view token) const {
+        return !token.empty() && token.size() < static_cast<std::size_t>(end_ - at_) &&
+               std::memcmp(at_, token.data(), token.size() * sizeof(wchar_t)) == 0;
+    }
+
+    const wchar_t* at_;
+    const wchar_t* end_;
 };
 
 unsigned DigitValue(wchar_t c) {
@@ -67,7 +78,8 @@ std::uint32_t NumericPrefix(std::wstring_view text, unsigned base) {
 void AppendRest(std::wstring& text, bool enabled, std::uint32_t mode) {
     wchar_t rest[kLongestRest];
     wchar_t* end = rest;
-    for (const wchar_t character : {kBetweenFields, enabled ? L'1' : L'0', kBetweenFields}) *end++ = character;
+    for (const wchar_t character : {kBetweenFields, enabled ? L'1' : L'0', kBetweenFields})
+        *end++ = character;
     int shift = 28;
     while (shift > 0 && (mode >> shift) == 0) shift -= 4;
     for (; shift >= 0; shift -= 4) *end++ = L"0123456789abcdef"[(mode >> shift) & 0xF];
@@ -78,39 +90,54 @@ void AppendRest(std::wstring& text, bool enabled, std::uint32_t mode) {
 // Remembers the last path: the records of a test come in runs of one file.
 class Converter {
 public:
-    explicit Converter(const PathConversion& conversion) : conversion_(conversion) {}
+    Converter(const PathConversion& conversion, Texts& converted)
+        : conversion_(conversion), converted_(converted) {}
 
-    const std::wstring& operator()(std::wstring_view path) {
-        if (!known_ || path != from_) {
-            from_ = path;
-            to_ = conversion_ ? conversion_(from_) : std::wstring();
-            if (to_.empty()) to_ = from_;
-            known_ = true;
+    std::wstring_view From() const { return from_; }
+    std::wstring_view operator()(std::wstring_view path) {
+        const bool same = path.size() == from_.size() && (path.data() == from_.data() || path == from_);
+        if (!same) {
+            from_ = to_ = path;
+            std::wstring converted = conversion_ ? conversion_(std::wstring(path)) : std::wstring();
+            if (!converted.empty()) to_ = converted_.emplace_front(std::move(converted));
         }
         return to_;
     }
 
 private:
     const PathConversion& conversion_;
-    bool known_ = false;
-    std::wstring from_;
-    std::wstring to_;
+    Texts& converted_;
+    std::wstring_view from_;
+    std::wstring_view to_;
 };
+
+// About as many records as the text holds, going by its beginning: to count them all costs a pass over it.
+std::size_t LikelyCount(std::wstring_view text) {
+    constexpr std::size_t kSample = 4096;
+    const std::wstring_view sample = text.substr(0, kSample);
+    const auto ends = static_cast<std::size_t>(std::count(sample.begin(), sample.end(), kAfterRecord));
+    return std::min(ends * (text.size() / kSample + 1), text.size() / kShortestRecord) + 1;
+}
 
 }  // namespace
 
-std::vector<ScenarioAssociation> ReadRecords(std::wstring_view text, const PathConversion& toFull) {
+std::vector<ScenarioAssociation> ReadRecords(std::wstring_view text) {
+    Texts none;
+    return ReadRecords(text, {}, none);
+}
+
+std::vector<ScenarioAssociation> ReadRecords(std::wstring_view text, const PathConversion& toFull,
+                                             Texts& paths) {
     std::vector<ScenarioAssociation> records;
-    const auto ends = static_cast<std::size_t>(std::count(text.begin(), text.end(), kAfterRecord));
-    records.reserve(std::min(ends, text.size() / kShortestRecord) + 1);
+    records.reserve(LikelyCount(text));
     Tokens tokens(text);
-    Converter fullPath(toFull);
-    while (const auto file = tokens.Next(kBetweenFields)) {
+    Converter fullPath(toFull, paths);
+    while (const auto file = tokens.Next(kBetweenFields, fullPath.From())) {
         const auto name = tokens.Next(kBetweenFields);
         const auto enabled = tokens.Next(kBetweenFields);
         const auto mode = tokens.Next(kAfterRecord);
         if (!name || !enabled || !mode) break;
-        records.push_back({fullPath(*file), std::wstring(*name), NumericPrefix(*enabled, 10) == 1,
+        records.push_back({fullPath(*file), *name, NumericPrefix(*enabled, 10) == 1,
                            static_cast<std::int32_t>(NumericPrefix(*mode, 16))});
     }
     return records;
@@ -123,7 +150,8 @@ std::wstring WriteRecords(std::span<const ScenarioAssociation> records, std::opt
         length += record.file.size() + record.name.size() + kLongestRest;
     std::wstring text;
     text.reserve(length);
-    Converter storedPath(toStored);
+    Texts paths;
+    Converter storedPath(toStored, paths);
     for (const ScenarioAssociation& record : records) {
         text += storedPath(record.file);
         text += kBetweenFields;

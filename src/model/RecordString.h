@@ -1,5 +1,6 @@
 #pragma once
 
+#include <forward_list>
 #include <functional>
 #include <optional>
 #include <span>
@@ -14,9 +15,17 @@ namespace recoveryui::model {
 // Turns the stored form of a path into the full one, or back; empty means "keep the path as it is".
 using PathConversion = std::function<std::wstring(const std::wstring&)>;
 
-// The complete records of a stored string, in order; what follows the first incomplete one is dropped.
-// Neighbours of the same file share one call of `toFull`.
-std::vector<ScenarioAssociation> ReadRecords(std::wstring_view text, const PathConversion& toFull = {});
+// Texts that stay where they are while others are added.
+using Texts = std::forward_list<std::wstring>;
+
+// The complete records of a stored string, in order; what follows the first incomplete one is dropped. Their
+// texts are parts of `text`.
+std::vector<ScenarioAssociation> ReadRecords(std::wstring_view text);
+
+// The same with full paths, which are added to `paths`. Neighbours of the same file share one call of
+// `toFull`.
+std::vector<ScenarioAssociation> ReadRecords(std::wstring_view text, const PathConversion& toFull,
+                                             Texts& paths);
 
 // The string to store. `mode` overrides the records' own modes.
 std::wstring WriteRecords(std::span<const ScenarioAssociation> records,

@@ -1,7 +1,7 @@
 #pragma once
 
 #include <cstdint>
-#include <string>
+#include <string_view>
 
 namespace recoveryui::model {
 
@@ -9,10 +9,11 @@ namespace recoveryui::model {
 inline constexpr std::int32_t kModeEveryStep = -1;
 inline constexpr std::int32_t kModeOnError = 1;
 
-// One scenario associated with a test; a test's list of them is ordered.
+// One scenario associated with a test; a test's list of them is ordered. The texts belong to whoever holds
+// the list: two of its own for each record would cost ten times what reading it takes.
 struct ScenarioAssociation {
-    std::wstring file;
-    std::wstring name;
+    std::wstring_view file;
+    std::wstring_view name;
     bool enabled = true;
     std::int32_t ActivationMode = kModeOnError;
 

@@ -1,34 +1,36 @@
 #include "settings/AssociationList.h"
 
+#include <algorithm>
 #include <utility>
 
 namespace recoveryui::settings {
 
-AssociationList::AssociationList(std::vector<ScenarioAssociation> items) : items_(std::move(items)) {
-    for (const ScenarioAssociation& item : items_) Remember(item);
+AssociationList::AssociationList(std::vector<ScenarioAssociation> items, model::Texts texts)
+    : items_(std::move(items)), texts_(std::move(texts)) {
+    for (const ScenarioAssociation& item : items_) names_.insert(item.name);
 }
 
 AddResult AssociationList::Add(const std::wstring& file, const std::wstring& name) {
-    const auto known = filesByName_.find(name);
-    const bool nameKnown = known != filesByName_.end();
-    if (nameKnown && known->second.contains(file)) return AddResult::AlreadyAssociated;
-    items_.push_back({file, name});
-    Remember(items_.back());
+    const bool nameKnown = names_.contains(name);
+    const auto same = [&](const ScenarioAssociation& item) { return item.name == name && item.file == file; };
+    if (nameKnown && std::any_of(items_.begin(), items_.end(), same)) return AddResult::AlreadyAssociated;
+    items_.push_back({texts_.emplace_front(file), texts_.emplace_front(name)});
+    names_.insert(items_.back().name);
     return nameKnown ? AddResult::AddedFromOtherFile : AddResult::Added;
 }
 
 Removal AssociationList::Remove(int row) {
     if (!Has(row)) return {{}, row};
     const ScenarioAssociation removed = items_[row];
+    const auto same = [&](const ScenarioAssociation& item) {
+        return item.name == removed.name && item.file == removed.file;
+    };
     Removal removal;
     for (int i = Size() - 1; i >= 0; --i)
-        if (items_[i].name == removed.name && items_[i].file == removed.file) removal.rows.push_back(i);
-    std::erase_if(items_, [&](const ScenarioAssociation& item) {
-        return item.name == removed.name && item.file == removed.file;
-    });
-    const auto known = filesByName_.find(removed.name);
-    known->second.erase(removed.file);
-    if (known->second.empty()) filesByName_.erase(known);
+        if (same(items_[i])) removal.rows.push_back(i);
+    std::erase_if(items_, same);
+    const auto sameName = [&](const ScenarioAssociation& item) { return item.name == removed.name; };
+    if (std::none_of(items_.begin(), items_.end(), sameName)) names_.erase(removed.name);
     removal.select = model::RowAfterRemoval(row, Size());
     return removal;
 }

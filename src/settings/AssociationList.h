@@ -2,10 +2,10 @@
 
 #include <optional>
 #include <string>
-#include <unordered_map>
 #include <unordered_set>
 #include <vector>
 
+#include "model/RecordString.h"
 #include "model/RowRules.h"
 #include "model/ScenarioAssociation.h"
 
@@ -26,7 +26,10 @@ struct Removal {
 class AssociationList {
 public:
     AssociationList() = default;
-    explicit AssociationList(std::vector<ScenarioAssociation> items);
+    // Takes the items and the texts that they are parts of.
+    explicit AssociationList(std::vector<ScenarioAssociation> items, model::Texts texts = {});
+    AssociationList(AssociationList&&) = default;
+    AssociationList& operator=(AssociationList&&) = default;
 
     // Appends an enabled association unless this file's scenario is there already.
     AddResult Add(const std::wstring& file, const std::wstring& name);
@@ -45,10 +48,9 @@ public:
     bool Has(int row) const { return row >= 0 && row < Size(); }
 
 private:
-    void Remember(const ScenarioAssociation& item) { filesByName_[item.name].insert(item.file); }
-
     std::vector<ScenarioAssociation> items_;
-    std::unordered_map<std::wstring, std::unordered_set<std::wstring>> filesByName_;
+    model::Texts texts_;
+    std::unordered_set<std::wstring_view> names_;
 };
 
 }  // namespace recoveryui::settings

@@ -73,7 +73,7 @@ int AssociationView::LongestName() const {
     for (const ScenarioAssociation& item : list_.Items()) {
         // Names with fewer letters are hardly ever wider.
         if (item.name.size() * 4 < most * 3) continue;
-        widest = std::max(widest, ListView_GetStringWidth(view_.Window(), item.name.c_str()));
+        widest = std::max(widest, ListView_GetStringWidth(view_.Window(), std::wstring(item.name).c_str()));
         if (--left == 0) break;
     }
     return widest;
@@ -103,8 +103,8 @@ void AssociationView::Show(LVITEMW& item) const {
     if (!list_.Has(item.iItem)) return;
     const ScenarioAssociation& shown = list_.Items()[item.iItem];
     if (item.mask & LVIF_TEXT) {
-        const std::wstring& text = item.iSubItem == kFileColumn ? shown.file : shown.name;
-        item.pszText = const_cast<LPWSTR>(text.c_str());
+        text_ = item.iSubItem == kFileColumn ? shown.file : shown.name;
+        item.pszText = text_.data();
     }
     if (item.mask & LVIF_STATE) {
         item.state = INDEXTOSTATEIMAGEMASK(shown.enabled ? kChecked : kUnchecked);

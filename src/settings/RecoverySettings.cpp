@@ -34,7 +34,10 @@ void RecoverySettings::Load(IObjectRack* rack) {
     defaults_ = options_ ? options_->ReadText(options::kDefaultScenarios) : std::nullopt;
     const auto enabled = options_ ? options_->ReadInteger(options::kEnabled) : std::nullopt;
     changed_ = false;
-    list = AssociationList(model::ReadRecords(current_.value_or(std::wstring()), toFull_));
+    model::Texts texts;
+    texts.push_front(current_.value_or(std::wstring()));
+    auto records = model::ReadRecords(texts.front(), toFull_, texts);
+    list = AssociationList(std::move(records), std::move(texts));
     activation = model::ActivationOnReading(enabled, list.Items());
 }
 

@@ -38,8 +38,8 @@ void ShowProperties(IObjectRack* rack, const model::ScenarioAssociation& shown) 
     model::Repository repository;
     com::Ptr<IUnknown> scenario;
     com::Check(model::Repository::Create(rack, repository));
-    com::Check(repository.Load(shown.file, true));
-    com::Check(repository.Scenario(shown.name, scenario));
+    com::Check(repository.Load(std::wstring(shown.file), true));
+    com::Check(repository.Scenario(std::wstring(shown.name), scenario));
     com::Ptr<IScenarioProperties> sheet;
     com::Check(com::Create(L"Vantrel.ScenarioProperties", sheet));
     com::Check(shell::HandRack(sheet.Get(), rack));

@@ -7,10 +7,10 @@ namespace recoveryui::settings {
 
 const ScenarioLook& ScenarioLooks::Of(const ScenarioAssociation& shown, const AssociationList& all) {
     static const ScenarioLook kUnreadable;
-    const auto known = files_.try_emplace(shown.file);
-    File& file = known.first->second;
-    if (known.second) Read(shown.file, all, file);
-    const auto look = file.find(shown.name);
+    const auto [known, isNew] = files_.try_emplace(std::wstring(shown.file));
+    File& file = known->second;
+    if (isNew) Read(known->first, all, file);
+    const auto look = file.find(std::wstring(shown.name));
     return look == file.end() ? kUnreadable : look->second;
 }
 
@@ -20,11 +20,11 @@ void ScenarioLooks::Read(const std::wstring& path, const AssociationList& all, F
         return;
     for (const ScenarioAssociation& item : all.Items()) {
         com::Ptr<IUnknown> scenario;
-        if (item.file != path || file.contains(item.name) || FAILED(repository.Scenario(item.name, scenario)))
-            continue;
+        if (item.file != path) continue;
+        const std::wstring name(item.name);
+        if (file.contains(name) || FAILED(repository.Scenario(name, scenario))) continue;
         const auto kind = model::TriggerKindOf(scenario.Get());
-        file[item.name] = {kind ? static_cast<int>(*kind) : kIconUnreadable,
-                           model::DescriptionOf(scenario.Get())};
+        file[name] = {kind ? static_cast<int>(*kind) : kIconUnreadable, model::DescriptionOf(scenario.Get())};
     }
 }
 

@@ -102,7 +102,8 @@ TEST(RecordString, ConvertsPathsBothWaysAndKeepsThemWhereThatFails) {
         return path.starts_with(L"C:\\") ? path.substr(3) : std::wstring();
     };
     const std::wstring text = L"a;1;1;1*lost;2;1;1*a;3;1;1*";
-    const Records read = ReadRecords(text, toFull);
+    Texts paths;
+    const Records read = ReadRecords(text, toFull, paths);
     ASSERT_EQ(read.size(), 3u);
     EXPECT_EQ(read[0].file, L"C:\\a");
     EXPECT_EQ(read[1].file, L"lost");
@@ -114,7 +115,8 @@ TEST(RecordString, APathIsConvertedOncePerRunOfRecords) {
     const Records many(100'000, {L"C:\\Tests\\common.trs", L"Popup", true, -1});
     int asked = 0;
     const auto count = [&asked](const std::wstring& path) { return ++asked, path; };
-    EXPECT_EQ(ReadRecords(WriteRecords(many, -1, count), count).size(), many.size());
+    Texts paths;
+    EXPECT_EQ(ReadRecords(WriteRecords(many, -1, count), count, paths).size(), many.size());
     EXPECT_EQ(asked, 2);
 }
 
