@@ -121,11 +121,6 @@ std::size_t LikelyCount(std::wstring_view text) {
 
 }  // namespace
 
-std::vector<ScenarioAssociation> ReadRecords(std::wstring_view text) {
-    Texts none;
-    return ReadRecords(text, {}, none);
-}
-
 std::vector<ScenarioAssociation> ReadRecords(std::wstring_view text, const PathConversion& toFull,
                                              Texts& paths) {
     std::vector<ScenarioAssociation> records;

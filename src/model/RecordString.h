@@ -19,13 +19,16 @@ using PathConversion = std::function<std::wstring(const std::wstring&)>;
 using Texts = std::forward_list<std::wstring>;
 
 // The complete records of a stored string, in order; what follows the first incomplete one is dropped. Their
-// texts are parts of `text`.
-std::vector<ScenarioAssociation> ReadRecords(std::wstring_view text);
-
-// The same with full paths, which are added to `paths`. Neighbours of the same file share one call of
-// `toFull`.
+// texts are parts of `text`, or full paths that are added to `paths`. Neighbours of the same file share one
+// call of `toFull`.
 std::vector<ScenarioAssociation> ReadRecords(std::wstring_view text, const PathConversion& toFull,
                                              Texts& paths);
+
+// The same with the paths as they stand.
+inline std::vector<ScenarioAssociation> ReadRecords(std::wstring_view text) {
+    Texts none;
+    return ReadRecords(text, {}, none);
+}
 
 // The string to store. `mode` overrides the records' own modes.
 std::wstring WriteRecords(std::span<const ScenarioAssociation> records,

@@ -28,7 +28,6 @@ public:
     AssociationList() = default;
     // Takes the items and the texts that they are parts of.
     explicit AssociationList(std::vector<ScenarioAssociation> items, model::Texts texts = {});
-    AssociationList(AssociationList&&) = default;
     AssociationList& operator=(AssociationList&&) = default;
 
     // Appends an enabled association unless this file's scenario is there already.

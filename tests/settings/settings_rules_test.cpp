@@ -21,7 +21,7 @@ TEST(RecoveryTab, TheSameScenarioOfTheSameFileIsAddedOnce) {
     };
     for (const auto& a : added) EXPECT_EQ(list.Add(a.file, a.name), a.result) << &a - added;
     std::wstring shown;
-    for (const auto& item : list.Items()) shown += item.file + L"/" + item.name + L" ";
+    for (const auto& item : list.Items()) shown.append(item.file).append(L"/").append(item.name).append(L" ");
     EXPECT_EQ(shown, L"f/A f/B g/A f/a F/A g/B ");
     list.Remove(0);
     EXPECT_EQ(list.Add(L"f", L"A"), AddResult::AddedFromOtherFile) << "removed, it can be added again";
