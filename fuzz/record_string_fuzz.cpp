@@ -29,10 +29,12 @@ void ReadAndWrite(const std::wstring& text) {
 
 void WriteAndRead(Input input) {
     std::vector<ScenarioAssociation> records;
+    model::Texts texts;
     while (!input.Empty() && records.size() < 50) {
         const bool enabled = input.Byte() % 2 != 0;
         const auto mode = static_cast<std::int32_t>(input.Number());
-        records.push_back({Field(input.Line()), Field(input.Line()), enabled, mode});
+        const std::wstring& file = texts.emplace_front(Field(input.Line()));
+        records.push_back({file, texts.emplace_front(Field(input.Line())), enabled, mode});
     }
     const std::wstring text = WriteRecords(records);
     Require(ReadRecords(text) == records, "no record is lost");

@@ -74,17 +74,19 @@ std::uint32_t NumericPrefix(std::wstring_view text, unsigned base) {
     return negative ? 0u - number : number;
 }
 
+wchar_t* Put(wchar_t* to, std::wstring_view text) {
+    std::memcpy(to, text.data(), text.size() * sizeof(wchar_t));
+    return to + text.size();
+}
+
 // What follows the name.
-void AppendRest(std::wstring& text, bool enabled, std::uint32_t mode) {
-    wchar_t rest[kLongestRest];
-    wchar_t* end = rest;
-    for (const wchar_t character : {kBetweenFields, enabled ? L'1' : L'0', kBetweenFields})
-        *end++ = character;
+wchar_t* PutRest(wchar_t* to, bool enabled, std::uint32_t mode) {
+    for (const wchar_t character : {kBetweenFields, enabled ? L'1' : L'0', kBetweenFields}) *to++ = character;
     int shift = 28;
     while (shift > 0 && (mode >> shift) == 0) shift -= 4;
-    for (; shift >= 0; shift -= 4) *end++ = L"0123456789abcdef"[(mode >> shift) & 0xF];
-    *end++ = kAfterRecord;
-    text.append(rest, end);
+    for (; shift >= 0; shift -= 4) *to++ = L"0123456789abcdef"[(mode >> shift) & 0xF];
+    *to++ = kAfterRecord;
+    return to;
 }
 
 // Remembers the last path: the records of a test come in runs of one file.
@@ -140,19 +142,24 @@ std::vector<ScenarioAssociation> ReadRecords(std::wstring_view text, const PathC
 
 std::wstring WriteRecords(std::span<const ScenarioAssociation> records, std::optional<std::int32_t> mode,
                           const PathConversion& toStored) {
-    std::size_t length = 0;
+    std::size_t expected = 0;  // where no path becomes longer
     for (const ScenarioAssociation& record : records)
-        length += record.file.size() + record.name.size() + kLongestRest;
-    std::wstring text;
-    text.reserve(length);
+        expected += record.file.size() + record.name.size() + kLongestRest;
+    std::wstring text(expected, L'\0');
+    std::size_t length = 0;
     Texts paths;
     Converter storedPath(toStored, paths);
     for (const ScenarioAssociation& record : records) {
-        text += storedPath(record.file);
-        text += kBetweenFields;
-        text += record.name;
-        AppendRest(text, record.enabled, static_cast<std::uint32_t>(mode.value_or(record.ActivationMode)));
+        const std::wstring_view path = storedPath(record.file);
+        const std::size_t most = length + path.size() + record.name.size() + kLongestRest;
+        if (most > text.size()) text.resize(2 * most);
+        wchar_t* to = Put(text.data() + length, path);
+        *to++ = kBetweenFields;
+        to = Put(to, record.name);
+        to = PutRest(to, record.enabled, static_cast<std::uint32_t>(mode.value_or(record.ActivationMode)));
+        length = static_cast<std::size_t>(to - text.data());
     }
+    text.resize(length);
     return text;
 }
 
