@@ -64,6 +64,7 @@ com::Ptr<IUnknown> HostServices::FindObject(std::wstring_view name) const {
 // Services hold the rack and the rack holds them: what was put in is taken out again.
 HostServices::~HostServices() {
     addIns_->DisconnectAll();
+    pages_->Forget();
     static_cast<void>(com::Guarded([&] {
         for (const Content& content : contents_) rack_->RemoveObject(com::Bstr(content.name).Get());
         frameRack_->RemoveObject(com::Bstr(kPages).Get());

@@ -22,6 +22,9 @@ public:
     // fails has none.
     std::vector<CLSID> Classes() const;
 
+    // Lets go of providers that nobody took out.
+    void Forget() noexcept { providers_.clear(); }
+
 private:
     std::vector<com::Ptr<ISpecifyPropertyPages>> providers_;
 };
