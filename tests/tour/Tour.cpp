@@ -11,7 +11,6 @@ namespace recoveryui::tour {
 namespace {
 
 constexpr unsigned kPatienceSeconds = 120;
-constexpr int kFileDialogName = 0x47C;
 
 // The script's thread is another program as far as recovery files are concerned.
 struct Apartment {
@@ -79,16 +78,6 @@ void Tour::ChooseFromMenuBar(UserScreen& screen, HWND host, wchar_t letter, cons
 HWND Tour::OpenManager(UserScreen& screen, HWND host, const wchar_t* picture) {
     ChooseFromMenuBar(screen, host, L'r', L"Recovery Scenario &Manager...", picture);
     return screen.WaitForWindow(L"Recovery Scenario Manager");
-}
-
-void Tour::GiveFile(UserScreen& screen, const wchar_t* caption, const std::wstring& path, const wchar_t* picture) {
-    const HWND dialog = screen.WaitForWindow(caption);
-    // Its list of files has the id of the OK button, and three nested controls share that of the name.
-    const HWND outer = GetDlgItem(dialog, kFileDialogName);
-    const HWND edit = GetWindow(GetWindow(outer, GW_CHILD), GW_CHILD);
-    screen.Do([&] { SetWindowTextW(edit, path.c_str()); });
-    if (picture) screen.Picture(dialog, picture);
-    screen.Do([&] { PostMessageW(GetDlgItem(dialog, IDOK), BM_CLICK, 0, 0); });
 }
 
 Rows Tour::NamesInFile(const std::wstring& path) {

@@ -37,9 +37,6 @@ protected:
     static void ChooseFromMenuBar(UserScreen& screen, HWND host, wchar_t letter, const std::wstring& item,
                                   const wchar_t* picture = nullptr);
     static HWND OpenManager(UserScreen& screen, HWND host, const wchar_t* picture = nullptr);
-    // Answers the platform's file dialog of that caption.
-    static void GiveFile(UserScreen& screen, const wchar_t* caption, const std::wstring& path,
-                         const wchar_t* picture = nullptr);
     // What another program reads from a recovery file: the names of its scenarios.
     static Rows NamesInFile(const std::wstring& path);
     static HRESULT OpenForEditing(const std::wstring& path);

@@ -21,7 +21,7 @@ class Afternoon : public Tour {
 protected:
     static void Open(UserScreen& screen, HWND manager, const wchar_t* file) {
         screen.Press(manager, IDC_MANAGER_OPEN);
-        GiveFile(screen, L"Open Recovery File", FileIn(file));
+        screen.GiveFile(L"Open Recovery File", FileIn(file));
     }
 
     Afternoon() {
@@ -42,6 +42,11 @@ TEST_F(Afternoon, NothingIsLostBetweenFilesRivalsDamageAndAFullDisk) {
         screen.Choose(manager, IDC_MANAGER_LIST, L"Error message");
         screen.Press(manager, IDC_MANAGER_COPY);
         Open(screen, manager, L"second.trs");
+        screen.Do([manager] { SetFocus(GetDlgItem(manager, IDC_MANAGER_OPEN)); });
+        screen.Keys({VK_F4});
+        EXPECT_EQ(screen.MenuItems().at(2), FileIn(L"second.trs")) << "the file opened last comes first";
+        screen.Picture(manager, L"26-recent-files");
+        screen.ChooseMenu({});
         screen.Press(manager, IDC_MANAGER_PASTE);
         const HWND question = screen.WaitForWindow(L"Tovarin");
         screen.Picture(question, L"20-replace-question");

@@ -124,7 +124,7 @@ TEST_F(EveryKind, IsMadeStoredAndReadBack) {
         FinishAs(screen, wizard, L"4 Crash", L"Keyboard click | Enter");
 
         screen.Press(manager, IDC_MANAGER_SAVE);
-        GiveFile(screen, L"Save Recovery File", file_);
+        screen.GiveFile(L"Save Recovery File", file_);
         screen.Press(screen.WaitForWindow(L"Recovery Scenario Manager - every kind.trs"), IDCANCEL);
         screen.WaitUntilClosed(manager);
     });
@@ -133,7 +133,7 @@ TEST_F(EveryKind, IsMadeStoredAndReadBack) {
     Play(L"every-kind-read-journal.txt", [&](UserScreen& screen, HWND host) {
         const HWND manager = OpenManager(screen, host);
         screen.Press(manager, IDC_MANAGER_OPEN);
-        GiveFile(screen, L"Open Recovery File", file_);
+        screen.GiveFile(L"Open Recovery File", file_);
         EXPECT_EQ(screen.RowsOf(manager, IDC_MANAGER_LIST),
                   (Rows{L"1 Pop-up", L"2 Object state", L"3 Error", L"4 Crash"}));
         screen.Choose(manager, IDC_MANAGER_LIST, L"1 Pop-up");

@@ -100,7 +100,8 @@ TEST_F(Tour, AFirstScenarioIsMadeStoredFoundAgainAndRenamed) {
         screen.Picture(manager, L"15-manager-unsaved");
 
         screen.Press(manager, IDC_MANAGER_SAVE);
-        GiveFile(screen, L"Save Recovery File", FileIn(kFile), L"16-save");
+        screen.Picture(screen.WaitForWindow(L"Save Recovery File"), L"16-save");
+        screen.GiveFile(L"Save Recovery File", FileIn(kFile));
         manager = screen.WaitForWindow(L"Recovery Scenario Manager - scenarios.trs");
         EXPECT_EQ(screen.Text(manager, IDC_MANAGER_FILE), FileIn(kFile));
         screen.Picture(manager, L"17-manager-saved");
@@ -112,7 +113,8 @@ TEST_F(Tour, AFirstScenarioIsMadeStoredFoundAgainAndRenamed) {
 
         manager = OpenManager(screen, host);
         screen.Press(manager, IDC_MANAGER_OPEN);
-        GiveFile(screen, L"Open Recovery File", FileIn(kFile), L"18-open");
+        screen.Picture(screen.WaitForWindow(L"Open Recovery File"), L"18-open");
+        screen.GiveFile(L"Open Recovery File", FileIn(kFile));
         manager = screen.WaitForWindow(L"Recovery Scenario Manager - scenarios.trs");
         EXPECT_EQ(screen.RowsOf(manager, IDC_MANAGER_LIST), Rows{L"Error message"});
         screen.Choose(manager, IDC_MANAGER_LIST, L"Error message");
