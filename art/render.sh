@@ -10,11 +10,11 @@ work=$(mktemp -d)
 trap 'rm -rf "$work"' EXIT
 mkdir -p "$component" "$host"
 
-# page NUMBER SUFFIX WIDTH HEIGHT: no dithering, so the rows of the gradient stay even and pack well.
+# page NUMBER SUFFIX WIDTH HEIGHT COLOURS: no dithering, so the rows of the gradient stay even and pack well.
 page() {
     rsvg-convert -w "$3" -h "$4" "pages/page$1.svg" -o "$work/page.png"
     convert "$work/page.png" -alpha off "PNG24:$work/opaque.png"
-    pngquant --nofs --speed 1 --strip --force -o "$work/page.png" 48 "$work/opaque.png"
+    pngquant --nofs --speed 1 --strip --force -o "$work/page.png" "$5" "$work/opaque.png"
     zopflipng -y "$work/page.png" "$component/page$1$2.png" >/dev/null
 }
 
@@ -43,9 +43,11 @@ icon() {
 }
 
 for number in 162 163 164 165 166 167; do
-    page "$number" "" 135 374
-    page "$number" _150 203 561
-    page "$number" _200 270 748
+    colours=48
+    [ "$number" != 163 ] || colours=64 # so that the small dot in the star is round
+    page "$number" "" 135 374 "$colours"
+    page "$number" _150 203 561 48
+    page "$number" _200 270 748 48
 done
 
 # 32 and 64 pixels are whole multiples of the 16 pixel drawing, 48 of the 24 pixel one.
