@@ -30,7 +30,7 @@ more_pictures='01-host-menu host-menu
 19-host-journal host-journal
 20-replace-question message
 23-read-only-file manager-read-only
-26-recent-files manager-recent-files
+26-context-menu manager-menu
 25-many-scenarios manager-many
 33-settings-sor settings-sor
 35-about about
