@@ -102,9 +102,9 @@ bool AssociationView::OnNotify(NMHDR& header, LRESULT& answer) const {
 void AssociationView::Show(LVITEMW& item) const {
     if (!list_.Has(item.iItem)) return;
     const ScenarioAssociation& shown = list_.Items()[item.iItem];
-    if (item.mask & LVIF_TEXT) {
-        text_ = item.iSubItem == kFileColumn ? shown.file : shown.name;
-        item.pszText = text_.data();
+    if ((item.mask & LVIF_TEXT) && item.cchTextMax > 0) {
+        const std::wstring_view text = item.iSubItem == kFileColumn ? shown.file : shown.name;
+        item.pszText[text.copy(item.pszText, static_cast<size_t>(item.cchTextMax - 1))] = L'\0';
     }
     if (item.mask & LVIF_STATE) {
         item.state = INDEXTOSTATEIMAGEMASK(shown.enabled ? kChecked : kUnchecked);

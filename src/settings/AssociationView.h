@@ -45,7 +45,6 @@ private:
     AssociationList& list_;
     ScenarioLooks& looks_;
     ui::ListView view_{nullptr};
-    mutable std::wstring text_;  // that the list was told last
 };
 
 }  // namespace recoveryui::settings
