@@ -108,8 +108,8 @@ void ProcessPair::Load(const std::vector<std::wstring>& names) {
             if (!name.empty()) Chosen().InsertRow(Chosen().Count(), name);
         }
     }
-    onReady_(true);
     RowsChanged();
+    onReady_(true);
 }
 
 void ProcessPair::Clear() {

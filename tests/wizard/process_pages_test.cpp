@@ -133,7 +133,7 @@ TEST_F(ProcessPagesTest, ACrashTriggersNamesComeBackAndItsButtonsExplainThemselv
     } cases[] = {
         {kCrash, nullptr, {L"a.exe", L"", L"A.exe", L"b.exe"}, {L"a.exe", L"A.exe", L"b.exe"}, true, true},
         {kCrash, nullptr, {}, {}, false, false},
-        {kCrash, nullptr, {L""}, {}, false, true},
+        {kCrash, nullptr, {L""}, {}, true, true},
         {kCrash, L"GetTriggerKind", {L"a"}, {}, false, false},
         {kCrash, L"GetProcesses", {L"a"}, {}, false, false},
         {L"Vantrel.ErrorRecoveryTrigger", nullptr, {}, {}, false, true},
