@@ -7,11 +7,11 @@
 #include "settings/CheckImages.h"
 #include "ui/Dpi.h"
 #include "ui/Strings.h"
+#include "ui/Subclass.h"
 
 namespace recoveryui::settings {
 namespace {
 
-constexpr UINT_PTR kSubclassId = 1;
 constexpr int kPicturesWidth = 50;  // at 96 DPI: check box, icon and what stands between
 constexpr int kMeasuredNames = 30;
 enum Column { kNameColumn, kFileColumn };
@@ -39,7 +39,7 @@ void AssociationView::Attach(HWND window) {
     view_.AddColumn(ui::LoadText(IDS_COLUMN_FILE));
     MakeImages();
     ListView_SetCallbackMask(window, LVIS_STATEIMAGEMASK);
-    SetWindowSubclass(window, &AssociationView::KeyProcedure, kSubclassId, 0);
+    ui::PutBefore(window, &AssociationView::KeyProcedure);
 }
 
 void AssociationView::MakeImages() const {
@@ -53,15 +53,13 @@ void AssociationView::Refill() const {
     InvalidateRect(view_.Window(), nullptr, TRUE);
 }
 
-// A virtual list measures neither all of its rows nor their pictures by itself.
+// A virtual list that is told to measure its rows leaves out their pictures, and some versions ask for every row.
 void AssociationView::FitColumns() const {
-    view_.FitColumnToHeader(kNameColumn);
     RECT client{};
     GetClientRect(view_.Window(), &client);
     const int pictures = ui::ScaleForWindow(view_.Window(), kPicturesWidth);
-    const int wanted =
-        std::max(ListView_GetColumnWidth(view_.Window(), kNameColumn), LongestName() + pictures);
-    ListView_SetColumnWidth(view_.Window(), kNameColumn, std::min<int>(wanted, client.right * 2 / 3));
+    ListView_SetColumnWidth(view_.Window(), kNameColumn,
+                            std::min<int>(LongestName() + pictures, client.right * 2 / 3));
     view_.FitColumnToHeader(kFileColumn);
 }
 
@@ -120,16 +118,14 @@ int AssociationView::ClickedCheckBox(const NMITEMACTIVATE& click) const {
     return hit.flags == LVHT_ONITEMSTATEICON && list_.Has(hit.iItem) ? hit.iItem : kNoRow;
 }
 
-LRESULT CALLBACK AssociationView::KeyProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam,
-                                               UINT_PTR id, DWORD_PTR) noexcept {
-    if (message == WM_NCDESTROY) RemoveWindowSubclass(window, &AssociationView::KeyProcedure, id);
+LRESULT CALLBACK AssociationView::KeyProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam) noexcept {
     if (const int command = CommandOf(message, wParam)) {
         SendMessageW(GetParent(window), WM_COMMAND, static_cast<WPARAM>(command), 0);
         return 0;
     }
     // The blank has done its work; it is not looked for.
     if (message == WM_CHAR && wParam == L' ') return 0;
-    return DefSubclassProc(window, message, wParam, lParam);
+    return ui::CallOwn(window, message, wParam, lParam);
 }
 
 }  // namespace recoveryui::settings

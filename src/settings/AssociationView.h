@@ -21,7 +21,7 @@ public:
     // Shows the list as it is now. Widths stay until FitColumns.
     void Refill() const;
     void FitColumns() const;
-    void Redraw(int row) const { ListView_RedrawItems(view_.Window(), row, row); }
+    void Redraw(int from, int to) const { ListView_RedrawItems(view_.Window(), from, to); }
     // After a change of the theme or the resolution.
     void MakeImages() const;
 
@@ -39,8 +39,7 @@ public:
 private:
     int LongestName() const;
     void Show(LVITEMW& item) const;
-    static LRESULT CALLBACK KeyProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR id,
-                                         DWORD_PTR) noexcept;
+    static LRESULT CALLBACK KeyProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam) noexcept;
 
     AssociationList& list_;
     ScenarioLooks& looks_;

@@ -94,8 +94,8 @@ void RecoveryTab::Run(int command) {
     switch (command) {
         case IDC_RECOVERY_ADD: return Add();
         case IDC_RECOVERY_REMOVE: return Remove();
-        case IDC_RECOVERY_UP: return row == kNoRow ? void() : Move(settings_->list.MoveUp(row));
-        case IDC_RECOVERY_DOWN: return row == kNoRow ? void() : Move(settings_->list.MoveDown(row));
+        case IDC_RECOVERY_UP: return row == kNoRow ? void() : Move(row, settings_->list.MoveUp(row));
+        case IDC_RECOVERY_DOWN: return row == kNoRow ? void() : Move(row, settings_->list.MoveDown(row));
         case IDC_RECOVERY_PROPERTIES: return Properties();
         case IDC_RECOVERY_TOGGLE: return Toggle(row);
         case IDC_RECOVERY_SET_DEFAULT: return SetAsDefault();
@@ -159,7 +159,9 @@ void RecoveryTab::UpdateSelection() {
     if (row != kNoRow) settings_->currentRow = row;
     const std::wstring description =
         row == kNoRow ? std::wstring() : looks_.Of(list.Items()[row], list).description;
-    ui::SetText(Item(IDC_RECOVERY_DESCRIPTION), support::ToEditLineEnds(description));
+    const HWND edit = Item(IDC_RECOVERY_DESCRIPTION);
+    const std::wstring text = support::ToEditLineEnds(description);
+    if (text != ui::TextOf(edit)) ui::SetText(edit, text);
     const TabButtons states = ButtonsFor(list.Size(), row, view_.IconOf(row));
     for (const ButtonRow& row : kButtons) {
         const HWND button = Item(row.control);
@@ -169,7 +171,9 @@ void RecoveryTab::UpdateSelection() {
 }
 
 void RecoveryTab::UpdateDefaultButton() {
-    ui::Enable(Item(IDC_RECOVERY_SET_DEFAULT), settings_->CanSetAsDefault());
+    const HWND button = Item(IDC_RECOVERY_SET_DEFAULT);
+    const bool enabled = settings_->CanSetAsDefault();
+    if (enabled != (IsWindowEnabled(button) != FALSE)) ui::Enable(button, enabled);
 }
 
 void RecoveryTab::Changed() {

@@ -38,7 +38,7 @@ private:
     void Add();
     void TellAbout(AddResult result, const std::wstring& name) const;
     void Remove();
-    void Move(std::optional<int> to);
+    void Move(int from, std::optional<int> to);
     void Toggle(int row);
     void Properties();
     void SetAsDefault();

@@ -1,4 +1,6 @@
 // What the user can do on the Recovery tab.
+#include <algorithm>
+
 #include "resources/ids.h"
 #include "settings/RecoveryTab.h"
 #include "settings/ScenarioCalls.h"
@@ -54,17 +56,18 @@ void RecoveryTab::Remove() {
 }
 
 // Without a place to go the list only takes the focus.
-void RecoveryTab::Move(std::optional<int> to) {
+void RecoveryTab::Move(int from, std::optional<int> to) {
     SetFocus(view_.Window());
     if (!to) return;
-    ShowList(*to);
+    view_.Redraw(std::min(from, *to), std::max(from, *to));
+    SelectRow(*to);
     Changed();
 }
 
 void RecoveryTab::Toggle(int row) {
     if (!settings_->list.Has(row)) return;
     settings_->list.SetEnabled(row, !settings_->list.Items()[row].enabled);
-    view_.Redraw(row);
+    view_.Redraw(row, row);
     Changed();
 }
 

@@ -43,7 +43,9 @@ INT_PTR DialogBase::Dispatch(UINT message, WPARAM wParam, LPARAM lParam) noexcep
     }
     if (message == WM_INITDIALOG || (message >= WM_CTLCOLORMSGBOX && message <= WM_CTLCOLORSTATIC))
         return answer;
-    if (handled && IsWindow(window)) SetWindowLongPtrW(window, DWLP_MSGRESULT, answer);
+    // Mostly it is what it was, and setting it may be dearer than asking.
+    if (handled && IsWindow(window) && GetWindowLongPtrW(window, DWLP_MSGRESULT) != answer)
+        SetWindowLongPtrW(window, DWLP_MSGRESULT, answer);
     return handled;
 }
 

@@ -25,6 +25,7 @@ protected:
 
     int TemplateId() const noexcept { return templateId_; }
     HWND Window() const noexcept { return window_; }
+    int Dpi() const noexcept { return dpi_; }
     HWND Item(int id) const noexcept { return GetDlgItem(window_, id); }
 
     // Once, when the controls exist. Notifications are muted meanwhile.

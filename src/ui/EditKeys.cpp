@@ -2,10 +2,12 @@
 
 #include <commctrl.h>
 
+#include "ui/Subclass.h"
+
 namespace recoveryui::ui {
 namespace {
 
-enum Subclass : UINT_PTR { kMultiLine = 1, kEnter = 2 };
+constexpr UINT_PTR kEnter = 1;
 
 bool IsKeyDown(LPARAM message, WPARAM key) {
     const auto* asked = reinterpret_cast<const MSG*>(message);
@@ -17,10 +19,8 @@ bool MakesLines(HWND edit) {
     return style & ES_WANTRETURN && !(style & ES_READONLY);
 }
 
-LRESULT CALLBACK MultiLineProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR id,
-                                    DWORD_PTR) noexcept {
-    if (message == WM_NCDESTROY) RemoveWindowSubclass(window, &MultiLineProcedure, id);
-    const LRESULT answer = DefSubclassProc(window, message, wParam, lParam);
+LRESULT CALLBACK MultiLineProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam) noexcept {
+    const LRESULT answer = CallOwn(window, message, wParam, lParam);
     if (message != WM_GETDLGCODE) return answer;
     const bool isSheets = IsKeyDown(lParam, VK_TAB) || IsKeyDown(lParam, VK_ESCAPE) ||
                           (IsKeyDown(lParam, VK_RETURN) && !MakesLines(window));
@@ -47,7 +47,7 @@ void LeaveKeysToSheet(HWND page) {
     HWND edit = nullptr;
     while ((edit = FindWindowExW(page, edit, WC_EDITW, nullptr)) != nullptr) {
         if (GetWindowLongPtrW(edit, GWL_STYLE) & ES_MULTILINE)
-            SetWindowSubclass(edit, &MultiLineProcedure, kMultiLine, 0);
+            PutBefore(edit, &MultiLineProcedure);
     }
 }
 

@@ -16,8 +16,8 @@ public:
     ModuleScope& operator=(const ModuleScope&) = delete;
 
 private:
-    HANDLE context_;
     ULONG_PTR cookie_ = 0;
+    bool active_;
 };
 
 // The boundary of an interface method that may show windows: runs the body in the module's state and

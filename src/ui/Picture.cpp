@@ -33,8 +33,9 @@ com::Ptr<IWICBitmapSource> Decode(IWICImagingFactory& factory, int id) {
     if (FAILED(factory.CreateStream(stream.GetAddressOf())) ||
         FAILED(stream->InitializeFromMemory(static_cast<BYTE*>(LockResource(loaded)),
                                             SizeofResource(module, found))) ||
-        FAILED(factory.CreateDecoderFromStream(stream.Get(), nullptr, WICDecodeMetadataCacheOnLoad,
-                                               decoder.GetAddressOf())) ||
+        FAILED(CoCreateInstance(CLSID_WICPngDecoder, nullptr, CLSCTX_INPROC_SERVER, IID_IWICBitmapDecoder,
+                                reinterpret_cast<void**>(decoder.GetAddressOf()))) ||
+        FAILED(decoder->Initialize(stream.Get(), WICDecodeMetadataCacheOnDemand)) ||
         FAILED(decoder->GetFrame(0, frame.GetAddressOf())))
         return nothing;
     // In two steps: not every implementation gets from a palette to 24 bits in one.

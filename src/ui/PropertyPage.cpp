@@ -3,6 +3,17 @@
 #include "ui/EditKeys.h"
 
 namespace recoveryui::ui {
+namespace {
+
+// A disabled or hidden control takes no keys, nor does one of a page that was left.
+bool TakesKeys(HWND control, HWND sheet) {
+    if (!control || !IsWindowEnabled(control)) return false;
+    for (HWND window = control; window && window != sheet; window = GetAncestor(window, GA_PARENT))
+        if (!(GetWindowLongPtrW(window, GWL_STYLE) & WS_VISIBLE)) return false;
+    return true;
+}
+
+}  // namespace
 
 HPROPSHEETPAGE PropertyPage::CreateHandle() {
     PROPSHEETPAGEW page{};
@@ -45,14 +56,19 @@ bool PropertyPage::OnMessage(UINT message, WPARAM wParam, LPARAM lParam, LRESULT
     return true;
 }
 
-// A disabled or hidden control takes no keys.
 void PropertyPage::KeepFocus(bool shown) const {
-    const HWND focus = GetFocus();
-    if (GetActiveWindow() != Sheet()) return;
+    const int enter = EnterButton();
+    if (enter && LOWORD(SendMessageW(Sheet(), DM_GETDEFID, 0, 0)) != enter)
+        SendMessageW(Sheet(), DM_SETDEFID, static_cast<WPARAM>(enter), 0);
+    GUITHREADINFO thread{};
+    thread.cbSize = sizeof thread;
+    GetGUIThreadInfo(GetCurrentThreadId(), &thread);
+    if (thread.hwndActive != Sheet()) return;
+    const HWND focus = thread.hwndFocus, wanted = shown ? FirstFocus() : nullptr;
     // Some sheets begin on a page's first control without asking.
-    const bool elsewhere = shown && focus == GetNextDlgTabItem(Window(), nullptr, FALSE) && focus != FirstFocus();
-    if (!elsewhere && focus && IsWindowEnabled(focus) && IsWindowVisible(focus)) return;
-    SendMessageW(Sheet(), WM_NEXTDLGCTL, reinterpret_cast<WPARAM>(elsewhere ? FirstFocus() : NextFocus()), TRUE);
+    const bool elsewhere = wanted && focus != wanted && focus == FirstControl();
+    if (!elsewhere && TakesKeys(focus, thread.hwndActive)) return;
+    SendMessageW(Sheet(), WM_NEXTDLGCTL, reinterpret_cast<WPARAM>(elsewhere ? wanted : NextFocus()), TRUE);
 }
 
 INT_PTR CALLBACK PropertyPage::Procedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam) noexcept {

@@ -1,30 +1,23 @@
 #include "ui/PropertySheet.h"
 
-#include <commctrl.h>
-
 #include "com/Guard.h"
 #include "ui/Dpi.h"
+#include "ui/Subclass.h"
 
 namespace recoveryui::ui {
 namespace {
 
-constexpr UINT_PTR kSheetSubclass = 1;
-
 // F1 on a button of the sheet's own asks the sheet, which leaves it to nobody: it is to do what Help does.
-LRESULT CALLBACK SheetProcedure(HWND sheet, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR id,
-                                DWORD_PTR) noexcept {
+LRESULT CALLBACK SheetProcedure(HWND sheet, UINT message, WPARAM wParam, LPARAM lParam) noexcept {
     if (message == WM_DPICHANGED) RememberDpi(sheet, HIWORD(wParam));
-    if (message == WM_NCDESTROY) {
-        ForgetDpi(sheet);
-        RemoveWindowSubclass(sheet, &SheetProcedure, id);
-    }
-    if (message != WM_HELP) return DefSubclassProc(sheet, message, wParam, lParam);
+    if (message == WM_NCDESTROY) ForgetDpi(sheet);
+    if (message != WM_HELP) return CallOwn(sheet, message, wParam, lParam);
     SendMessageW(sheet, WM_COMMAND, IDHELP, 0);
     return TRUE;
 }
 
 int CALLBACK OnSheet(HWND sheet, UINT event, LPARAM) noexcept {
-    if (event == PSCB_INITIALIZED) SetWindowSubclass(sheet, &SheetProcedure, kSheetSubclass, 0);
+    if (event == PSCB_INITIALIZED) PutBefore(sheet, &SheetProcedure);
     return 0;
 }
 

@@ -2,30 +2,12 @@
 
 #include "com/Guard.h"
 #include "resources/ids.h"
-#include "ui/Dpi.h"
 #include "ui/Help.h"
 #include "ui/Picture.h"
 #include "ui/Strings.h"
 #include "ui/Window.h"
-#include "wizard/WizardButtons.h"
 
 namespace recoveryui::wizard {
-namespace {
-
-constexpr int kTitlePoints = 10;
-constexpr int kPointsPerInch = 72;
-
-ui::Font TitleFont(HWND page) {
-    LOGFONTW font{};
-    const auto own = reinterpret_cast<HFONT>(SendMessageW(page, WM_GETFONT, 0, 0));
-    if (!GetObjectW(own, sizeof font, &font)) return {};
-    font.lfHeight = -MulDiv(kTitlePoints, ui::DpiOf(page), kPointsPerInch);
-    font.lfWeight = FW_BOLD;
-    return ui::Font(CreateFontIndirectW(&font));
-}
-
-}  // namespace
-
 WizardPPBase::WizardPPBase(WizardPS& sheet, int templateId, bool canAdvance)
     : PropertyPage(templateId, ui::LoadText(IDS_WIZARD_TITLE)),
       sheet_(sheet),
@@ -39,10 +21,12 @@ std::optional<model::TriggerKind> WizardPPBase::KindOfTrigger() const {
 }
 
 void WizardPPBase::SetCanAdvance(bool canAdvance) {
-    canAdvance_ = canAdvance;
+    if (std::exchange(canAdvance_, canAdvance) == canAdvance) return;
     // A page that was left still gets messages; the buttons are another page's by then.
     const LRESULT current = SendMessageW(Sheet(), PSM_GETCURRENTPAGEHWND, 0, 0);
-    if (current == reinterpret_cast<LRESULT>(Window())) UpdateWizardButtons();
+    if (current != reinterpret_cast<LRESULT>(Window())) return;
+    UpdateWizardButtons();
+    KeepFocusLater();
 }
 
 // Posted, so that it takes effect after the message that is being handled.
@@ -50,8 +34,6 @@ void WizardPPBase::UpdateWizardButtons() const {
     const auto flags = WizardButtons(page_.position, canAdvance_);
     if (!flags) return;
     PostMessageW(Sheet(), PSM_SETWIZBUTTONS, 0, static_cast<LPARAM>(*flags));
-    PostMessageW(Sheet(), DM_SETDEFID, static_cast<WPARAM>(DefaultButton(page_.position)), 0);
-    KeepFocusLater();
 }
 
 // The button that was pressed may be disabled by now.
@@ -60,13 +42,13 @@ HWND WizardPPBase::NextFocus() const {
         const HWND button = GetDlgItem(Sheet(), id);
         if (IsWindowEnabled(button)) return button;
     }
-    const HWND first = FirstFocus();
+    const HWND first = FirstControl();
     return first ? first : GetDlgItem(Sheet(), IDCANCEL);
 }
 
 void WizardPPBase::ShowFrame() {
-    ui::Font before = std::exchange(titleFont_, TitleFont(Window()));
-    SendMessageW(Item(IDC_PAGE_TITLE), WM_SETFONT, reinterpret_cast<WPARAM>(titleFont_.Get()), FALSE);
+    const HFONT font = sheet_.TitleFont(Window(), Dpi());
+    SendMessageW(Item(IDC_PAGE_TITLE), WM_SETFONT, reinterpret_cast<WPARAM>(font), FALSE);
 
     const HWND frame = Item(IDC_PAGE_BITMAP);
     RECT area{};
@@ -77,7 +59,7 @@ void WizardPPBase::ShowFrame() {
 
 void WizardPPBase::ShowIcon(ButtonIcon& button) {
     ui::Icon before = std::exchange(
-        button.icon, ui::LoadIconOfSize(button.iconId, ui::ScaleForWindow(Window(), button.size)));
+        button.icon, ui::LoadIconOfSize(button.iconId, MulDiv(button.size, Dpi(), USER_DEFAULT_SCREEN_DPI)));
     SendDlgItemMessageW(Window(), button.control, BM_SETIMAGE, IMAGE_ICON,
                         reinterpret_cast<LPARAM>(button.icon.Get()));
 }

@@ -7,6 +7,7 @@
 #include "ui/Handles.h"
 #include "ui/PropertyPage.h"
 #include "wizard/PageFlow.h"
+#include "wizard/WizardButtons.h"
 #include "wizard/WizardPS.h"
 
 namespace recoveryui::wizard {
@@ -60,6 +61,7 @@ private:
     LRESULT OnWizardFinish() final { return OnFinish() ? 0 : kStay; }
 
     HWND NextFocus() const final;
+    int EnterButton() const final { return DefaultButton(page_.position); }
     void OnDpiChanged() final;
 
     struct ButtonIcon {
@@ -73,7 +75,6 @@ private:
     WizardPS& sheet_;
     const Page& page_;
     bool canAdvance_;
-    ui::Font titleFont_;
     std::vector<ButtonIcon> icons_;
 };
 

@@ -22,6 +22,9 @@
 namespace recoveryui::wizard {
 namespace {
 
+constexpr int kTitlePoints = 10;
+constexpr int kPointsPerInch = 72;
+
 // The walk ends at the first element that is no operation; what came before counts.
 void ReadOperations(IRecoveryScenario& scenario, std::vector<com::Ptr<IRecoveryAction>>& operations) {
     std::vector<com::Ptr<IUnknown>> elements;
@@ -51,6 +54,17 @@ WizardPS::WizardPS() : PropertySheet(Kind::Wizard, ui::LoadText(IDS_WIZARD_TITLE
     AddPage(std::make_unique<TestFlowPP>(*this));
     AddPage(std::make_unique<ScenDescriptionPP>(*this));
     AddPage(std::make_unique<SummaryPP>(*this));
+}
+
+HFONT WizardPS::TitleFont(HWND page, int dpi) {
+    ui::Font& font = titleFonts_[dpi];
+    LOGFONTW look{};
+    if (font || !GetObjectW(reinterpret_cast<HFONT>(SendMessageW(page, WM_GETFONT, 0, 0)), sizeof look, &look))
+        return font.Get();
+    look.lfHeight = -MulDiv(kTitlePoints, dpi, kPointsPerInch);
+    look.lfWeight = FW_BOLD;
+    font = ui::Font(CreateFontIndirectW(&look));
+    return font.Get();
 }
 
 HBITMAP WizardPS::Picture(int id, SIZE size) {

@@ -15,6 +15,8 @@ public:
     WizardPS();
 
     WizardState& State() noexcept { return state_; }
+    // The font of the pages' titles, made once for all pages of that resolution.
+    HFONT TitleFont(HWND page, int dpi);
     // The picture of that number, made once for all pages that show it in that size.
     HBITMAP Picture(int id, SIZE size);
     // Takes trigger, operations, option, name and description over from an existing scenario. The restart
@@ -25,6 +27,7 @@ public:
 
 private:
     WizardState state_;
+    std::map<int, ui::Font> titleFonts_;                   // by DPI
     std::map<std::pair<int, LONG>, ui::Bitmap> pictures_;  // by number and height
 };
 
