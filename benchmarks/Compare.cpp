@@ -70,14 +70,14 @@ void Compare(const std::vector<Line>& lines, int pairs, const Side& product, con
         State(lines[line].what, Milliseconds(Quartile(products[line], 2)),
               Milliseconds(Quartile(floors[line], 2)), Number("%.2f", ratio),
               Number("%.2f", Quartile(ratios[line], 1)) + " - " + Number("%.2f", Quartile(ratios[line], 3)),
-              Number("%.2f", lines[line].goal), ratio <= lines[line].goal);
+              lines[line].goal > 0 ? Number("%.2f", lines[line].goal) : "", ratio <= lines[line].goal);
     }
 }
 
 void State(const std::string& what, const std::string& product, const std::string& floor,
            const std::string& ratio, const std::string& spread, const std::string& goal, bool reached) {
     std::printf(kFormat, what.c_str(), product.c_str(), floor.c_str(), ratio.c_str(), spread.c_str(),
-                goal.c_str(), reached ? "reached" : "missed");
+                goal.c_str(), goal.empty() ? "" : reached ? "reached" : "missed");
     std::fflush(stdout);
 }
 

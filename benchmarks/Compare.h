@@ -9,7 +9,7 @@ namespace recoveryui::bench {
 
 double Now();  // in milliseconds
 
-// One line of the table and the ratio that it is to reach.
+// One line of the table and the ratio that it is to reach, 0 for a line that only tells.
 struct Line {
     std::string what;
     double goal;

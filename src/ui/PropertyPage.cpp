@@ -56,6 +56,11 @@ bool PropertyPage::OnMessage(UINT message, WPARAM wParam, LPARAM lParam, LRESULT
     return true;
 }
 
+HWND PropertyPage::NextFocus() const {
+    const HWND first = FirstFocus();
+    return first ? first : FirstControl();
+}
+
 void PropertyPage::KeepFocus(bool shown) const {
     const int enter = EnterButton();
     if (enter && LOWORD(SendMessageW(Sheet(), DM_GETDEFID, 0, 0)) != enter)

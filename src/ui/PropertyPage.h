@@ -33,18 +33,18 @@ protected:
     // Looks after the message under way whether the control with the focus was disabled or hidden, and hands
     // the focus on; and whether Enter still presses the right button. A page that is shown does so by itself.
     void KeepFocusLater() const { PostMessageW(Window(), kKeepFocus, 0, 0); }
-    virtual HWND NextFocus() const { return FirstControl(); }
+    virtual HWND NextFocus() const;
     // Where a user begins when the page is shown, if not at its first control.
     virtual HWND FirstFocus() const { return nullptr; }
     // The sheet's button that Enter is to press, 0 where that is the sheet's own business.
     virtual int EnterButton() const { return 0; }
-    HWND FirstControl() const { return GetNextDlgTabItem(Window(), nullptr, FALSE); }
 
     // Pages that override them ask them for the rest.
     bool OnNotify(NMHDR& header, LRESULT& answer) override;
     bool OnMessage(UINT message, WPARAM wParam, LPARAM lParam, LRESULT& answer) override;
 
 private:
+    HWND FirstControl() const { return GetNextDlgTabItem(Window(), nullptr, FALSE); }
     static constexpr UINT kKeepFocus = WM_APP;
     static constexpr WPARAM kShown = 1;
     void KeepFocus(bool shown) const;

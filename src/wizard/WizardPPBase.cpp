@@ -42,7 +42,7 @@ HWND WizardPPBase::NextFocus() const {
         const HWND button = GetDlgItem(Sheet(), id);
         if (IsWindowEnabled(button)) return button;
     }
-    const HWND first = FirstControl();
+    const HWND first = PropertyPage::NextFocus();
     return first ? first : GetDlgItem(Sheet(), IDCANCEL);
 }
 
