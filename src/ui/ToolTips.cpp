@@ -2,6 +2,7 @@
 
 #include <commctrl.h>
 
+#include <new>
 #include <string>
 
 #include "com/Module.h"
@@ -21,7 +22,8 @@ TTTOOLINFOW ToolFor(HWND dialog, HWND control) {
 
 }  // namespace
 
-void ToolTips::Add(HWND dialog, HWND control, int stringId) {
+// Without memory there is no tip, but the window is made to its end.
+void ToolTips::Add(HWND dialog, HWND control, int stringId) try {
     if (!window_) {
         window_ = CreateWindowExW(WS_EX_TOPMOST, TOOLTIPS_CLASSW, nullptr, WS_POPUP | TTS_NOPREFIX | TTS_ALWAYSTIP,
                                   CW_USEDEFAULT, CW_USEDEFAULT, CW_USEDEFAULT, CW_USEDEFAULT, dialog, nullptr,
@@ -31,6 +33,7 @@ void ToolTips::Add(HWND dialog, HWND control, int stringId) {
     TTTOOLINFOW tool = ToolFor(dialog, control);
     tool.lpszText = text.data();
     SendMessageW(window_, TTM_ADDTOOLW, 0, reinterpret_cast<LPARAM>(&tool));
+} catch (const std::bad_alloc&) {
 }
 
 void ToolTips::Remove(HWND dialog, HWND control) {

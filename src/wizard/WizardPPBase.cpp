@@ -1,5 +1,7 @@
 #include "wizard/WizardPPBase.h"
 
+#include <new>
+
 #include "com/Guard.h"
 #include "resources/ids.h"
 #include "ui/Help.h"
@@ -94,9 +96,11 @@ Leave WizardPPBase::AddOperation(IUnknown* operation) {
     return GoOn();
 }
 
-void WizardPPBase::SetButtonIcon(int control, int iconId, int size) {
+// The page works without it, and the rest of its beginning matters more.
+void WizardPPBase::SetButtonIcon(int control, int iconId, int size) try {
     icons_.push_back({control, iconId, size, {}});
     ShowIcon(icons_.back());
+} catch (const std::bad_alloc&) {
 }
 
 }  // namespace recoveryui::wizard
