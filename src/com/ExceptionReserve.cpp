@@ -5,7 +5,7 @@
 #include <cstddef>
 
 namespace __gnu_cxx {
-void __freeres();
+void __freeres();  // NOLINT(bugprone-reserved-identifier): the library's name
 }
 
 // The module's import of malloc, through which its run-time library allocates too.

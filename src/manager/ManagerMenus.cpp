@@ -12,20 +12,20 @@ constexpr UINT_PTR kKeySubclass = 2;
 
 struct Key {
     WPARAM key;
+    int command;
     bool control;
     bool alt;
-    int command;
     bool everywhere;  // in all of the dialog, not only on the list
 };
 constexpr Key kKeys[] = {
-    {VK_DELETE, false, false, IDC_MANAGER_DELETE, false},
-    {VK_F2, false, false, IDC_MANAGER_EDIT, false},
-    {'C', true, false, IDC_MANAGER_COPY, false},
-    {'V', true, false, IDC_MANAGER_PASTE, false},
-    {VK_RETURN, false, true, IDC_MANAGER_PROPERTIES, false},
-    {'N', true, false, IDC_MANAGER_NEW, true},
-    {'O', true, false, IDC_MANAGER_OPEN, true},
-    {'S', true, false, IDC_MANAGER_SAVE, true},
+    {VK_DELETE, IDC_MANAGER_DELETE, false, false, false},
+    {VK_F2, IDC_MANAGER_EDIT, false, false, false},
+    {'C', IDC_MANAGER_COPY, true, false, false},
+    {'V', IDC_MANAGER_PASTE, true, false, false},
+    {VK_RETURN, IDC_MANAGER_PROPERTIES, false, true, false},
+    {'N', IDC_MANAGER_NEW, true, false, true},
+    {'O', IDC_MANAGER_OPEN, true, false, true},
+    {'S', IDC_MANAGER_SAVE, true, false, true},
 };
 
 bool IsDown(int key) {

@@ -102,7 +102,9 @@ int CMRUComboBox::InsertString(int index, const std::wstring& text) {
 void CMRUComboBox::Save() const {
     if (!bound_) return;
     std::vector<std::wstring> entries;
-    for (int index = 0; index < Count(combo_); ++index) entries.push_back(Entry(combo_, index));
+    const int count = Count(combo_);
+    entries.reserve(static_cast<size_t>(count));
+    for (int index = 0; index < count; ++index) entries.push_back(Entry(combo_, index));
     const std::wstring value = JoinEntries(entries);
     RegSetValueExW(key_.Get(), valueName_.c_str(), 0, REG_SZ, reinterpret_cast<const BYTE*>(value.c_str()),
                    static_cast<DWORD>((value.size() + 1) * sizeof(wchar_t)));

@@ -49,7 +49,7 @@ void ObjectTree::Show(std::span<const com::Ptr<IDispatch>> chain) const {
 }
 
 void ObjectTree::Select(size_t member) const {
-    HTREEITEM item = TreeView_GetRoot(tree_);
+    auto item = TreeView_GetRoot(tree_);
     for (; item && member > 0; --member) item = TreeView_GetChild(tree_, item);
     if (item) TreeView_SelectItem(tree_, item);
 }

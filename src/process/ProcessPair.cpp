@@ -1,5 +1,7 @@
 #include "process/ProcessPair.h"
 
+#include <ranges>
+
 #include "model/RowRules.h"
 #include "process/RunningProcesses.h"
 #include "resources/ids.h"
@@ -57,6 +59,7 @@ std::vector<std::wstring> ProcessPair::SelectedRunning() const {
     std::vector<int> indices(static_cast<size_t>(SendMessageW(Running(), LB_GETSELCOUNT, 0, 0)));
     SendMessageW(Running(), LB_GETSELITEMS, indices.size(), reinterpret_cast<LPARAM>(indices.data()));
     std::vector<std::wstring> names;
+    names.reserve(indices.size());
     for (const int index : indices) names.push_back(EntryOf(Running(), index));
     return names;
 }
@@ -161,7 +164,7 @@ void ProcessPair::Remove() {
     if (selected.empty()) return;
     {
         const ui::ListView::Filling filling(Chosen());
-        for (auto row = selected.rbegin(); row != selected.rend(); ++row) Chosen().DeleteRow(*row);
+        for (const int row : std::views::reverse(selected)) Chosen().DeleteRow(row);
     }
     RowsChanged();
     const int next = model::RowAfterRemoval(selected.front(), Chosen().Count());

@@ -38,8 +38,9 @@ HRESULT ReadOperations(IRecoveryScenario& scenario, std::vector<com::Ptr<IRecove
 
 }  // namespace
 
-ScenarioPropertiesPS::ScenarioPropertiesPS(IRecoveryScenario& scenario, IUnknown* trigger, std::wstring file,
-                                           std::wstring name, IObjectRack* rack)
+ScenarioPropertiesPS::ScenarioPropertiesPS(IRecoveryScenario& scenario, IUnknown* trigger,
+                                           const std::wstring& file, const std::wstring& name,
+                                           IObjectRack* rack)
     : PropertySheet(Kind::Tabbed, ui::LoadText(IDS_PROPERTIES_TITLE)) {
     std::vector<com::Ptr<IRecoveryAction>> operations;
     long option = 0;
@@ -48,12 +49,12 @@ ScenarioPropertiesPS::ScenarioPropertiesPS(IRecoveryScenario& scenario, IUnknown
     for (const SheetPage page : PagesOf(KindOf(trigger), read)) {
         switch (page) {
             case SheetPage::General:
-                AddPage(std::make_unique<GeneralProperties>(std::move(file), std::move(name),
-                                                            model::DescriptionOf(&scenario), rack));
+                AddPage(
+                    std::make_unique<GeneralProperties>(file, name, model::DescriptionOf(&scenario), rack));
                 break;
             case SheetPage::Actions:
                 AddPage(std::make_unique<ActionsProperties>(
-                    std::move(operations), ShowsRestart(static_cast<std::int32_t>(option)), rack));
+                    operations, ShowsRestart(static_cast<std::int32_t>(option)), rack));
                 break;
             case SheetPage::PostRecovery:
                 AddPage(std::make_unique<PostRecoveryProperties>(option, rack));

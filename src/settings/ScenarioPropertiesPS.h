@@ -14,8 +14,8 @@ namespace recoveryui::settings {
 class ScenarioPropertiesPS final : public ui::PropertySheet {
 public:
     // What has no meaning here, or cannot be read, has no page.
-    ScenarioPropertiesPS(IRecoveryScenario& scenario, IUnknown* trigger, std::wstring file, std::wstring name,
-                         IObjectRack* rack);
+    ScenarioPropertiesPS(IRecoveryScenario& scenario, IUnknown* trigger, const std::wstring& file,
+                         const std::wstring& name, IObjectRack* rack);
 
     void Run(HWND owner) { ShowModal(owner); }
 

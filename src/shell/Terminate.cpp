@@ -4,6 +4,7 @@
 
 namespace __gnu_cxx {
 
+// NOLINTNEXTLINE(bugprone-reserved-identifier): the library's name
 void __verbose_terminate_handler() { std::abort(); }
 
 }  // namespace __gnu_cxx

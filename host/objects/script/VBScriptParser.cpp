@@ -11,8 +11,8 @@ class Function final : public HostObject<Function, IScriptFunction> {
 public:
     static constexpr const wchar_t* kName = L"ScriptFunction";
 
-    Function(std::shared_ptr<const std::wstring> text, ScriptFunction place)
-        : text_(std::move(text)), place_(std::move(place)) {}
+    Function(std::shared_ptr<const std::wstring> text, const ScriptFunction& place)
+        : text_(std::move(text)), place_(place) {}
 
     HRESULT STDMETHODCALLTYPE GetName(BSTR* name) noexcept override {
         return Call(L"GetName").Give([&] { return com::CopyTo(name, place_.name); }, name);

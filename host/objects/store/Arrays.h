@@ -33,6 +33,7 @@ namespace com = recoveryui::com;
 template <class Item>
 [[nodiscard]] HRESULT GiveVariants(const std::vector<Item>& items, VARIANT* array) {
     std::vector<com::Variant> values;
+    values.reserve(items.size());
     for (const Item& item : items) values.emplace_back(item);
     SAFEARRAY* made = nullptr;
     const HRESULT hr = GiveArray(values, &made);
