@@ -38,7 +38,7 @@ std::wstring SelectedItem(HWND tree) {
     item.pszText = text.data();
     item.cchTextMax = static_cast<int>(text.size());
     if (!item.hItem || !TreeView_GetItem(tree, &item)) return {};
-    return std::wstring(text.c_str());
+    return text.c_str();
 }
 
 bool CopyFrom(HWND control) {

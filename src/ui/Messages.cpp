@@ -10,7 +10,7 @@ namespace {
 struct FixedText {
     wchar_t text[512] = L"";
     explicit FixedText(int id) noexcept {
-        LoadStringW(com::Module::Instance(), static_cast<UINT>(id), text, std::size(text));
+        LoadStringW(com::Module::Instance(), static_cast<UINT>(id), text, static_cast<int>(std::size(text)));
     }
 };
 
@@ -20,7 +20,11 @@ int Show(HWND owner, const wchar_t* text, UINT flags) {
 
 }  // namespace
 
-int ShowMessage(HWND owner, const std::wstring& text, UINT flags) { return Show(owner, text.c_str(), flags); }
-int ShowMessage(HWND owner, int stringId, UINT flags) { return Show(owner, FixedText(stringId).text, flags); }
+int ShowMessage(HWND owner, const std::wstring& text, UINT flags) {
+    return Show(owner, text.c_str(), flags);
+}
+int ShowMessage(HWND owner, int stringId, UINT flags) {
+    return Show(owner, FixedText(stringId).text, flags);
+}
 
 }  // namespace recoveryui::ui

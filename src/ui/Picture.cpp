@@ -17,7 +17,7 @@ com::Ptr<IWICBitmapSource> Convert(IWICImagingFactory& factory, IWICBitmapSource
         FAILED(converter->Initialize(source, format, WICBitmapDitherTypeNone, nullptr, 0,
                                      WICBitmapPaletteTypeCustom)))
         return {};
-    return com::Ptr<IWICBitmapSource>(converter.Get());
+    return converter.Get();
 }
 
 com::Ptr<IWICBitmapSource> Decode(IWICImagingFactory& factory, int id) {
