@@ -1,7 +1,5 @@
 #include "process/ProcessPair.h"
 
-#include <ranges>
-
 #include "model/RowRules.h"
 #include "process/RunningProcesses.h"
 #include "resources/ids.h"
@@ -164,7 +162,7 @@ void ProcessPair::Remove() {
     if (selected.empty()) return;
     {
         const ui::ListView::Filling filling(Chosen());
-        for (const int row : std::views::reverse(selected)) Chosen().DeleteRow(row);
+        for (auto row = selected.rbegin(); row != selected.rend(); ++row) Chosen().DeleteRow(*row);
     }
     RowsChanged();
     const int next = model::RowAfterRemoval(selected.front(), Chosen().Count());

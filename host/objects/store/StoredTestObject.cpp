@@ -1,7 +1,5 @@
 #include "objects/store/StoredTestObject.h"
 
-#include <ranges>
-
 #include "com/Automation.h"
 #include "objects/screen/TestObject.h"
 #include "objects/store/StoreFormat.h"
@@ -40,8 +38,8 @@ store::TestObject ReadForeign(ITestObject* object) {
 
 com::Ptr<ITestObject> RestoreTestObject(const store::Hierarchy& hierarchy) {
     com::Ptr<TestObject> object;
-    for (const auto& content : std::views::reverse(hierarchy))
-        object = TestObject::Make(content, std::move(object));
+    for (auto content = hierarchy.rbegin(); content != hierarchy.rend(); ++content)
+        object = TestObject::Make(*content, std::move(object));
     return object;
 }
 
