@@ -74,8 +74,7 @@ void RecoveryTab::Toggle(int row) {
 void RecoveryTab::Properties() {
     const int row = view_.Selected();
     if (row == kNoRow) return;
-    const ScenarioAssociation shown = settings_->list.Items()[row];
-    ShowProperties(rack_.Get(), shown);
+    ShowProperties(rack_.Get(), settings_->list.Items()[row]);
     if (Window()) SetFocus(view_.Window());
 }
 

@@ -35,15 +35,17 @@ std::optional<ChosenScenarios> AskForScenarios(IObjectRack* rack) {
 }
 
 void ShowProperties(IObjectRack* rack, const model::ScenarioAssociation& shown) {
+    // The host may have the list read anew while it is called.
+    const std::wstring file(shown.file), name(shown.name);
     model::Repository repository;
     com::Ptr<IUnknown> scenario;
     com::Check(model::Repository::Create(rack, repository));
-    com::Check(repository.Load(std::wstring(shown.file), true));
-    com::Check(repository.Scenario(std::wstring(shown.name), scenario));
+    com::Check(repository.Load(file, true));
+    com::Check(repository.Scenario(name, scenario));
     com::Ptr<IScenarioProperties> sheet;
     com::Check(com::Create(L"Vantrel.ScenarioProperties", sheet));
     com::Check(shell::HandRack(sheet.Get(), rack));
-    com::Check(sheet->DoModal(scenario.Get(), com::Bstr(shown.file).Get(), com::Bstr(shown.name).Get()));
+    com::Check(sheet->DoModal(scenario.Get(), com::Bstr(file).Get(), com::Bstr(name).Get()));
 }
 
 }  // namespace recoveryui::settings

@@ -3,10 +3,21 @@
 
 #include <olectl.h>
 
+#include "com/Object.h"
 #include "settings/SettingsTest.h"
 
 namespace recoveryui::test {
 namespace {
+
+// Does something once, while the host reads a recovery file.
+class WhileLoading final : public com::Object<WhileLoading, IJournalListener> {
+public:
+    std::function<void()> act;
+    HRESULT STDMETHODCALLTYPE OnCall(BSTR, BSTR operation, BSTR, BSTR) noexcept override {
+        if (com::ViewOf(operation) == L"Load" && act) std::exchange(act, nullptr)();
+        return S_OK;
+    }
+};
 
 class RecoveryPageTest : public SettingsTest {
 protected:
@@ -126,6 +137,34 @@ TEST_F(RecoveryPageTest, AFrameThatGoesUnderTheOpenDialogTakesEverythingAlong) {
         while (IsWindow(frame_) && GetMessageW(&message, nullptr, 0, 0)) DispatchMessageW(&message);
     }
     EXPECT_EQ(settings_.Stored(L"RecoveryScenarios"), L"-");
+}
+
+TEST_F(RecoveryPageTest, PropertiesAreThoseOfTheChosenScenarioThoughTheHostOpensThePageAnew) {
+    const std::wstring file = MakeFile(L"f.trs", {{L"First scenario"}, {L"Other scenario"}});
+    const auto store = [&](const wchar_t* name) {
+        settings_.Store(L"RecoveryScenarios", com::Variant(file + L";" + name + L";1;1*"));
+    };
+    store(L"First scenario");
+    EXPECT_EQ(Activate(), S_OK);
+    const auto journal = New<ICallJournal>(L"Tovarin.CallJournal");
+    const auto listener = WhileLoading::Make();
+    EXPECT_EQ(journal->AddListener(listener.Get()), S_OK);
+    listener->act = [&] {
+        EXPECT_EQ(page_->Deactivate(), S_OK);
+        store(L"Other scenario");
+        EXPECT_EQ(Activate(), S_OK);
+    };
+    {
+        const User user([](UserScreen& screen) {
+            const HWND sheet = screen.WaitForWindow(L"Recovery Scenario Properties");
+            EXPECT_EQ(screen.Text(sheet, IDC_GENERAL_NAME), L"First scenario");
+            screen.Press(sheet, IDOK);
+        });
+        SendMessageW(Tab(), WM_COMMAND, IDC_RECOVERY_PROPERTIES, 0);
+    }
+    EXPECT_FALSE(listener->act);
+    EXPECT_EQ(journal->RemoveListener(listener.Get()), S_OK);
+    EXPECT_EQ(page_->Deactivate(), S_OK);
 }
 
 }  // namespace
