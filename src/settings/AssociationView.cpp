@@ -53,7 +53,7 @@ void AssociationView::Refill() const {
     InvalidateRect(view_.Window(), nullptr, TRUE);
 }
 
-// A virtual list that is told to measure its rows leaves out their pictures, and some versions ask for every row.
+// A virtual list told to measure its rows leaves out their pictures, and some versions ask for every row.
 void AssociationView::FitColumns() const {
     RECT client{};
     GetClientRect(view_.Window(), &client);

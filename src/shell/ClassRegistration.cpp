@@ -48,8 +48,8 @@ HRESULT RunScript(const std::vector<RegistryEntry>& entries) {
 
 std::wstring ClassKey(const com::ClassEntry& entry) { return L"CLSID\\" + GuidText(*entry.clsid); }
 
-// As much as can be removed; gives the first failure. The class itself goes last and only when all else is gone:
-// without it nobody would try again.
+// As much as can be removed; gives the first failure. The class itself goes last and only when all else is
+// gone: without it nobody would try again.
 LSTATUS RemoveAll(const com::ClassEntry& entry, const std::vector<RegistryEntry>& entries) {
     const std::wstring classKey = ClassKey(entry);
     LSTATUS result = ERROR_SUCCESS;

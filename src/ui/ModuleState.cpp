@@ -29,7 +29,8 @@ public:
         HANDLE before = INVALID_HANDLE_VALUE;
         const HANDLE made = CreateActCtxW(&request);
         // Another thread may have been quicker.
-        if (!handle_.compare_exchange_strong(before, made) && made != INVALID_HANDLE_VALUE) ReleaseActCtx(made);
+        if (!handle_.compare_exchange_strong(before, made) && made != INVALID_HANDLE_VALUE)
+            ReleaseActCtx(made);
         return handle_;
     }
 

@@ -15,7 +15,7 @@ inline constexpr int kFinishButton = 0x3025;
 // The flags of the property sheet's set-wizard-buttons message; nothing for a position without buttons.
 std::optional<std::uint32_t> WizardButtons(Position position, bool canAdvance);
 
-// What Enter presses, be it disabled: the sheet would take Back in an unfinished page, and Enter would leave it.
+// What Enter presses, be it disabled: in an unfinished page the sheet would take Back, which leaves it.
 constexpr int DefaultButton(Position position) {
     return position == Position::Last ? kFinishButton : kNextButton;
 }

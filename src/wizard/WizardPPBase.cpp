@@ -1,6 +1,7 @@
 #include "wizard/WizardPPBase.h"
 
 #include <new>
+#include <utility>
 
 #include "com/Guard.h"
 #include "resources/ids.h"
@@ -10,6 +11,7 @@
 #include "ui/Window.h"
 
 namespace recoveryui::wizard {
+
 WizardPPBase::WizardPPBase(WizardPS& sheet, int templateId, bool canAdvance)
     : PropertyPage(templateId, ui::LoadText(IDS_WIZARD_TITLE)),
       sheet_(sheet),

@@ -59,7 +59,8 @@ WizardPS::WizardPS() : PropertySheet(Kind::Wizard, ui::LoadText(IDS_WIZARD_TITLE
 HFONT WizardPS::TitleFont(HWND page, int dpi) {
     ui::Font& font = titleFonts_[dpi];
     LOGFONTW look{};
-    if (font || !GetObjectW(reinterpret_cast<HFONT>(SendMessageW(page, WM_GETFONT, 0, 0)), sizeof look, &look))
+    if (font ||
+        !GetObjectW(reinterpret_cast<HFONT>(SendMessageW(page, WM_GETFONT, 0, 0)), sizeof look, &look))
         return font.Get();
     look.lfHeight = -MulDiv(kTitlePoints, dpi, kPointsPerInch);
     look.lfWeight = FW_BOLD;

@@ -13,6 +13,7 @@ namespace tovarin::store {
 // What a handler throws, and Fields below: the text is not a recovery file.
 struct CorruptStore {};
 
+// A value or a key, without its parts.
 struct JsonNode {
     enum class Kind : std::uint8_t { Null, Truth, Whole, Unsigned, Real, Text, Key, List, Object };
     struct Slice {

@@ -133,8 +133,7 @@ NamedScenario ReadScenario(JsonValue json) {
     return named;
 }
 
-// Spares the parser a third of a file: the spaces that begin its lines. No text can hold a line feed as it
-// is.
+// Spares the parser a third of a file: the spaces that begin its lines. No text holds a bare line feed.
 class Unindented {
 public:
     using iterator_category = std::input_iterator_tag;
