@@ -21,7 +21,6 @@ public:
 
     ITestOptions* Get() const { return options_.Get(); }
     ITestFile* File() const { return file_.Get(); }
-    ITestOptions* Branch() const { return branch_.Get(); }
 
     // Recovery values of the open test or the user's defaults. Reading gives "-" for none.
     std::wstring Stored(const wchar_t* name) const;

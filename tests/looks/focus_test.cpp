@@ -103,8 +103,12 @@ TEST_F(KeyboardTest, EveryPageBeginsWhereSomethingIsToBeDoneAlsoOnTheWayBack) {
                       EXPECT_EQ(screen.Text(wizard, IDC_SCEN_DESCRIPTION), L"one\r\ntwo") << "Enter makes a line";
                       press(2, VK_TAB);
                       Enter(screen, wizard);
-                      while (!finish && title_ != L"Welcome to the Recovery Scenario Wizard")
+                      while (!finish && title_ != L"Welcome to the Recovery Scenario Wizard") {
                           AltB(screen, wizard);
+                          if (title_ == L"Name and Description") {
+                              EXPECT_EQ(screen.Text(wizard, IDC_SCEN_NAME), L"A") << "what was entered is kept";
+                          }
+                      }
                       press(1, finish ? VK_RETURN : VK_ESCAPE);
                   }),
                   finish ? S_OK : S_FALSE);
