@@ -104,6 +104,7 @@ void RecoveryTab::Run(int command) {
 }
 
 bool RecoveryTab::OnNotify(NMHDR& header, LRESULT& answer) {
+    const auto alive = shared_from_this();  // files are read from the host for what the list asks
     return header.idFrom == IDC_RECOVERY_LIST && OnListNotify(header, answer);
 }
 

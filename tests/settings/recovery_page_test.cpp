@@ -1,6 +1,7 @@
 // The Recovery tab as a settings frame of any making meets it.
 #include <windows.h>
 
+#include <commctrl.h>
 #include <olectl.h>
 
 #include "com/Object.h"
@@ -139,25 +140,32 @@ TEST_F(RecoveryPageTest, AFrameThatGoesUnderTheOpenDialogTakesEverythingAlong) {
     EXPECT_EQ(settings_.Stored(L"RecoveryScenarios"), L"-");
 }
 
-TEST_F(RecoveryPageTest, PropertiesAreThoseOfTheChosenScenarioThoughTheHostOpensThePageAnew) {
+TEST_F(RecoveryPageTest, TheHostMayOpenThePageAnewWhileItReadsAFileForIt) {
     const std::wstring file = MakeFile(L"f.trs", {{L"First scenario"}, {L"Other scenario"}});
-    const auto store = [&](const wchar_t* name) {
-        settings_.Store(L"RecoveryScenarios", com::Variant(file + L";" + name + L";1;1*"));
+    const auto open = [&](const std::wstring& records) {
+        settings_.Store(L"RecoveryScenarios", com::Variant(records));
+        EXPECT_EQ(Activate(), S_OK);
     };
-    store(L"First scenario");
-    EXPECT_EQ(Activate(), S_OK);
     const auto journal = New<ICallJournal>(L"Tovarin.CallJournal");
     const auto listener = WhileLoading::Make();
     EXPECT_EQ(journal->AddListener(listener.Get()), S_OK);
-    listener->act = [&] {
+    const std::function<void()> reopen = [&] {
         EXPECT_EQ(page_->Deactivate(), S_OK);
-        store(L"Other scenario");
-        EXPECT_EQ(Activate(), S_OK);
+        open(file + L";Other scenario;1;1*");
     };
+    // The file of a row that comes to be selected, whose icon and description are to be shown.
+    open(L"none.trs;A;1;1*" + file + L";First scenario;1;1*");
+    listener->act = reopen;
+    ListView_SetItemState(GetDlgItem(Tab(), IDC_RECOVERY_LIST), 1, LVIS_SELECTED, LVIS_SELECTED);
+    EXPECT_FALSE(listener->act);
+    EXPECT_EQ(page_->Deactivate(), S_OK);
+
+    open(file + L";First scenario;1;1*");
+    listener->act = reopen;
     {
         const User user([](UserScreen& screen) {
             const HWND sheet = screen.WaitForWindow(L"Recovery Scenario Properties");
-            EXPECT_EQ(screen.Text(sheet, IDC_GENERAL_NAME), L"First scenario");
+            EXPECT_EQ(screen.Text(sheet, IDC_GENERAL_NAME), L"First scenario") << "the chosen one";
             screen.Press(sheet, IDOK);
         });
         SendMessageW(Tab(), WM_COMMAND, IDC_RECOVERY_PROPERTIES, 0);
