@@ -61,33 +61,34 @@ Outcome Append(const std::wstring& path, const std::wstring& functionText) {
     return appended ? Outcome::Appended : Outcome::NotWritten;
 }
 
-void Announce(const std::wstring& path, IFileLocator* locator, IObjectRack* rack) {
-    const com::Bstr located(path);
-    if (support::IsRepositoryPath(path)) {
-        locator->HandBack(located.Get());
-        return;
-    }
-    com::Ptr<IPluginMgr> manager;
-    if (SUCCEEDED(shell::FetchAnywhere(rack, L"TovPluginMgrObject", manager)))
-        manager->LibraryChanged(located.Get());
+// The function is in the library by then: who cannot be told must not let it be written once more.
+void Announce(const com::Bstr& located, IFileLocator* locator, IObjectRack* rack) noexcept {
+    com::Guarded([&] {
+        if (support::IsRepositoryPath(located.View())) return locator->HandBack(located.Get());
+        com::Ptr<IPluginMgr> manager;
+        com::Check(shell::FetchAnywhere(rack, L"TovPluginMgrObject", manager));
+        return manager->LibraryChanged(located.Get());
+    });
 }
 
 }  // namespace
 
-std::vector<std::wstring> AppendNewFunctions(const NewFunctionList& functions, IObjectRack* rack) {
+std::vector<std::wstring> AppendNewFunctions(NewFunctionList& functions, IObjectRack* rack) {
     std::vector<std::wstring> notWritten;
     com::Ptr<IFileLocator> locator;
     if (FAILED(shell::Fetch(rack, L"RACK_FILE_LOCATOR", locator))) return notWritten;
-    for (const NewFunction& function : functions.All()) {
+    while (!functions.All().empty()) {
+        const NewFunction& function = functions.All().front();
         com::Bstr located;
         if (FAILED(locator->Locate(com::Bstr(function.typedPath).Get(), kLocateLibrary, 0, located.Put())) ||
             located.View().empty())
             break;
         switch (Append(located.Text(), function.text)) {
-            case Outcome::Appended: Announce(located.Text(), locator.Get(), rack); break;
+            case Outcome::Appended: Announce(located, locator.Get(), rack); break;
             case Outcome::NotWritten: notWritten.push_back(located.Text()); break;
             case Outcome::NotOpened: break;
         }
+        functions.DropFirst();
     }
     return notWritten;
 }

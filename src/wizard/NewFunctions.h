@@ -26,6 +26,9 @@ public:
     // Forgets the function; says whether there was one.
     bool Drop(std::wstring_view fullPath, std::wstring_view name);
 
+    // Forgets the one that was defined first. There must be one.
+    void DropFirst() { functions_.erase(functions_.begin()); }
+
     // The names waiting for one library.
     std::vector<std::wstring> NamesIn(std::wstring_view fullPath) const;
 

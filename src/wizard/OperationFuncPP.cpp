@@ -188,8 +188,9 @@ void OperationFuncPP::ShowFunction() {
 
 void OperationFuncPP::OnNameTyped() {
     if (!loaded_ || mode_ != FunctionMode::Define) return;
-    newName_ = ui::TextOf(Item(IDC_FUNC_NAME));
-    newText_ = RenameFunction(newText_, newName_);
+    std::wstring name = ui::TextOf(Item(IDC_FUNC_NAME));
+    newText_ = RenameFunction(newText_, name);
+    newName_ = std::move(name);
     {
         Muted muted(*this);
         ui::SetText(Item(IDC_FUNC_TEXT), newText_);
@@ -240,10 +241,12 @@ Leave OperationFuncPP::OnNext() {
         Load();
         return Leave::Stay;
     }
+    const bool defining = mode_ == FunctionMode::Define;
+    // The text may still have the name before, if there was no memory when this one was typed.
+    if (defining && ui::TextOf(Item(IDC_FUNC_NAME)) != newName_) OnNameTyped();
     if (!loaded_ || !CanAdvance()) return Leave::Stay;
     NewFunction function{attempted_, fullPath_, ui::TextOf(Item(IDC_FUNC_NAME)),
                          ui::TextOf(Item(IDC_FUNC_TEXT))};
-    const bool defining = mode_ == FunctionMode::Define;
     if (defining && !AcceptName(function)) return Leave::Stay;
 
     com::Ptr<IFunctionCallRecoveryAction> operation;
