@@ -19,3 +19,6 @@ set(CMAKE_CXX_COMPILER_TARGET ${MINGW_TRIPLET})
 set(CMAKE_CXX_FLAGS_INIT -pthread)
 set(CMAKE_EXE_LINKER_FLAGS_INIT -fuse-ld=lld)
 set(CMAKE_SHARED_LINKER_FLAGS_INIT -fuse-ld=lld)
+# clang emits a function of the standard library's headers that the library holds too.
+set(CMAKE_EXE_LINKER_FLAGS_INIT "${CMAKE_EXE_LINKER_FLAGS_INIT} -Wl,--allow-multiple-definition")
+set(CMAKE_SHARED_LINKER_FLAGS_INIT "${CMAKE_SHARED_LINKER_FLAGS_INIT} -Wl,--allow-multiple-definition")

@@ -72,7 +72,7 @@ TEST_F(HostTest, AHostThatCannotStartSaysWhyAndLeavesNothingBehind) {
     };
     for (const auto& [object, operation, text] : kFaults) {
         FailCall(object, operation);
-        User user([&](UserScreen& screen) { EXPECT_EQ(screen.AnswerBox(IDOK), text); });
+        User user([text = text](UserScreen& screen) { EXPECT_EQ(screen.AnswerBox(IDOK), text); });
         EXPECT_EQ(tovarin::RunHost({}), 1);
     }
 }

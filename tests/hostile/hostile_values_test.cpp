@@ -92,7 +92,7 @@ TEST_F(HostileOptionsTest, TheTabOpensOnOptionsOfEveryType) {
         SCOPED_TRACE(value.Type());
         hostile->value = value;
         hostile->registryPath = nul;
-        OpenSettings([&](UserScreen& screen, HWND frame) {
+        OpenSettings([&, rows = rows](UserScreen& screen, HWND frame) {
             EXPECT_EQ(screen.Ask(screen.Control(frame, IDC_RECOVERY_LIST), LVM_GETITEMCOUNT), rows);
             EXPECT_TRUE(screen.IsEnabled(frame, IDC_RECOVERY_ADD));
             if (rows != 1) return;

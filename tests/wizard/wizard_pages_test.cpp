@@ -112,7 +112,7 @@ TEST_F(WizardPagesTest, EveryErrorIsOfferedExplainedAndKept) {
         const auto trigger = New<IErrorRecoveryTrigger>(L"Vantrel.ErrorRecoveryTrigger");
         EXPECT_EQ(trigger->SetErrorCode(static_cast<long>(code)), S_OK);
         Edit(trigger.Get());
-        Browse([&](UserScreen& screen, HWND wizard) {
+        Browse([&, chosen = chosen](UserScreen& screen, HWND wizard) {
             NextUntil(screen, wizard, L"Select Test Run Error");
             EXPECT_EQ(screen.Chosen(wizard, IDC_SELECT_ERROR_LIST), chosen);
             EXPECT_EQ(CanGoOn(screen, wizard), !chosen.empty());
