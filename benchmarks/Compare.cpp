@@ -77,7 +77,10 @@ void Compare(const std::vector<Line>& lines, int pairs, const Side& product, con
 void State(const std::string& what, const std::string& product, const std::string& floor,
            const std::string& ratio, const std::string& spread, const std::string& goal, bool reached) {
     std::printf(kFormat, what.c_str(), product.c_str(), floor.c_str(), ratio.c_str(), spread.c_str(),
-                goal.c_str(), goal.empty() ? "" : reached ? "reached" : "missed");
+                goal.c_str(),
+                goal.empty() ? ""
+                : reached    ? "reached"
+                             : "missed");
     std::fflush(stdout);
 }
 

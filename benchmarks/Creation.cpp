@@ -12,8 +12,9 @@ namespace recoveryui::bench {
 namespace {
 
 constexpr int kTimes = 50;
-constexpr const wchar_t* kClasses[] = {L"RecoveryWizard", L"RecoveryDlg",         L"RecoveryPP",        L"RecoveryAddDlg",
-                                       L"RecoveryUIAddin", L"RecoveryPPSpecifier", L"ScenarioProperties"};
+constexpr const wchar_t* kClasses[] = {L"RecoveryWizard",    L"RecoveryDlg",     L"RecoveryPP",
+                                       L"RecoveryAddDlg",    L"RecoveryUIAddin", L"RecoveryPPSpecifier",
+                                       L"ScenarioProperties"};
 
 void Create(REFCLSID clsid) {
     for (int i = 0; i < kTimes; ++i) {

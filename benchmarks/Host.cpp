@@ -22,9 +22,12 @@ tovarin::store::Scenario MakeScenario(int number) {
     using namespace tovarin::store;
     Scenario scenario;
     scenario.postRecoveryOption = number % 5;
-    scenario.description = L"Answers the message about the printer and goes on. \x2192 " + std::to_wstring(number);
+    scenario.description =
+        L"Answers the message about the printer and goes on. \x2192 " + std::to_wstring(number);
     switch (number % 4) {
-        case 0: scenario.trigger = PopUpTrigger{{L"Printer.*", 1}, {L"The printer is out of paper.", 0}, 3}; break;
+        case 0:
+            scenario.trigger = PopUpTrigger{{L"Printer.*", 1}, {L"The printer is out of paper.", 0}, 3};
+            break;
         case 1: scenario.trigger = ErrorTrigger{-2147220990}; break;
         case 2: scenario.trigger = CrashTrigger{1, {L"flights.exe", L"orders.exe"}}; break;
         default:
@@ -69,7 +72,8 @@ std::wstring Host::MakeFile(int scenarios) {
     const std::string text = TextOf(MakeScenarios(scenarios));
     const HANDLE file = CreateFileW(path.c_str(), GENERIC_WRITE, 0, nullptr, CREATE_ALWAYS, 0, nullptr);
     DWORD written = 0;
-    Require(WriteFile(file, text.data(), static_cast<DWORD>(text.size()), &written, nullptr), "no file can be made");
+    Require(WriteFile(file, text.data(), static_cast<DWORD>(text.size()), &written, nullptr),
+            "no file can be made");
     CloseHandle(file);
     files_.push_back(path);
     return path;

@@ -23,7 +23,8 @@ public:
     com::Ptr<Interface> New(const wchar_t* progId) const {
         com::Ptr<Interface> object;
         com::Check(com::Create(progId, object));
-        if (const auto client = com::Query<IObjectRackClient>(object.Get())) com::Check(client->SetRack(rack_.Get()));
+        if (const auto client = com::Query<IObjectRackClient>(object.Get()))
+            com::Check(client->SetRack(rack_.Get()));
         return object;
     }
 

@@ -62,24 +62,30 @@ void MeasureIdle(const Host& host) {
         const Messages messages = Wait(kSeconds * 1000);
         const double worked = ProcessorMilliseconds() - before;
         State("idle for 3 s with every dialog open", std::to_string(static_cast<int>(worked)) + " ms CPU",
-              std::to_string(messages.other) + " messages", "", std::to_string(messages.caret) + " blinks", "0 ms",
-              worked == 0 && messages.other == 0);
+              std::to_string(messages.other) + " messages", "", std::to_string(messages.caret) + " blinks",
+              "0 ms", worked == 0 && messages.other == 0);
     };
     host.StoreRecords(MakeRecords(10));
-    const HWND frame = CreateWindowW(L"#32770", L"", WS_OVERLAPPEDWINDOW | WS_VISIBLE, 0, 0, 640, 560, nullptr, nullptr,
-                                     GetModuleHandleW(nullptr), nullptr);
+    const HWND frame = CreateWindowW(L"#32770", L"", WS_OVERLAPPEDWINDOW | WS_VISIBLE, 0, 0, 640, 560,
+                                     nullptr, nullptr, GetModuleHandleW(nullptr), nullptr);
     const RECT place{0, 0, 600, 500};
     com::Check(page->Activate(frame, &place, TRUE));
     com::Check(page->Show(SW_SHOW));
     ask(L"Vantrel.RecoveryDlg", [&](HWND) {
-        ShowModal([&] { com::Check(com::Query<IRecoveryDlg>(wizard.Get())->DoModal()); }, [&](HWND) {
-            const auto add = host.New<IRecoveryAddDlg>(L"Vantrel.RecoveryAddDlg");
-            ShowModal([&] { com::Check(add->DoModal()); }, [&](HWND) {
-                const auto properties = host.New<IScenarioProperties>(L"Vantrel.ScenarioProperties");
-                const com::Bstr file(L"C:\\printer.trs"), name(L"Out of paper");
-                ShowModal([&] { com::Check(properties->DoModal(scenario.Get(), file.Get(), name.Get())); }, measure);
+        ShowModal(
+            [&] { com::Check(com::Query<IRecoveryDlg>(wizard.Get())->DoModal()); },
+            [&](HWND) {
+                const auto add = host.New<IRecoveryAddDlg>(L"Vantrel.RecoveryAddDlg");
+                ShowModal(
+                    [&] { com::Check(add->DoModal()); },
+                    [&](HWND) {
+                        const auto properties = host.New<IScenarioProperties>(L"Vantrel.ScenarioProperties");
+                        const com::Bstr file(L"C:\\printer.trs"), name(L"Out of paper");
+                        ShowModal(
+                            [&] { com::Check(properties->DoModal(scenario.Get(), file.Get(), name.Get())); },
+                            measure);
+                    });
             });
-        });
     });
     page->Deactivate();
     DestroyWindow(frame);

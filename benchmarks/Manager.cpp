@@ -51,32 +51,34 @@ void MeasureManager(Host& host) {
     };
     const auto make = [&](int count) { return Files{host.MakeFile(count), host.MakeFile(count + 1)}; };
     const auto manager = host.New<IRecoveryDlg>(L"Vantrel.RecoveryDlg");
-    ShowModal([&] { com::Check(manager->DoModal()); }, [&](HWND window) {
-        const auto open = [window](const std::wstring& path, int count) {
-            return Timed([=] {
-                Drop(window, path);
-                const HWND list = GetDlgItem(window, IDC_MANAGER_LIST);
-                Require(SendMessageW(list, LVM_GETITEMCOUNT, 0, 0) == count, "the file is not shown");
-            });
-        };
-        struct Size {
-            int count;
-            const char* what;
-            double goal;
-            int pairs;
-        };
-        for (const Size& size : {Size{10, "Manager: open a file of 10 scenarios", 0, 41},
-                                 Size{1'000, "Manager: open a file of 1,000 scenarios", 0, 21},
-                                 Size{10'000, "Manager: open a file of 10,000 scenarios", 0, 11},
-                                 Size{100'000, "Manager: open a file of 100,000 scenarios", 1.15, 3}}) {
-            const Files files = make(size.count);
-            Compare({{size.what, size.goal}}, size.pairs, open(files.product, size.count),
-                    Timed([&] { work(files.floor); }));
-        }
-        constexpr int kMany = 100'020;  // files of their own
-        Compare({{"Manager: 100,000 scenarios against 10,000", 11}}, 3, open(host.MakeFile(kMany), kMany),
-                open(host.MakeFile(kMany / 10), kMany / 10));
-    });
+    ShowModal(
+        [&] { com::Check(manager->DoModal()); },
+        [&](HWND window) {
+            const auto open = [window](const std::wstring& path, int count) {
+                return Timed([=] {
+                    Drop(window, path);
+                    const HWND list = GetDlgItem(window, IDC_MANAGER_LIST);
+                    Require(SendMessageW(list, LVM_GETITEMCOUNT, 0, 0) == count, "the file is not shown");
+                });
+            };
+            struct Size {
+                int count;
+                const char* what;
+                double goal;
+                int pairs;
+            };
+            for (const Size& size : {Size{10, "Manager: open a file of 10 scenarios", 0, 41},
+                                     Size{1'000, "Manager: open a file of 1,000 scenarios", 0, 21},
+                                     Size{10'000, "Manager: open a file of 10,000 scenarios", 0, 11},
+                                     Size{100'000, "Manager: open a file of 100,000 scenarios", 1.15, 3}}) {
+                const Files files = make(size.count);
+                Compare({{size.what, size.goal}}, size.pairs, open(files.product, size.count),
+                        Timed([&] { work(files.floor); }));
+            }
+            constexpr int kMany = 100'020;  // files of their own
+            Compare({{"Manager: 100,000 scenarios against 10,000", 11}}, 3, open(host.MakeFile(kMany), kMany),
+                    open(host.MakeFile(kMany / 10), kMany / 10));
+        });
     com::Check(edited->Load(com::Bstr(L"").Get(), VARIANT_FALSE));
 }
 

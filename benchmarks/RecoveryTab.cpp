@@ -24,8 +24,8 @@ class Tab {
 public:
     Tab(const Host& host, const std::wstring& records)
         : page_(host.New<IPropertyPage>(L"Vantrel.RecoveryPP")),
-          frame_(CreateWindowW(L"#32770", L"", WS_OVERLAPPEDWINDOW | WS_VISIBLE, 0, 0, 640, 560, nullptr, nullptr,
-                               GetModuleHandleW(nullptr), nullptr)) {
+          frame_(CreateWindowW(L"#32770", L"", WS_OVERLAPPEDWINDOW | WS_VISIBLE, 0, 0, 640, 560, nullptr,
+                               nullptr, GetModuleHandleW(nullptr), nullptr)) {
         host.StoreRecords(records);
     }
     ~Tab() {
@@ -61,7 +61,9 @@ public:
     }
     void Check() const { Press(IDC_RECOVERY_TOGGLE); }
     void Apply() const { com::Check(page_->Apply()); }
-    void Repaint() const { RedrawWindow(List(), nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_UPDATENOW); }
+    void Repaint() const {
+        RedrawWindow(List(), nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_UPDATENOW);
+    }
 
     HWND List() const { return Find(frame_); }
 
@@ -94,8 +96,9 @@ void MeasureRecoveryTab(const Host& host) {
             more();
             return std::vector{Now() - start};
         };
-        Compare({{"Recovery tab: open with 10,000 rows", 1.5}}, 21, [&] { return open(text, [] {}); },
-                [&] { return open(MakeRecords(1), [&] { Use(model::ReadRecords(text)); }); });
+        Compare(
+            {{"Recovery tab: open with 10,000 rows", 1.5}}, 21, [&] { return open(text, [] {}); },
+            [&] { return open(MakeRecords(1), [&] { Use(model::ReadRecords(text)); }); });
     }
     Tab few(host, MakeRecords(kFew));
     few.Open();

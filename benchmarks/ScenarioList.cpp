@@ -29,11 +29,11 @@ HWND MakeList(DWORD style) {
     definition.hInstance = GetModuleHandleW(nullptr);
     definition.lpszClassName = L"BenchList";
     RegisterClassW(&definition);
-    const HWND parent = CreateWindowW(definition.lpszClassName, L"", WS_OVERLAPPEDWINDOW | WS_VISIBLE, 0, 0, 400, 300,
-                                      nullptr, nullptr, definition.hInstance, nullptr);
+    const HWND parent = CreateWindowW(definition.lpszClassName, L"", WS_OVERLAPPEDWINDOW | WS_VISIBLE, 0, 0,
+                                      400, 300, nullptr, nullptr, definition.hInstance, nullptr);
     return CreateWindowW(WC_LISTVIEWW, L"",
-                         WS_CHILD | WS_VISIBLE | LVS_REPORT | LVS_NOCOLUMNHEADER | LVS_SINGLESEL | style, 0, 0, 380,
-                         260, parent, nullptr, definition.hInstance, nullptr);
+                         WS_CHILD | WS_VISIBLE | LVS_REPORT | LVS_NOCOLUMNHEADER | LVS_SINGLESEL | style, 0,
+                         0, 380, 260, parent, nullptr, definition.hInstance, nullptr);
 }
 
 void Insert(HWND list, const std::vector<std::wstring>& names) {
@@ -69,7 +69,8 @@ void MeasureScenarioList() {
         list.Fill(names);
         Settle(GetParent(own));
     };
-    Compare({{"scenario list: fill 100,000 rows", 0.05}}, 7, Timed(fill), Timed([&] { Insert(ordinary, names); }));
+    Compare({{"scenario list: fill 100,000 rows", 0.05}}, 7, Timed(fill),
+            Timed([&] { Insert(ordinary, names); }));
     for (const HWND window : {own, ordinary}) {
         Require(ListView_GetItemCount(window) == kRows, "a list is not filled");
         DestroyWindow(GetParent(window));

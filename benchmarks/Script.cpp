@@ -18,7 +18,8 @@ std::wstring MakeLibrary(size_t characters) {
                 L"(Object, Method, Arguments, RetVal)\r\n    Dim answer\r\n"
                 L"    If Browser(\"orders\").Dialog(\"Printer\").Exist(1) Then\r\n"
                 L"        answer = \"paper: \" & Object.GetText() : Log answer, #10:30:00#\r\n"
-                L"        Dialog(\"Printer\").WinButton(\"OK\").Click 12, 0.5\r\n    End If\r\nEnd Function\r\n\r\n";
+                L"        Dialog(\"Printer\").WinButton(\"OK\").Click 12, 0.5\r\n    End If\r\nEnd "
+                L"Function\r\n\r\n";
     }
     return text;
 }

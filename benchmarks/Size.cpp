@@ -17,7 +17,8 @@ ULONGLONG SizeOf(const wchar_t* dll) {
     wchar_t path[MAX_PATH];
     WIN32_FILE_ATTRIBUTE_DATA data{};
     const HMODULE module = LoadLibraryW(dll);
-    Require(GetModuleFileNameW(module, path, MAX_PATH) && GetFileAttributesExW(path, GetFileExInfoStandard, &data),
+    Require(GetModuleFileNameW(module, path, MAX_PATH) &&
+                GetFileAttributesExW(path, GetFileExInfoStandard, &data),
             "a DLL is not there");
     return data.nFileSizeLow;
 }

@@ -26,9 +26,13 @@ HWND FrontDialog() {
     return found;
 }
 
-void Paint(HWND window) { RedrawWindow(window, nullptr, nullptr, RDW_UPDATENOW | RDW_ALLCHILDREN); }
+void Paint(HWND window) {
+    RedrawWindow(window, nullptr, nullptr, RDW_UPDATENOW | RDW_ALLCHILDREN);
+}
 
-bool MorePosted() { return HIWORD(GetQueueStatus(QS_POSTMESSAGE)) != 0; }
+bool MorePosted() {
+    return HIWORD(GetQueueStatus(QS_POSTMESSAGE)) != 0;
+}
 
 struct Visit {
     const std::function<void(HWND)>& act;
@@ -71,7 +75,8 @@ HWND MakeMessageWindow() {
     definition.hInstance = GetModuleHandleW(nullptr);
     definition.lpszClassName = L"BenchStage";
     RegisterClassW(&definition);
-    return CreateWindowW(definition.lpszClassName, L"", 0, 0, 0, 0, 0, HWND_MESSAGE, nullptr, nullptr, nullptr);
+    return CreateWindowW(definition.lpszClassName, L"", 0, 0, 0, 0, 0, HWND_MESSAGE, nullptr, nullptr,
+                         nullptr);
 }
 
 }  // namespace

@@ -26,7 +26,9 @@ public:
     bool end_object() override { return true; }
     bool start_array(std::size_t) override { return true; }
     bool end_array() override { return true; }
-    bool parse_error(std::size_t, const std::string&, const nlohmann::detail::exception&) override { return false; }
+    bool parse_error(std::size_t, const std::string&, const nlohmann::detail::exception&) override {
+        return false;
+    }
 };
 
 void Measure(int count, int pairs, const char* load, const char* save) {
@@ -34,7 +36,8 @@ void Measure(int count, int pairs, const char* load, const char* save) {
     const std::string text = TextOf(scenarios);
     const auto read = [&] {
         std::vector<tovarin::store::NamedScenario> loaded;
-        Require(tovarin::store::ReadStore(text, loaded) == tovarin::store::ReadResult::Read, "the text is refused");
+        Require(tovarin::store::ReadStore(text, loaded) == tovarin::store::ReadResult::Read,
+                "the text is refused");
         Use(loaded);
     };
     Compare({{load, 1.6}}, pairs, Timed(read), Timed([&] {

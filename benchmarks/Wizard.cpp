@@ -12,10 +12,10 @@
 namespace recoveryui::bench {
 namespace {
 
-constexpr int kPages[] = {IDD_WELCOME,         IDD_SELECT_TRIGGER, IDD_POPUP,    IDD_SELECT_OBJECT,
-                          IDD_OBJECT_PROPS,    IDD_SELECT_ERROR,   IDD_CRASH,   IDD_OPERATION_LIST,
-                          IDD_SELECT_OPERATION, IDD_OPERATION_CLICK, IDD_OPERATION_FUNC, IDD_CLOSE_PROCESSES,
-                          IDD_TEST_FLOW,       IDD_SCEN_DESCRIPTION, IDD_SUMMARY};
+constexpr int kPages[] = {IDD_WELCOME,          IDD_SELECT_TRIGGER,   IDD_POPUP,          IDD_SELECT_OBJECT,
+                          IDD_OBJECT_PROPS,     IDD_SELECT_ERROR,     IDD_CRASH,          IDD_OPERATION_LIST,
+                          IDD_SELECT_OPERATION, IDD_OPERATION_CLICK,  IDD_OPERATION_FUNC, IDD_CLOSE_PROCESSES,
+                          IDD_TEST_FLOW,        IDD_SCEN_DESCRIPTION, IDD_SUMMARY};
 constexpr int kSteps = 2;   // from the welcome page; what comes later needs input
 constexpr int kRounds = 5;  // of later visits
 
@@ -44,7 +44,8 @@ std::vector<double> Visit(const std::function<void()>& show) {
     return {open, first / kSteps, later / (2 * kRounds * kSteps)};
 }
 
-// What the pages' pictures alone come to: one that is there already, of the size that the wizard shows at 96 DPI.
+// What the pages' pictures alone come to: one that is there already, of the size that the wizard shows at 96
+// DPI.
 INT_PTR CALLBACK ShowPicture(HWND page, UINT message, WPARAM, LPARAM) {
     static const HBITMAP picture = [] {
         BITMAPINFO info{};
@@ -52,11 +53,14 @@ INT_PTR CALLBACK ShowPicture(HWND page, UINT message, WPARAM, LPARAM) {
         return CreateDIBSection(nullptr, &info, DIB_RGB_COLORS, nullptr, nullptr, 0);
     }();
     if (message == WM_INITDIALOG)
-        SendDlgItemMessageW(page, IDC_PAGE_BITMAP, STM_SETIMAGE, IMAGE_BITMAP, reinterpret_cast<LPARAM>(picture));
+        SendDlgItemMessageW(page, IDC_PAGE_BITMAP, STM_SETIMAGE, IMAGE_BITMAP,
+                            reinterpret_cast<LPARAM>(picture));
     return FALSE;
 }
 
-INT_PTR CALLBACK DoNothing(HWND, UINT, WPARAM, LPARAM) { return FALSE; }
+INT_PTR CALLBACK DoNothing(HWND, UINT, WPARAM, LPARAM) {
+    return FALSE;
+}
 
 void ShowBareSheet(DLGPROC procedure) {
     const HINSTANCE component = GetModuleHandleW(L"RecoveryUI.dll");
@@ -86,14 +90,16 @@ void MeasureWizard(const Host& host) {
     com::Check(wizard->put_Repository(host.New<IUnknown>(L"Vantrel.RecoveryRepository").Get()));
     const auto dialog = com::Query<IRecoveryDlg>(wizard.Get());
     const Side bare = [] { return Visit([] { ShowBareSheet(&DoNothing); }); };
-    Compare({{"wizard: open until the first page is painted", 1.10},
-             {"wizard: turn to a page for the first time", 1.15},
-             {"wizard: turn to a page again", 1.15}},
-            21, [&] { return Visit([&] { com::Check(dialog->DoModal()); }); }, bare);
-    Compare({{"bare sheet with pictures: open", 0},
-             {"bare sheet with pictures: turn, first time", 0},
-             {"bare sheet with pictures: turn again", 0}},
-            21, [] { return Visit([] { ShowBareSheet(&ShowPicture); }); }, bare);
+    Compare(
+        {{"wizard: open until the first page is painted", 1.10},
+         {"wizard: turn to a page for the first time", 1.15},
+         {"wizard: turn to a page again", 1.15}},
+        21, [&] { return Visit([&] { com::Check(dialog->DoModal()); }); }, bare);
+    Compare(
+        {{"bare sheet with pictures: open", 0},
+         {"bare sheet with pictures: turn, first time", 0},
+         {"bare sheet with pictures: turn again", 0}},
+        21, [] { return Visit([] { ShowBareSheet(&ShowPicture); }); }, bare);
 }
 
 }  // namespace recoveryui::bench

@@ -63,4 +63,6 @@ STDAPI DllGetClassObject(REFCLSID clsid, REFIID iid, LPVOID* factory) {
     }
 }
 
-STDAPI DllCanUnloadNow() { return alive == 0 ? S_OK : S_FALSE; }
+STDAPI DllCanUnloadNow() {
+    return alive == 0 ? S_OK : S_FALSE;
+}

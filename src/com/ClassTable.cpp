@@ -25,7 +25,8 @@ private:
 
 }  // namespace
 
-HRESULT GetClassObject(std::span<const ClassEntry> classes, REFCLSID clsid, REFIID iid, void** factory) noexcept {
+HRESULT GetClassObject(std::span<const ClassEntry> classes, REFCLSID clsid, REFIID iid,
+                       void** factory) noexcept {
     if (!factory) return E_POINTER;
     *factory = nullptr;
     for (const ClassEntry& entry : classes) {

@@ -16,6 +16,7 @@ struct ClassEntry {
 };
 
 // What DllGetClassObject answers. The table outlives every factory.
-HRESULT GetClassObject(std::span<const ClassEntry> classes, REFCLSID clsid, REFIID iid, void** factory) noexcept;
+HRESULT GetClassObject(std::span<const ClassEntry> classes, REFCLSID clsid, REFIID iid,
+                       void** factory) noexcept;
 
 }  // namespace recoveryui::com

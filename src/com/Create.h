@@ -10,7 +10,8 @@ HRESULT CreateByProgId(const wchar_t* progId, REFIID iid, void** object) noexcep
 
 template <class Interface>
 [[nodiscard]] HRESULT Create(const wchar_t* progId, Ptr<Interface>& object) noexcept {
-    return CreateByProgId(progId, __uuidof(Interface), reinterpret_cast<void**>(object.ReleaseAndGetAddressOf()));
+    return CreateByProgId(progId, __uuidof(Interface),
+                          reinterpret_cast<void**>(object.ReleaseAndGetAddressOf()));
 }
 
 }  // namespace recoveryui::com

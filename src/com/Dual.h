@@ -50,7 +50,8 @@ public:
         return description_.GetIds(iid, names, count, ids);
     }
     HRESULT STDMETHODCALLTYPE Invoke(DISPID id, REFIID iid, LCID, WORD flags, DISPPARAMS* parameters,
-                                     VARIANT* result, EXCEPINFO* exception, UINT* argument) noexcept override {
+                                     VARIANT* result, EXCEPINFO* exception,
+                                     UINT* argument) noexcept override {
         return description_.Invoke(this, id, iid, flags, parameters, result, exception, argument);
     }
 

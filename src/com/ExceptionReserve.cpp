@@ -50,6 +50,8 @@ void PrepareExceptions() noexcept {
     ThrowAndCatch();
 }
 
-void ReleaseExceptionReserve() noexcept { __gnu_cxx::__freeres(); }
+void ReleaseExceptionReserve() noexcept {
+    __gnu_cxx::__freeres();
+}
 
 }  // namespace recoveryui::com

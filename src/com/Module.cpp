@@ -10,7 +10,9 @@ std::atomic<LONG> objects{0};
 std::atomic<LONG> locks{0};
 }  // namespace
 
-HINSTANCE Module::Instance() noexcept { return reinterpret_cast<HINSTANCE>(&__ImageBase); }
+HINSTANCE Module::Instance() noexcept {
+    return reinterpret_cast<HINSTANCE>(&__ImageBase);
+}
 
 std::wstring Module::FileName() {
     std::wstring path(256, L'\0');
@@ -24,10 +26,20 @@ std::wstring Module::FileName() {
     }
 }
 
-void Module::AddObject() noexcept { ++objects; }
-void Module::RemoveObject() noexcept { --objects; }
-LONG Module::ObjectCount() noexcept { return objects; }
-void Module::Lock(bool lock) noexcept { lock ? ++locks : --locks; }
-bool Module::CanUnload() noexcept { return objects == 0 && locks == 0; }
+void Module::AddObject() noexcept {
+    ++objects;
+}
+void Module::RemoveObject() noexcept {
+    --objects;
+}
+LONG Module::ObjectCount() noexcept {
+    return objects;
+}
+void Module::Lock(bool lock) noexcept {
+    lock ? ++locks : --locks;
+}
+bool Module::CanUnload() noexcept {
+    return objects == 0 && locks == 0;
+}
 
 }  // namespace recoveryui::com

@@ -121,7 +121,8 @@ public:
     [[nodiscard]] HRESULT ForEach(Use use) const {
         for (ULONG place = 0; place < Count(); ++place) {
             Owner element{};
-            const HRESULT hr = GetElement(static_cast<LONG>(static_cast<ULONG>(LowerBound()) + place), &element);
+            const HRESULT hr =
+                GetElement(static_cast<LONG>(static_cast<ULONG>(LowerBound()) + place), &element);
             if (FAILED(hr)) return hr;
             use(std::move(element));
         }

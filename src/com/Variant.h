@@ -45,7 +45,9 @@ public:
         std::swap(value_, other.value_);
         return *this;
     }
-    Variant(const Variant& other) : Variant() { Check(VariantCopy(&value_, const_cast<VARIANT*>(&other.value_))); }
+    Variant(const Variant& other) : Variant() {
+        Check(VariantCopy(&value_, const_cast<VARIANT*>(&other.value_)));
+    }
     Variant& operator=(const Variant& other) {
         Check(VariantCopy(&value_, const_cast<VARIANT*>(&other.value_)));
         return *this;

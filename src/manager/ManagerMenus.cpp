@@ -50,8 +50,7 @@ void AppendSeparator(const ui::Menu& menu) {
 // A path as a menu can show it: not wider than the screen, and without mnemonics.
 std::wstring EntryOf(std::wstring path) {
     constexpr size_t kLongest = 100, kBeginning = 30;
-    if (path.size() > kLongest)
-        path.replace(kBeginning, path.size() - kLongest, L"...");
+    if (path.size() > kLongest) path.replace(kBeginning, path.size() - kLongest, L"...");
     return support::ReplaceAll(path, L"&", L"&&");
 }
 

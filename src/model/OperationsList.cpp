@@ -2,8 +2,8 @@
 
 #include "com/SafeArray.h"
 #include "model/FileLocator.h"
-#include "model/Kinds.h"
 #include "model/KeyNames.h"
+#include "model/Kinds.h"
 #include "model/OperationRows.h"
 #include "resources/ids.h"
 #include "ui/Strings.h"

@@ -118,7 +118,8 @@ int AssociationView::ClickedCheckBox(const NMITEMACTIVATE& click) const {
     return hit.flags == LVHT_ONITEMSTATEICON && list_.Has(hit.iItem) ? hit.iItem : kNoRow;
 }
 
-LRESULT CALLBACK AssociationView::KeyProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam) noexcept {
+LRESULT CALLBACK AssociationView::KeyProcedure(HWND window, UINT message, WPARAM wParam,
+                                               LPARAM lParam) noexcept {
     if (const int command = CommandOf(message, wParam)) {
         SendMessageW(GetParent(window), WM_COMMAND, static_cast<WPARAM>(command), 0);
         return 0;

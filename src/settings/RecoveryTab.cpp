@@ -132,7 +132,9 @@ bool RecoveryTab::OnMessage(UINT message, WPARAM, LPARAM, LRESULT&) {
     }
 }
 
-void RecoveryTab::OnDpiChanged() { view_.MakeImages(); }
+void RecoveryTab::OnDpiChanged() {
+    view_.MakeImages();
+}
 
 void RecoveryTab::OnHelp() {
     ui::ShowHelpTopic(Window(), support::topics::kRecoveryTab, rack_.Get());

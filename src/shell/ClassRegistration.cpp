@@ -25,7 +25,7 @@ std::wstring ScriptText() {
 
 std::vector<RegistryEntry> EntriesOf(const com::ClassEntry& entry) {
     const Replacement replacements[] = {
-        {L"CLSID", GuidText(*entry.clsid)}, {L"PROGID", entry.progId},
+        {L"CLSID", GuidText(*entry.clsid)},  {L"PROGID", entry.progId},
         {L"DESCRIPTION", entry.description}, {L"TYPELIB", GuidText(LIBID_RecoveryUILib)},
         {L"RELATIVE_PATH", BareFileName()},
     };
@@ -46,7 +46,9 @@ HRESULT RunScript(const std::vector<RegistryEntry>& entries) {
     return S_OK;
 }
 
-std::wstring ClassKey(const com::ClassEntry& entry) { return L"CLSID\\" + GuidText(*entry.clsid); }
+std::wstring ClassKey(const com::ClassEntry& entry) {
+    return L"CLSID\\" + GuidText(*entry.clsid);
+}
 
 // As much as can be removed; gives the first failure. The class itself goes last and only when all else is
 // gone: without it nobody would try again.

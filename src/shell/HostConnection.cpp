@@ -9,7 +9,9 @@
 
 namespace recoveryui::shell {
 
-HostConnection::HostConnection(HostConnection&& other) noexcept { *this = std::move(other); }
+HostConnection::HostConnection(HostConnection&& other) noexcept {
+    *this = std::move(other);
+}
 
 HostConnection& HostConnection::operator=(HostConnection&& other) noexcept {
     if (this == &other) return *this;
@@ -23,13 +25,15 @@ HostConnection& HostConnection::operator=(HostConnection&& other) noexcept {
     return *this;
 }
 
-HostConnection::~HostConnection() { Close(); }
+HostConnection::~HostConnection() {
+    Close();
+}
 
 HRESULT HostConnection::Open(IUnknown* manager, IObjectRack* rack, IUnknown* target) {
     auto commands = com::Query<IMenuCommands>(manager);
     if (!commands) return E_NOINTERFACE;
-    const HRESULT hr =
-        commands->RegisterCommand(com::Bstr(ui::LoadText(IDS_ADDIN_COMMAND)).Get(), target, &group_, &command_);
+    const HRESULT hr = commands->RegisterCommand(com::Bstr(ui::LoadText(IDS_ADDIN_COMMAND)).Get(), target,
+                                                 &group_, &command_);
     if (FAILED(hr)) return hr;
     commands_ = std::move(commands);
     const HRESULT added = AddSettingsPages(rack);

@@ -60,7 +60,8 @@ public:
         }
         return S_OK;
     }
-    HRESULT STDMETHODCALLTYPE Exec(const GUID* group, DWORD command, DWORD, VARIANT*, VARIANT*) noexcept override {
+    HRESULT STDMETHODCALLTYPE Exec(const GUID* group, DWORD command, DWORD, VARIANT*,
+                                   VARIANT*) noexcept override {
         if (!connection_.IsGroup(group)) return OLECMDERR_E_UNKNOWNGROUP;
         if (!connection_.IsCommand(command)) return OLECMDERR_E_NOTSUPPORTED;
         if (!Rack()) return OLECMDERR_E_DISABLED;
@@ -96,6 +97,8 @@ private:
 
 }  // namespace
 
-HRESULT CreateRecoveryUIAddin(REFIID iid, void** object) noexcept { return RecoveryUIAddin::Create(iid, object); }
+HRESULT CreateRecoveryUIAddin(REFIID iid, void** object) noexcept {
+    return RecoveryUIAddin::Create(iid, object);
+}
 
 }  // namespace recoveryui::shell

@@ -18,7 +18,8 @@ HRESULT RegisterLibrary() {
     const bool wasRegistered = static_cast<bool>(library.OpenPlatformKey());
     HRESULT hr = library.Register();
     if (SUCCEEDED(hr)) hr = CountLibrary(library);
-    if (FAILED(hr) && !wasRegistered) [[maybe_unused]] const HRESULT undone = library.Unregister();
+    if (FAILED(hr) && !wasRegistered) [[maybe_unused]]
+        const HRESULT undone = library.Unregister();
     return hr;
 }
 

@@ -17,7 +17,7 @@ struct Replacement {
 
 struct RegistryEntry {
     std::wstring key;
-    std::wstring valueName;  // empty for the key's default value
+    std::wstring valueName;            // empty for the key's default value
     std::optional<std::wstring> text;  // nothing: only the key itself
 };
 

@@ -5,6 +5,8 @@
 namespace __gnu_cxx {
 
 // NOLINTNEXTLINE(bugprone-reserved-identifier): the library's name
-void __verbose_terminate_handler() { std::abort(); }
+void __verbose_terminate_handler() {
+    std::abort();
+}
 
 }  // namespace __gnu_cxx

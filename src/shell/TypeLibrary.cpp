@@ -47,9 +47,11 @@ void TypeLibrary::RemoveInterfaces() const {
     for (UINT index = 0; index < library_->GetTypeInfoCount(); ++index) {
         com::Ptr<ITypeInfo> info;
         TYPEATTR* attributes = nullptr;
-        if (FAILED(library_->GetTypeInfo(index, info.GetAddressOf())) || FAILED(info->GetTypeAttr(&attributes)))
+        if (FAILED(library_->GetTypeInfo(index, info.GetAddressOf())) ||
+            FAILED(info->GetTypeAttr(&attributes)))
             continue;
-        const bool isInterface = attributes->typekind == TKIND_INTERFACE || attributes->typekind == TKIND_DISPATCH;
+        const bool isInterface =
+            attributes->typekind == TKIND_INTERFACE || attributes->typekind == TKIND_DISPATCH;
         for (const RegistryKey& view : views) {
             if (isInterface && view) DeleteTree(view.Get(), GuidText(attributes->guid));
         }

@@ -5,28 +5,24 @@
 namespace recoveryui::ui {
 
 INT_PTR Dialog::ShowModal(HWND owner) {
-    const INT_PTR result =
-        DialogBoxParamW(com::Module::Instance(), MAKEINTRESOURCEW(TemplateId()), owner, &Dialog::Procedure,
-                        reinterpret_cast<LPARAM>(this));
+    const INT_PTR result = DialogBoxParamW(com::Module::Instance(), MAKEINTRESOURCEW(TemplateId()), owner,
+                                           &Dialog::Procedure, reinterpret_cast<LPARAM>(this));
     Attach(nullptr);
     if (failure_) std::rethrow_exception(std::exchange(failure_, nullptr));
     if (result == -1) throw com::HResultError(HRESULT_FROM_WIN32(GetLastError()));
     return result;
 }
 
-void Dialog::End(INT_PTR code) noexcept { EndDialog(Window(), code); }
+void Dialog::End(INT_PTR code) noexcept {
+    EndDialog(Window(), code);
+}
 
 bool Dialog::OnCommand(const Command& command) {
     switch (command.id) {
         case IDOK:
-        case IDCANCEL:
-            End(command.id);
-            return true;
-        case IDHELP:
-            OnHelp();
-            return true;
-        default:
-            return false;
+        case IDCANCEL: End(command.id); return true;
+        case IDHELP: OnHelp(); return true;
+        default: return false;
     }
 }
 

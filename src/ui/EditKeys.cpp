@@ -46,8 +46,7 @@ LRESULT CALLBACK EnterProcedure(HWND window, UINT message, WPARAM wParam, LPARAM
 void LeaveKeysToSheet(HWND page) {
     HWND edit = nullptr;
     while ((edit = FindWindowExW(page, edit, WC_EDITW, nullptr)) != nullptr) {
-        if (GetWindowLongPtrW(edit, GWL_STYLE) & ES_MULTILINE)
-            PutBefore(edit, &MultiLineProcedure);
+        if (GetWindowLongPtrW(edit, GWL_STYLE) & ES_MULTILINE) PutBefore(edit, &MultiLineProcedure);
     }
 }
 

@@ -54,8 +54,7 @@ Bitmap CopyToBitmap(IWICBitmapSource& source, UINT width, UINT height) {
     const UINT stride = (width * 3 + 3) / 4 * 4;
     void* pixels = nullptr;
     Bitmap bitmap(CreateDIBSection(nullptr, &info, DIB_RGB_COLORS, &pixels, nullptr, 0));
-    if (!bitmap ||
-        FAILED(source.CopyPixels(nullptr, stride, stride * height, static_cast<BYTE*>(pixels))))
+    if (!bitmap || FAILED(source.CopyPixels(nullptr, stride, stride * height, static_cast<BYTE*>(pixels))))
         return {};
     return bitmap;
 }

@@ -25,9 +25,9 @@ TTTOOLINFOW ToolFor(HWND dialog, HWND control) {
 // Without memory there is no tip, but the window is made to its end.
 void ToolTips::Add(HWND dialog, HWND control, int stringId) try {
     if (!window_) {
-        window_ = CreateWindowExW(WS_EX_TOPMOST, TOOLTIPS_CLASSW, nullptr, WS_POPUP | TTS_NOPREFIX | TTS_ALWAYSTIP,
-                                  CW_USEDEFAULT, CW_USEDEFAULT, CW_USEDEFAULT, CW_USEDEFAULT, dialog, nullptr,
-                                  com::Module::Instance(), nullptr);
+        window_ = CreateWindowExW(
+            WS_EX_TOPMOST, TOOLTIPS_CLASSW, nullptr, WS_POPUP | TTS_NOPREFIX | TTS_ALWAYSTIP, CW_USEDEFAULT,
+            CW_USEDEFAULT, CW_USEDEFAULT, CW_USEDEFAULT, dialog, nullptr, com::Module::Instance(), nullptr);
     }
     std::wstring text = LoadText(stringId);
     TTTOOLINFOW tool = ToolFor(dialog, control);

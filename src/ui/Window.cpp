@@ -17,9 +17,13 @@ std::wstring TextOf(HWND window) {
     return text;
 }
 
-void SetText(HWND window, const std::wstring& text) { SetWindowTextW(window, text.c_str()); }
+void SetText(HWND window, const std::wstring& text) {
+    SetWindowTextW(window, text.c_str());
+}
 
-bool IsChecked(HWND button) { return SendMessageW(button, BM_GETCHECK, 0, 0) == BST_CHECKED; }
+bool IsChecked(HWND button) {
+    return SendMessageW(button, BM_GETCHECK, 0, 0) == BST_CHECKED;
+}
 
 void SetChecked(HWND button, bool checked) {
     SendMessageW(button, BM_SETCHECK, checked ? BST_CHECKED : BST_UNCHECKED, 0);

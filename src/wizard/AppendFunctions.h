@@ -10,8 +10,9 @@
 namespace recoveryui::wizard {
 
 // In order of definition. A library that cannot be opened is skipped; one that cannot be located ends the
-// appending; neither is reported. Gives the libraries that could be opened but not be written (a full disk): they
-// are as they were. What has been dealt with leaves the list, so that after an exception the rest can be tried again.
+// appending; neither is reported. Gives the libraries that could be opened but not be written (a full disk):
+// they are as they were. What has been dealt with leaves the list, so that after an exception the rest can be
+// tried again.
 std::vector<std::wstring> AppendNewFunctions(NewFunctionList& functions, IObjectRack* rack);
 
 }  // namespace recoveryui::wizard

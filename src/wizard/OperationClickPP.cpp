@@ -80,8 +80,7 @@ bool OperationClickPP::OnCommand(const ui::Command& command) {
         case IDC_CLICK_HAND:
             if (command.code == BN_CLICKED) OnPointingHand();
             return true;
-        default:
-            return WizardPPBase::OnCommand(command);
+        default: return WizardPPBase::OnCommand(command);
     }
 }
 
@@ -102,14 +101,10 @@ void OperationClickPP::OnPointingHand() {
 
 Leave OperationClickPP::OnNext() {
     switch (Choice()) {
-        case ClickChoice::Enter:
-            return AddKeys(model::Press(model::kKeyEnter));
-        case ClickChoice::Escape:
-            return AddKeys(model::Press(model::kKeyEscape));
-        case ClickChoice::ButtonLabel:
-            return AddButtonClick();
-        case ClickChoice::Keys:
-            return AddKeyCombination();
+        case ClickChoice::Enter: return AddKeys(model::Press(model::kKeyEnter));
+        case ClickChoice::Escape: return AddKeys(model::Press(model::kKeyEscape));
+        case ClickChoice::ButtonLabel: return AddButtonClick();
+        case ClickChoice::Keys: return AddKeyCombination();
     }
     return Leave::Stay;
 }
@@ -129,7 +124,8 @@ Leave OperationClickPP::AddKeys(const std::vector<std::uint32_t>& sequence) {
     com::Check(com::Create(L"Vantrel.KeyBoardSimulatorRecoveryAction", operation));
     com::CVtlSafeArray<unsigned long> entries;
     com::Check(entries.Create(static_cast<ULONG>(sequence.size())));
-    for (size_t i = 0; i < sequence.size(); ++i) com::Check(entries.PutElement(static_cast<LONG>(i), sequence[i]));
+    for (size_t i = 0; i < sequence.size(); ++i)
+        com::Check(entries.PutElement(static_cast<LONG>(i), sequence[i]));
     com::Check(operation->SetKeySequence(entries.Get()));
     return AddOperation(operation.Get());
 }

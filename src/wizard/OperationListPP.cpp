@@ -29,7 +29,9 @@ void OperationListPP::OnActivate() {
     ShowNoteOrCheckBox();
 }
 
-model::OperationList OperationListPP::Order() const { return {State().operations.size(), State().restartWindows}; }
+model::OperationList OperationListPP::Order() const {
+    return {State().operations.size(), State().restartWindows};
+}
 
 void OperationListPP::Fill(int selected) {
     model::FillOperationsList(Rows(), State().operations, State().restartWindows, State().rack.Get());
@@ -48,14 +50,9 @@ bool OperationListPP::OnCommand(const ui::Command& command) {
     if (command.code != BN_CLICKED) return WizardPPBase::OnCommand(command);
     switch (command.id) {
         case IDC_OPERATION_LIST_UP:
-        case IDC_OPERATION_LIST_DOWN:
-            Move(command.id == IDC_OPERATION_LIST_UP);
-            return true;
-        case IDC_OPERATION_LIST_DELETE:
-            Delete();
-            return true;
-        default:
-            return WizardPPBase::OnCommand(command);
+        case IDC_OPERATION_LIST_DOWN: Move(command.id == IDC_OPERATION_LIST_UP); return true;
+        case IDC_OPERATION_LIST_DELETE: Delete(); return true;
+        default: return WizardPPBase::OnCommand(command);
     }
 }
 
@@ -88,15 +85,12 @@ void OperationListPP::Delete() {
     if (selected < 0) return;
     const auto row = static_cast<size_t>(selected);
     switch (model::DeletionOf(Order(), row)) {
-        case model::Deletion::Restart:
-            State().restartWindows = false;
-            break;
+        case model::Deletion::Restart: State().restartWindows = false; break;
         case model::Deletion::Operation:
             ForgetNewFunction(State().operations[row].Get());
             State().operations.erase(State().operations.begin() + selected);
             break;
-        case model::Deletion::None:
-            return;
+        case model::Deletion::None: return;
     }
     Fill(selected);
     ShowNoteOrCheckBox();
@@ -106,7 +100,8 @@ void OperationListPP::Delete() {
 void OperationListPP::ForgetNewFunction(IRecoveryAction* operation) {
     const auto call = com::Query<IFunctionCallRecoveryAction>(operation);
     com::Bstr library, name;
-    if (!call || FAILED(call->GetLibraryPath(library.Put())) || FAILED(call->GetFunctionName(name.Put()))) return;
+    if (!call || FAILED(call->GetLibraryPath(library.Put())) || FAILED(call->GetFunctionName(name.Put())))
+        return;
     State().newFunctions.Drop(model::FullPath(State().rack.Get(), library.Text()), name.Text());
 }
 

@@ -9,8 +9,8 @@
 namespace recoveryui::wizard {
 namespace {
 
-class RecoveryWizard final
-    : public com::Object<RecoveryWizard, com::Dual<IRecoveryWizard>, com::Dual<IRecoveryDlg>, shell::RackClient> {
+class RecoveryWizard final : public com::Object<RecoveryWizard, com::Dual<IRecoveryWizard>,
+                                                com::Dual<IRecoveryDlg>, shell::RackClient> {
 public:
     HRESULT STDMETHODCALLTYPE get_Scenario(IUnknown** scenario) noexcept override {
         if (!scenario) return E_POINTER;
@@ -83,6 +83,8 @@ private:
 
 }  // namespace
 
-HRESULT CreateRecoveryWizard(REFIID iid, void** object) noexcept { return RecoveryWizard::Create(iid, object); }
+HRESULT CreateRecoveryWizard(REFIID iid, void** object) noexcept {
+    return RecoveryWizard::Create(iid, object);
+}
 
 }  // namespace recoveryui::wizard

@@ -57,7 +57,8 @@ void SelectPopupPP::OnInit() {
     Show(popup ? ReadTrigger(*popup.Get()) : FreshConditions());
 }
 
-// A title that cannot be read ends the initialisation; a text that cannot be read only leaves its condition out.
+// A title that cannot be read ends the initialisation; a text that cannot be read only leaves its condition
+// out.
 PopupConditions SelectPopupPP::ReadTrigger(IPopUpRecoveryTrigger& trigger) const {
     PopupConditions conditions;
     com::Bstr title, text;
@@ -113,8 +114,7 @@ bool SelectPopupPP::OnCommand(const ui::Command& command) {
         case IDC_POPUP_TEXT:
             if (command.code == EN_CHANGE) Validate();
             return true;
-        default:
-            return WizardPPBase::OnCommand(command);
+        default: return WizardPPBase::OnCommand(command);
     }
 }
 
@@ -137,7 +137,8 @@ Leave SelectPopupPP::OnNext() {
     com::Ptr<IPopUpRecoveryTrigger> trigger;
     com::Check(com::Create(L"Vantrel.PopUpRecoveryTrigger", trigger));
     if (conditions.title.checked)
-        com::Check(trigger->SetWindowTitle(com::Bstr(conditions.title.value).Get(), conditions.title.isRegex));
+        com::Check(
+            trigger->SetWindowTitle(com::Bstr(conditions.title.value).Get(), conditions.title.isRegex));
     if (conditions.text.checked)
         com::Check(trigger->SetWindowText(com::Bstr(conditions.StoredText()).Get(), conditions.text.isRegex));
     com::Check(trigger->SetPopUpOption(0));

@@ -13,7 +13,7 @@ public:
     explicit SelectPopupPP(WizardPS& sheet);
 
 private:
-    void OnInit() override;  // from the sheet's trigger, if it is a pop-up trigger
+    void OnInit() override;   // from the sheet's trigger, if it is a pop-up trigger
     Leave OnNext() override;  // a new trigger object on every Next
     bool OnCommand(const ui::Command& command) override;
     HWND FirstFocus() const override;  // where something can be typed

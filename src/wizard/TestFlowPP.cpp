@@ -12,7 +12,9 @@ constexpr ui::RadioGroup kRadios{IDC_TEST_FLOW_FIRST, IDC_TEST_FLOW_LAST};
 
 TestFlowPP::TestFlowPP(WizardPS& sheet) : WizardPPBase(sheet, IDD_TEST_FLOW, true) {}
 
-HWND TestFlowPP::Button(int choice) const { return Item(kRadios.first + choice); }
+HWND TestFlowPP::Button(int choice) const {
+    return Item(kRadios.first + choice);
+}
 
 void TestFlowPP::OnInit() {
     WizardPPBase::OnInit();

@@ -35,7 +35,8 @@ bool IsPushButton(HWND window, DWORD_PTR dialogCode) {
 std::wstring CaptionOf(HWND window) {
     const size_t length = std::min<size_t>(Ask(window, WM_GETTEXTLENGTH, 0, 0).value_or(0), kLongestCaption);
     std::wstring text(length + 1, L'\0');
-    const size_t given = Ask(window, WM_GETTEXT, text.size(), reinterpret_cast<LPARAM>(text.data())).value_or(0);
+    const size_t given =
+        Ask(window, WM_GETTEXT, text.size(), reinterpret_cast<LPARAM>(text.data())).value_or(0);
     text.resize(given <= length ? given : 0);
     return text;
 }

@@ -72,7 +72,8 @@ std::vector<HWND> Descendants(HWND window) {
 
 HWND FindBox() {
     for (const HWND window : TopLevelWindows())
-        if (IsWindowVisible(window) && ClassOf(window) == L"#32770" && GetDlgItem(window, kBoxText)) return window;
+        if (IsWindowVisible(window) && ClassOf(window) == L"#32770" && GetDlgItem(window, kBoxText))
+            return window;
     return nullptr;
 }
 

@@ -76,7 +76,8 @@ bool UiThread::WaitForIdle(ULONGLONG deadline) const {
 
 void PumpUntil(HANDLE signal) {
     // Messages that somebody has looked at without taking them count as well.
-    while (MsgWaitForMultipleObjectsEx(1, &signal, INFINITE, QS_ALLINPUT, MWMO_INPUTAVAILABLE) != WAIT_OBJECT_0) {
+    while (MsgWaitForMultipleObjectsEx(1, &signal, INFINITE, QS_ALLINPUT, MWMO_INPUTAVAILABLE) !=
+           WAIT_OBJECT_0) {
         MSG message;
         while (PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE)) {
             TranslateMessage(&message);

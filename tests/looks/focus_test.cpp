@@ -68,50 +68,50 @@ TEST_F(KeyboardTest, EveryPageBeginsWhereSomethingIsToBeDoneAlsoOnTheWayBack) {
     const auto object = FakeTestObject::LoginName();
     EXPECT_EQ(state->SetTestObject(object.Get()), S_OK);
     EXPECT_EQ(crash->SetProcesses(ArrayOf<BSTR>(std::vector<std::wstring>{L"order.exe"}).Get()), S_OK);
-    const com::Ptr<IUnknown> triggers[] = {com::Query<IUnknown>(PopUp(L"Error").Get()),
-                                           com::Query<IUnknown>(state.Get()),
-                                           New<IUnknown>(L"Vantrel.ErrorRecoveryTrigger"),
-                                           com::Query<IUnknown>(crash.Get())};
+    const com::Ptr<IUnknown> triggers[] = {
+        com::Query<IUnknown>(PopUp(L"Error").Get()), com::Query<IUnknown>(state.Get()),
+        New<IUnknown>(L"Vantrel.ErrorRecoveryTrigger"), com::Query<IUnknown>(crash.Get())};
     for (int kind = 0; kind < 4; ++kind) {
         Edit(triggers[kind].Get());
         const bool finish = kind == 3;
-        EXPECT_EQ(Run([&](UserScreen& screen, HWND wizard) {
-                      const auto press = [&](int times, WORD key) {
-                          for (; times > 0; --times) screen.RealKeys({key});
-                      };
-                      do Enter(screen, wizard);
-                      while (title_ != L"Recovery Operation");
-                      press(kind, VK_DOWN);
-                      Enter(screen, wizard);
-                      if (kind == 1 || kind == 2) {  // unfinished: Enter stays
-                          AltB(screen, wizard);
-                          press(kind, VK_UP);
-                          Enter(screen, wizard);
-                      }
-                      if (kind < 3) Enter(screen, wizard);
-                      press(4, VK_TAB);
-                      EXPECT_EQ(screen.FocusId(), IDC_OPERATION_LIST_ANOTHER);
-                      press(1, VK_SPACE);
-                      Enter(screen, wizard);
-                      Enter(screen, wizard);
-                      EXPECT_EQ(screen.WizardButtons(wizard), L"B n* f");
-                      screen.Type(L"A");
-                      press(1, VK_TAB);
-                      screen.Type(L"one");
-                      press(1, VK_RETURN);
-                      screen.Type(L"two");
-                      EXPECT_EQ(screen.Text(wizard, IDC_SCEN_DESCRIPTION), L"one\r\ntwo") << "Enter makes a line";
-                      press(2, VK_TAB);
-                      Enter(screen, wizard);
-                      while (!finish && title_ != L"Welcome to the Recovery Scenario Wizard") {
-                          AltB(screen, wizard);
-                          if (title_ == L"Name and Description") {
-                              EXPECT_EQ(screen.Text(wizard, IDC_SCEN_NAME), L"A") << "what was entered is kept";
-                          }
-                      }
-                      press(1, finish ? VK_RETURN : VK_ESCAPE);
-                  }),
-                  finish ? S_OK : S_FALSE);
+        EXPECT_EQ(
+            Run([&](UserScreen& screen, HWND wizard) {
+                const auto press = [&](int times, WORD key) {
+                    for (; times > 0; --times) screen.RealKeys({key});
+                };
+                do Enter(screen, wizard);
+                while (title_ != L"Recovery Operation");
+                press(kind, VK_DOWN);
+                Enter(screen, wizard);
+                if (kind == 1 || kind == 2) {  // unfinished: Enter stays
+                    AltB(screen, wizard);
+                    press(kind, VK_UP);
+                    Enter(screen, wizard);
+                }
+                if (kind < 3) Enter(screen, wizard);
+                press(4, VK_TAB);
+                EXPECT_EQ(screen.FocusId(), IDC_OPERATION_LIST_ANOTHER);
+                press(1, VK_SPACE);
+                Enter(screen, wizard);
+                Enter(screen, wizard);
+                EXPECT_EQ(screen.WizardButtons(wizard), L"B n* f");
+                screen.Type(L"A");
+                press(1, VK_TAB);
+                screen.Type(L"one");
+                press(1, VK_RETURN);
+                screen.Type(L"two");
+                EXPECT_EQ(screen.Text(wizard, IDC_SCEN_DESCRIPTION), L"one\r\ntwo") << "Enter makes a line";
+                press(2, VK_TAB);
+                Enter(screen, wizard);
+                while (!finish && title_ != L"Welcome to the Recovery Scenario Wizard") {
+                    AltB(screen, wizard);
+                    if (title_ == L"Name and Description") {
+                        EXPECT_EQ(screen.Text(wizard, IDC_SCEN_NAME), L"A") << "what was entered is kept";
+                    }
+                }
+                press(1, finish ? VK_RETURN : VK_ESCAPE);
+            }),
+            finish ? S_OK : S_FALSE);
     }
     EXPECT_EQ(seen_.size(), kFirstFocus.size());
 }

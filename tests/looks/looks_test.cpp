@@ -93,7 +93,8 @@ std::pair<int, int> Drawn(HMODULE module, int id, int size, COLORREF ground) {
     const auto icon = static_cast<HICON>(LoadImageW(module, MAKEINTRESOURCEW(id), IMAGE_ICON, size, size, 0));
     DrawIconEx(memory, 0, 0, icon, size, size, 0, nullptr, DI_NORMAL);
     int left = 0;
-    for (int pixel = 0; pixel < size * size; ++pixel) left += GetPixel(memory, pixel % size, pixel / size) == ground;
+    for (int pixel = 0; pixel < size * size; ++pixel)
+        left += GetPixel(memory, pixel % size, pixel / size) == ground;
     DestroyIcon(icon);
     DeleteDC(memory);
     DeleteObject(bitmap);

@@ -50,7 +50,8 @@ void Player::Try(const std::function<void()>& step) {
         } catch (const std::runtime_error& problem) {
             if (std::string(problem.what()) == kStandsStill) throw;
             const bool boxed = ReadBoxAway();
-            if (attempt == kTries || (!boxed && std::string(problem.what()).find("has returned") != std::string::npos))
+            if (attempt == kTries ||
+                (!boxed && std::string(problem.what()).find("has returned") != std::string::npos))
                 throw;
         }
     }
@@ -120,7 +121,8 @@ void Actor::Act(const test::UiThread& ui, const Script& script) {
         script(player);
     } catch (const std::exception& problem) {
         gaveUp_ = problem.what();
-        if (gaveUp_ == kStandsStill) problems_.push_back("no answer for a long time\n" + test::DescribeWindows());
+        if (gaveUp_ == kStandsStill)
+            problems_.push_back("no answer for a long time\n" + test::DescribeWindows());
     }
     CloseAll(ui);
 }

@@ -14,8 +14,8 @@ PROCESS_INFORMATION StartChild(const std::wstring& arguments, HANDLE output, con
         start.hStdOutput = start.hStdError = output;
     }
     PROCESS_INFORMATION child{};
-    CreateProcessW(program.c_str(), command.data(), nullptr, nullptr, output != nullptr, DETACHED_PROCESS, nullptr, nullptr, &start,
-                   &child);
+    CreateProcessW(program.c_str(), command.data(), nullptr, nullptr, output != nullptr, DETACHED_PROCESS,
+                   nullptr, nullptr, &start, &child);
     CloseHandle(child.hThread);
     return child;
 }

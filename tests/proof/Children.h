@@ -9,7 +9,8 @@
 namespace recoveryui::proof {
 
 // Starts a program of this one's folder, or this one itself; the process handle is the caller's.
-PROCESS_INFORMATION StartChild(const std::wstring& arguments, HANDLE output = nullptr, const wchar_t* program = nullptr);
+PROCESS_INFORMATION StartChild(const std::wstring& arguments, HANDLE output = nullptr,
+                               const wchar_t* program = nullptr);
 
 // Runs it to its end, with each line of its output; gives its exit code.
 DWORD RunChild(const std::wstring& arguments, const std::function<void(const std::string& line)>& onLine,

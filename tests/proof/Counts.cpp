@@ -1,7 +1,7 @@
 #include "proof/Counts.h"
 
-#include <windows.h>
 #include <objbase.h>
+#include <windows.h>
 
 #include <atomic>
 
@@ -26,7 +26,8 @@ public:
         return block;
     }
     void STDMETHODCALLTYPE PostFree(BOOL) noexcept override {}
-    SIZE_T STDMETHODCALLTYPE PreRealloc(void* block, SIZE_T bytes, void** given, BOOL spied) noexcept override {
+    SIZE_T STDMETHODCALLTYPE PreRealloc(void* block, SIZE_T bytes, void** given,
+                                        BOOL spied) noexcept override {
         *given = block;
         wasFresh_ = !block || !spied;
         return bytes;
@@ -76,7 +77,8 @@ const char* NameOfGdiKind(size_t kind) {
     }
 }
 
-// GetGuiResources always answers 0 where this runs; the platform's table of them tells. An entry without a kind is free.
+// GetGuiResources always answers 0 where this runs; the platform's table of them tells. An entry without a
+// kind is free.
 std::array<long, 128> CountGdiObjects() {
     constexpr size_t kTableInPeb = 0xF8, kEntrySize = 24, kEntries = 0x4000;
     static const auto currentPeb = reinterpret_cast<char*(WINAPI*)()>(
@@ -109,7 +111,9 @@ long Lives(const wchar_t* module) {
 
 }  // namespace
 
-void Counts::WatchTaskMemory() { CoRegisterMallocSpy(TaskMemorySpy::Make().Get()); }
+void Counts::WatchTaskMemory() {
+    CoRegisterMallocSpy(TaskMemorySpy::Make().Get());
+}
 
 Counts Counts::Take() {
     Counts counts;

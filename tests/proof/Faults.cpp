@@ -23,8 +23,12 @@ constexpr unsigned kWatchdogSeconds = 40;
 constexpr size_t kBlock = 300;  // playings of one process
 constexpr Outside kKinds[] = {Outside::Memory, Outside::Platform, Outside::Host};
 
-const char* NameOf(Outside outside) { return kOutsideNames[static_cast<int>(outside)]; }
-std::wstring Wide(const std::string& text) { return {text.begin(), text.end()}; }
+const char* NameOf(Outside outside) {
+    return kOutsideNames[static_cast<int>(outside)];
+}
+std::wstring Wide(const std::string& text) {
+    return {text.begin(), text.end()};
+}
 
 // A fault in one word: the kind's first letter, "*" when it lasts, the number of the call ("m*12").
 std::string Word(const Fault& fault) {
@@ -133,18 +137,18 @@ private:
         const bool again = !isTrace || ShowsAgain(current_);
         ++(again ? totals_[current_[0]].problems : totals_[current_[0]].once);
         std::printf("  %s %s under %s:%s\n    again: prove faults --journey %s --calls %s\n",
-                    again ? "PROBLEM" : "SEEN ONCE", journey_.c_str(), current_.c_str(), said_.c_str(), journey_.c_str(),
-                    current_.c_str());
+                    again ? "PROBLEM" : "SEEN ONCE", journey_.c_str(), current_.c_str(), said_.c_str(),
+                    journey_.c_str(), current_.c_str());
         said_.clear();
     }
     // What the platform keeps of its own drawing, and when, is no fault of the call.
     bool ShowsAgain(const std::string& fault) const {
         bool isClean = true;
-        const DWORD code = RunChild(L"play --journey " + Wide(journey_) + L" --calls " +
-                                        Wide(fault + "," + fault + "," + fault),
-                                    [&](const std::string& line) {
-                                        if (line.rfind("over ", 0) == 0) isClean &= line.ends_with(" 0");
-                                    });
+        const DWORD code = RunChild(
+            L"play --journey " + Wide(journey_) + L" --calls " + Wide(fault + "," + fault + "," + fault),
+            [&](const std::string& line) {
+                if (line.rfind("over ", 0) == 0) isClean &= line.ends_with(" 0");
+            });
         return code != 0 || !isClean;
     }
 
@@ -232,7 +236,8 @@ int PlantedFaults() {
         std::printf("  PROBLEM %s was not found\n", journey.name);
         ++missed;
     }
-    std::printf("PROOF faults, planted: %zu journeys that break a promise, %d not found\n", PlantedJourneys().size(), missed);
+    std::printf("PROOF faults, planted: %zu journeys that break a promise, %d not found\n",
+                PlantedJourneys().size(), missed);
     return missed ? 1 : 0;
 }
 
@@ -252,7 +257,8 @@ int Faults(const Options& options) {
             faults.clear();
             for (const Outside outside : kKinds)
                 for (const bool lasting : {false, true})
-                    for (const long nth : Chosen(surveys[NameOf(outside)], options.Number(L"--most", 0), seed))
+                    for (const long nth :
+                         Chosen(surveys[NameOf(outside)], options.Number(L"--most", 0), seed))
                         faults.push_back(Word({outside, nth, lasting}));
         }
         Season season(journey);
@@ -261,10 +267,11 @@ int Faults(const Options& options) {
         for (const Outside outside : kKinds) {
             const Totals& totals = season.Of(outside);
             const Survey& survey = surveys[NameOf(outside)];
-            std::printf(" %s %ld calls from %zu places, %ld played, %ld failed, %ld came to their end, %ld problems, "
-                        "%ld seen once;",
-                        NameOf(outside), survey.calls, survey.places.size(), totals.playings, totals.failed,
-                        totals.done, totals.problems, totals.once);
+            std::printf(
+                " %s %ld calls from %zu places, %ld played, %ld failed, %ld came to their end, %ld problems, "
+                "%ld seen once;",
+                NameOf(outside), survey.calls, survey.places.size(), totals.playings, totals.failed,
+                totals.done, totals.problems, totals.once);
             all.playings += totals.playings;
             all.problems += totals.problems;
         }

@@ -42,19 +42,23 @@ public:
         for (const bool exists : {true, false}) {
             long places = 0;
             Prepare(L"place.trs", exists);
-            RunChild(Die(0), [&](const std::string& line) { places = std::stol(line.substr(line.find(' '))); }, kSaver);
+            RunChild(
+                Die(0), [&](const std::string& line) { places = std::stol(line.substr(line.find(' '))); },
+                kSaver);
             for (long place = 1; place <= places; ++place) {
                 Prepare(L"place.trs", exists);
-                const DWORD code = RunChild(Die(place), [](const std::string&) {}, kSaver);
+                const DWORD code = RunChild(
+                    Die(place), [](const std::string&) {}, kSaver);
                 const int version = VersionIn(L"place.trs");
                 const bool isOld = exists ? version == 1 : !fs::exists(folder_ / L"place.trs");
                 ++count.kills;
                 // A first save has no version before it.
                 count.changed += !isOld;
-                if (code == 9 && (isOld || version == (exists ? 2 : 0)) && CanBeSavedAgain(L"place.trs")) continue;
+                if (code == 9 && (isOld || version == (exists ? 2 : 0)) && CanBeSavedAgain(L"place.trs"))
+                    continue;
                 ++count.problems;
-                std::printf("  PROBLEM killed at place %ld of %ld of a save over %s: version %d, code %lu\n", place,
-                            places, exists ? "a file" : "nothing", version, code);
+                std::printf("  PROBLEM killed at place %ld of %ld of a save over %s: version %d, code %lu\n",
+                            place, places, exists ? "a file" : "nothing", version, code);
             }
             if (places == 0) ++count.problems;
         }
@@ -104,11 +108,14 @@ public:
     Count Race(long rounds) {
         Count count;
         Prepare(L"race.trs", true);
-        const std::wstring arguments = L"race \"" + (folder_ / L"race.trs").wstring() + L"\" " + std::to_wstring(rounds);
+        const std::wstring arguments =
+            L"race \"" + (folder_ / L"race.trs").wstring() + L"\" " + std::to_wstring(rounds);
         std::vector<int> replaced;
         const PROCESS_INFORMATION rival = StartChild(arguments, nullptr, kSaver);
-        RunChild(arguments, [&](const std::string& line) { replaced.push_back(std::stoi(line.substr(line.find(' ')))); },
-                 kSaver);
+        RunChild(
+            arguments,
+            [&](const std::string& line) { replaced.push_back(std::stoi(line.substr(line.find(' ')))); },
+            kSaver);
         WaitForSingleObject(rival.hProcess, INFINITE);
         CloseHandle(rival.hProcess);
         count.kills = static_cast<long>(replaced.size());
@@ -123,8 +130,12 @@ public:
 private:
     static std::wstring NameOf(size_t saver) { return L"random " + std::to_wstring(saver) + L".trs"; }
     std::wstring Quoted(const std::wstring& name) const { return L"\"" + (folder_ / name).wstring() + L"\""; }
-    std::wstring Die(long place) const { return L"die " + Quoted(L"place.trs") + L" " + std::to_wstring(place); }
-    std::wstring Loop(const std::wstring& way, size_t saver) const { return way + L" " + Quoted(NameOf(saver)); }
+    std::wstring Die(long place) const {
+        return L"die " + Quoted(L"place.trs") + L" " + std::to_wstring(place);
+    }
+    std::wstring Loop(const std::wstring& way, size_t saver) const {
+        return way + L" " + Quoted(NameOf(saver));
+    }
 
     void Prepare(const std::wstring& name, bool exists) const {
         fs::remove(folder_ / name);
@@ -157,11 +168,15 @@ int Kills(const Options& options) {
     const Count race = run.Race(std::max(rounds / 10, 20L));
     // A store that writes into the file itself must be found out.
     const Count planted = run.AtRandom(std::min(rounds, 100L), seed, L"bad-loop");
-    std::printf("PROOF kills: at every place %ld kills, %ld after the change, %ld problems; at random %ld kills, %ld with "
-                "a new version, %ld problems; two editors %d versions, %ld problems; planted bad store found %ld times; "
-                "seed %u, %llu s\n",
-                places.kills, places.changed, places.problems, random.kills, random.changed, random.problems,
-                static_cast<int>(race.changed), race.problems, planted.problems, seed, (GetTickCount64() - begun) / 1000);
+    std::printf(
+        "PROOF kills: at every place %ld kills, %ld after the change, %ld problems; at random %ld kills, %ld "
+        "with "
+        "a new version, %ld problems; two editors %d versions, %ld problems; planted bad store found %ld "
+        "times; "
+        "seed %u, %llu s\n",
+        places.kills, places.changed, places.problems, random.kills, random.changed, random.problems,
+        static_cast<int>(race.changed), race.problems, planted.problems, seed,
+        (GetTickCount64() - begun) / 1000);
     const bool isLively = random.changed > rounds / 2;
     if (!isLively) std::printf("  PROBLEM the savers hardly ever got to save\n");
     if (planted.problems == 0) std::printf("  PROBLEM the bad store was not found\n");

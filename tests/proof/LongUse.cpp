@@ -27,8 +27,8 @@ void OpenAndClose(Openings& openings, size_t dialog, long rounds, bool plantLeak
     RunPendingMessages();
 }
 
-// Gives what there is more at the end; "" for nothing. What the platform keeps, it keeps once, or for a while on a
-// busy machine: a growth counts when as many rounds again make it grow each time.
+// Gives what there is more at the end; "" for nothing. What the platform keeps, it keeps once, or for a while
+// on a busy machine: a growth counts when as many rounds again make it grow each time.
 std::string Growth(size_t dialog, long rounds, bool plantLeak) {
     Openings openings;
     OpenAndClose(openings, dialog, kWarmUp, plantLeak);
@@ -37,7 +37,8 @@ std::string Growth(size_t dialog, long rounds, bool plantLeak) {
         const Counts before = Counts::Take();
         OpenAndClose(openings, dialog, rounds, plantLeak);
         Counts after = Counts::Take();
-        // The platform draws with a few objects of its own, made now and then; a leak comes with every opening.
+        // The platform draws with a few objects of its own, made now and then; a leak comes with every
+        // opening.
         for (size_t kind = 0; kind < after.gdi.size(); ++kind)
             if (after.gdi[kind] - before.gdi[kind] < rounds / 2) after.gdi[kind] = before.gdi[kind];
         growth = after.Against(before);
@@ -86,7 +87,8 @@ int OpenOften(const Options& options) {
         std::printf("%s%.1f bytes of each loading\n", bytes < 8 ? "flat: " : "", bytes);
     } else {
         LoadModules();
-        const std::string left = Growth(static_cast<size_t>(dialog), rounds, options.Number(L"--plant", 0) != 0);
+        const std::string left =
+            Growth(static_cast<size_t>(dialog), rounds, options.Number(L"--plant", 0) != 0);
         std::printf("%s\n", left.empty() ? "flat: nothing" : left.c_str());
     }
     TerminateProcess(GetCurrentProcess(), 0);
@@ -99,7 +101,8 @@ int LongUse(const Options& options) {
     int problems = 0;
     const auto isFlat = [](const std::wstring& arguments, std::string& said) {
         said.clear();
-        const DWORD code = RunChild(L"open " + arguments, [&](const std::string& line) { said += line + " "; });
+        const DWORD code =
+            RunChild(L"open " + arguments, [&](const std::string& line) { said += line + " "; });
         return code == 0 && said.rfind("flat", 0) == 0;
     };
     std::string said;
@@ -112,7 +115,8 @@ int LongUse(const Options& options) {
         problems += !flat;
     }
     const bool missed = isFlat(L"--dialog 5 --plant 1 --rounds 10", said);
-    std::printf("%s long use, planted leak %s\n", missed ? "  PROBLEM" : "PROOF", missed ? "not found" : "found");
+    std::printf("%s long use, planted leak %s\n", missed ? "  PROBLEM" : "PROOF",
+                missed ? "not found" : "found");
     return problems + missed == 0 ? 0 : 1;
 }
 

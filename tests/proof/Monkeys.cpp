@@ -52,7 +52,8 @@ private:
         return active;
     }
     static bool IsFileDialog(HWND window) {
-        return window && GetWindowLongPtrW(window, GWLP_HINSTANCE) == reinterpret_cast<LONG_PTR>(GetModuleHandleW(L"comdlg32.dll"));
+        return window && GetWindowLongPtrW(window, GWLP_HINSTANCE) ==
+                             reinterpret_cast<LONG_PTR>(GetModuleHandleW(L"comdlg32.dll"));
     }
     HWND ControlOf(HWND window) {
         for (int tries = 0; tries < 20 && !controls_.empty(); ++tries) {
@@ -73,7 +74,8 @@ private:
         const std::wstring kind = test::ClassOf(window);
         if (kind == kHand || FindWindowW(kHand, nullptr)) return player.RealKeys({VK_ESCAPE});
         // What the platform itself shows is soon left again.
-        const bool foreign = kind == L"#32768" || IsFileDialog(window) || IsFileDialog(GetWindow(window, GW_OWNER));
+        const bool foreign =
+            kind == L"#32768" || IsFileDialog(window) || IsFileDialog(GetWindow(window, GW_OWNER));
         if (foreign && Below(4) == 0) return Leave(player, window);
         controls_ = test::Descendants(window);
         inputs_ += kInputsAtOnce - 1;
@@ -82,8 +84,9 @@ private:
             player.Do(raw_ && !foreign ? Message(window, control) : Input(control));
         }
     }
-    // As the system does it: keys go to the focus, and to no window that has been hidden with its page meanwhile.
-    // (The platform looks for mnemonics in a circle from the window with the key, endlessly where it is hidden.)
+    // As the system does it: keys go to the focus, and to no window that has been hidden with its page
+    // meanwhile. (The platform looks for mnemonics in a circle from the window with the key, endlessly where
+    // it is hidden.)
     static void PostKey(UINT message, WPARAM key, LPARAM more) {
         const HWND focus = GetFocus();
         if (focus && IsWindowVisible(focus)) PostMessageW(focus, message, key, more);
@@ -99,9 +102,11 @@ private:
     }
 
     std::function<void()> Input(HWND control) {
-        constexpr WORD kKeys[] = {VK_TAB,  VK_RETURN, VK_ESCAPE, VK_SPACE, VK_UP,     VK_DOWN, VK_LEFT, VK_RIGHT,
-                                  VK_HOME, VK_END,    VK_DELETE, VK_F1,    VK_INSERT, VK_F4,   VK_BACK, VK_PRIOR};
-        constexpr wchar_t kLetters[] = {L'a', L'Z', L'0', L' ', L'\\', L';', L'*', L'\x4e2d', L'\xfc', L'"', L'.', L'1'};
+        constexpr WORD kKeys[] = {VK_TAB,    VK_RETURN, VK_ESCAPE, VK_SPACE, VK_UP,     VK_DOWN,
+                                  VK_LEFT,   VK_RIGHT,  VK_HOME,   VK_END,   VK_DELETE, VK_F1,
+                                  VK_INSERT, VK_F4,     VK_BACK,   VK_PRIOR};
+        constexpr wchar_t kLetters[] = {L'a', L'Z',      L'0',    L' ', L'\\', L';',
+                                        L'*', L'\x4e2d', L'\xfc', L'"', L'.',  L'1'};
         RECT place{};
         GetClientRect(control, &place);
         const LPARAM at = MAKELPARAM(Below(std::max(1L, place.right)), Below(std::max(1L, place.bottom)));
@@ -124,27 +129,30 @@ private:
         };
     }
 
-    // Messages whose parameters hold neither addresses nor drawing surfaces, with any parameters; notifications come from real controls.
+    // Messages whose parameters hold neither addresses nor drawing surfaces, with any parameters;
+    // notifications come from real controls.
     std::function<void()> Message(HWND window, HWND control) {
         constexpr UINT kMessages[] = {
-            WM_COMMAND,      WM_COMMAND,      WM_COMMAND,       WM_COMMAND,     WM_SIZE,        WM_MOVE,
-            WM_ENABLE,       WM_SETFOCUS,     WM_KILLFOCUS,     WM_TIMER,       WM_HSCROLL,     WM_VSCROLL,
-            WM_CONTEXTMENU,  WM_INITMENU,     WM_SYSCOLORCHANGE, WM_FONTCHANGE, WM_PAINT,       WM_NCPAINT,
-            WM_MOUSEMOVE,    WM_LBUTTONDOWN,  WM_LBUTTONUP,     WM_RBUTTONDOWN, WM_RBUTTONUP,   WM_MOUSELEAVE,
-            WM_KEYDOWN,      WM_KEYUP,        WM_CHAR,          WM_SYSCHAR,     WM_CAPTURECHANGED, WM_CANCELMODE,
-            WM_THEMECHANGED, WM_DISPLAYCHANGE, WM_SHOWWINDOW,   WM_ACTIVATE,    WM_CLOSE,       WM_NEXTDLGCTL,
-            WM_APP,          WM_APP + 1,      WM_APP + 2,       WM_APP + 61,    WM_APP + 62,    WM_USER + 5000};
+            WM_COMMAND,      WM_COMMAND,       WM_COMMAND,     WM_COMMAND,        WM_SIZE,
+            WM_MOVE,         WM_ENABLE,        WM_SETFOCUS,    WM_KILLFOCUS,      WM_TIMER,
+            WM_HSCROLL,      WM_VSCROLL,       WM_CONTEXTMENU, WM_INITMENU,       WM_SYSCOLORCHANGE,
+            WM_FONTCHANGE,   WM_PAINT,         WM_NCPAINT,     WM_MOUSEMOVE,      WM_LBUTTONDOWN,
+            WM_LBUTTONUP,    WM_RBUTTONDOWN,   WM_RBUTTONUP,   WM_MOUSELEAVE,     WM_KEYDOWN,
+            WM_KEYUP,        WM_CHAR,          WM_SYSCHAR,     WM_CAPTURECHANGED, WM_CANCELMODE,
+            WM_THEMECHANGED, WM_DISPLAYCHANGE, WM_SHOWWINDOW,  WM_ACTIVATE,       WM_CLOSE,
+            WM_NEXTDLGCTL,   WM_APP,           WM_APP + 1,     WM_APP + 2,        WM_APP + 61,
+            WM_APP + 62,     WM_USER + 5000};
         const UINT message = OneOf(kMessages);
         const bool isCommand = message == WM_COMMAND;
-        // The platform's own controls need not bear what only their parts tell them, and closed they are gone: the list
-        // of a combo box too, without which the file dialog looks for its folders endlessly.
+        // The platform's own controls need not bear what only their parts tell them, and closed they are
+        // gone: the list of a combo box too, without which the file dialog looks for its folders endlessly.
         const bool forDialogs = isCommand || message == WM_CLOSE || message >= WM_USER;
         HWND dialog = GetParent(control);
         while (dialog && test::ClassOf(dialog) != L"#32770") dialog = GetParent(dialog);
         const HWND target = forDialogs ? dialog ? dialog : window : Below(2) ? window : control;
         const WORD id = Below(4) ? static_cast<WORD>(GetDlgCtrlID(control)) : static_cast<WORD>(Below(3000));
         const WPARAM wParam = isCommand ? MAKEWPARAM(id, Below(3) ? 0 : Below(1100)) : Below(300);
-        const LPARAM lParam = isCommand                  ? reinterpret_cast<LPARAM>(Below(4) ? control : nullptr)
+        const LPARAM lParam = isCommand ? reinterpret_cast<LPARAM>(Below(4) ? control : nullptr)
                               : message == WM_NEXTDLGCTL ? FALSE
                               : message == WM_CAPTURECHANGED || message == WM_TIMER
                                   ? 0
@@ -156,7 +164,8 @@ private:
         return [=] {
             PostMessageW(target, message, wParam, lParam);
             // A list waits for the end of a press, and whoever presses lets go.
-            if (message == WM_LBUTTONDOWN || message == WM_RBUTTONDOWN) PostMessageW(target, message + 1, 0, lParam);
+            if (message == WM_LBUTTONDOWN || message == WM_RBUTTONDOWN)
+                PostMessageW(target, message + 1, 0, lParam);
         };
     }
 
@@ -189,7 +198,8 @@ int PlayMonkey(const Options& options) {
             Actor actor(kPatience, [] {});
             openings.Open(opening % dialogs, actor, [&](Player& player, HWND window) {
                 inputs += monkey.Use(player, window);
-                if (options.Number(L"--plant", 0)) player.Do([] { RaiseException(EXCEPTION_ACCESS_VIOLATION, 0, 0, nullptr); });
+                if (options.Number(L"--plant", 0))
+                    player.Do([] { RaiseException(EXCEPTION_ACCESS_VIOLATION, 0, 0, nullptr); });
             });
             for (const std::string& problem : actor.Problems()) std::printf("PROBLEM %s\n", problem.c_str());
             problems += static_cast<int>(actor.Problems().size());
@@ -207,15 +217,17 @@ int PlayMonkey(const Options& options) {
 }
 
 int Monkeys(const Options& options) {
-    const long wanted = options.Number(L"--inputs", 1'000'000), seed = options.Number(L"--seed", 1), ofOne = 20'000;
+    const long wanted = options.Number(L"--inputs", 1'000'000), seed = options.Number(L"--seed", 1),
+               ofOne = 20'000;
     const bool raw = options.Number(L"--raw", 0) != 0;
     const ULONGLONG begun = GetTickCount64();
     long made = 0;
     int problems = 0, processes = 0;
     // A process of its own for some of the inputs; gives its exit code.
     const auto play = [&](long inputs, long own, bool plant) {
-        const std::wstring arguments = L"monkey --raw " + std::to_wstring(raw) + L" --inputs " + std::to_wstring(inputs) +
-                                       L" --seed " + std::to_wstring(own) + L" --plant " + std::to_wstring(plant);
+        const std::wstring arguments = L"monkey --raw " + std::to_wstring(raw) + L" --inputs " +
+                                       std::to_wstring(inputs) + L" --seed " + std::to_wstring(own) +
+                                       L" --plant " + std::to_wstring(plant);
         std::string said;
         const DWORD code = RunChild(arguments, [&](const std::string& line) {
             if (line.rfind("made ", 0) == 0) made += std::stol(line.substr(5));
@@ -227,15 +239,16 @@ int Monkeys(const Options& options) {
             }
         });
         if (code != 0 && !plant)
-            std::printf("  PROBLEM code %lu%s\n    again: prove %s\n", code, said.c_str(), test::Utf8(arguments).c_str());
+            std::printf("  PROBLEM code %lu%s\n    again: prove %s\n", code, said.c_str(),
+                        test::Utf8(arguments).c_str());
         return code;
     };
     for (long done = 0; done < wanted; done += ofOne, ++processes)
         problems += play(std::min(ofOne, wanted - done), seed + processes, false) != 0;
     const bool found = play(10, seed, true) == kCrashed;
-    std::printf("PROOF monkeys: %ld %s in %d processes, %d problems; planted crash %s; seed %ld, %llu s\n", made,
-                raw ? "raw messages" : "valid inputs", processes, problems, found ? "found" : "NOT FOUND", seed,
-                (GetTickCount64() - begun) / 1000);
+    std::printf("PROOF monkeys: %ld %s in %d processes, %d problems; planted crash %s; seed %ld, %llu s\n",
+                made, raw ? "raw messages" : "valid inputs", processes, problems,
+                found ? "found" : "NOT FOUND", seed, (GetTickCount64() - begun) / 1000);
     return problems == 0 && found ? 0 : 1;
 }
 

@@ -11,16 +11,34 @@ namespace recoveryui::proof {
 namespace {
 
 constexpr wchar_t kWizard[] = L"Recovery Scenario Wizard", kProperties[] = L"Recovery Scenario Properties";
-constexpr const char* kNames[] = {"wizard", "wizard, editing", "manager", "add dialog", "tab", "properties of a pop-up",
-                                  "properties of a state", "properties of an error", "properties of a crash"};
-constexpr const wchar_t* kTitles[] = {kWizard, kWizard, L"Recovery Scenario Manager", L"Add Recovery Scenario",
-                                      L"Test Settings", kProperties, kProperties, kProperties, kProperties};
+constexpr const char* kNames[] = {"wizard",
+                                  "wizard, editing",
+                                  "manager",
+                                  "add dialog",
+                                  "tab",
+                                  "properties of a pop-up",
+                                  "properties of a state",
+                                  "properties of an error",
+                                  "properties of a crash"};
+constexpr const wchar_t* kTitles[] = {kWizard,
+                                      kWizard,
+                                      L"Recovery Scenario Manager",
+                                      L"Add Recovery Scenario",
+                                      L"Test Settings",
+                                      kProperties,
+                                      kProperties,
+                                      kProperties,
+                                      kProperties};
 
 }  // namespace
 
-Openings::Openings() { rack_.Put(L"HelpViewer", help_.Get()); }
+Openings::Openings() {
+    rack_.Put(L"HelpViewer", help_.Get());
+}
 
-std::span<const char* const> Openings::Names() { return kNames; }
+std::span<const char* const> Openings::Names() {
+    return kNames;
+}
 
 void Openings::Open(size_t dialog, Actor& actor, const Script& script) {
     actor.During([&] { return Show(dialog); },
@@ -55,7 +73,8 @@ void LoadModules() {
     const HMODULE component = LoadLibraryW(L"RecoveryUI.dll");
     if (!component || !LoadLibraryW(L"TovarinObjects.dll")) throw std::runtime_error("a module is missing");
     OutwardCalls::Catch(component);
-    // The platform keeps the device contexts of windows that were in use at once: as many as will ever be are made here.
+    // The platform keeps the device contexts of windows that were in use at once: as many as will ever be are
+    // made here.
     std::array<HDC, 48> contexts{};
     for (HDC& context : contexts) context = GetDC(nullptr);
     for (const HDC context : contexts) ReleaseDC(nullptr, context);

@@ -93,7 +93,6 @@ void WatchedFree(void* block) {
     std::free(block);
 }
 
-
 struct Row {
     const char* name;
     Outside outside;
@@ -120,9 +119,11 @@ struct Hook<Result WINAPI(Arguments...)> {
 };
 
 constexpr int kFirst = __COUNTER__ + 1;
-#define OUTWARD(function, outside, answer, error)                     \
-    {#function, Outside::outside, (INT_PTR)(answer), error,           \
-     reinterpret_cast<void*>(&Hook<decltype(function)>::Call<__COUNTER__ - kFirst>)}
+#define OUTWARD(function, outside, answer, error)                                              \
+    {                                                                                          \
+#function, Outside::outside, (INT_PTR)(answer), error,                                 \
+            reinterpret_cast < void*>(&Hook <decltype(function)>::Call <__COUNTER__ - kFirst>) \
+    }
 
 const Row kRows[] = {
     OUTWARD(SysAllocStringLen, Memory, 0, 0),
@@ -204,18 +205,30 @@ void OutwardCalls::Order(const Fault& fault) {
     state.thread = GetCurrentThreadId();
 }
 
-void OutwardCalls::Lift() { state.fault.nth = 0; }
+void OutwardCalls::Lift() {
+    state.fault.nth = 0;
+}
 
 long OutwardCalls::Stop() {
     state.thread = 0;
     return state.calls;
 }
 
-bool OutwardCalls::HasFailed() { return state.failed != nullptr; }
-bool OutwardCalls::IsLasting() { return state.fault.lasting; }
-std::string OutwardCalls::Failed() { return state.failed ? state.failed : "nothing"; }
-std::vector<std::uint64_t> OutwardCalls::Callers() { return state.callers; }
-void OutwardCalls::RecordCallers(bool record) { state.recording = record; }
+bool OutwardCalls::HasFailed() {
+    return state.failed != nullptr;
+}
+bool OutwardCalls::IsLasting() {
+    return state.fault.lasting;
+}
+std::string OutwardCalls::Failed() {
+    return state.failed ? state.failed : "nothing";
+}
+std::vector<std::uint64_t> OutwardCalls::Callers() {
+    return state.callers;
+}
+void OutwardCalls::RecordCallers(bool record) {
+    state.recording = record;
+}
 
 OutwardCalls::Heap OutwardCalls::LiveHeap() {
     const std::lock_guard lock(state.heapMutex);

@@ -25,7 +25,8 @@ public:
         com::Check(journal_->Clear());
         OutwardCalls::Order(fault);
         if (fault.outside == Outside::Host && fault.nth > 0)
-            com::Check(journal_->FailCall(com::Bstr(L"").Get(), com::Bstr(L"").Get(), fault.nth, E_FAIL, !fault.lasting));
+            com::Check(journal_->FailCall(com::Bstr(L"").Get(), com::Bstr(L"").Get(), fault.nth, E_FAIL,
+                                          !fault.lasting));
     }
     ~Order() { End(); }
     void End() {
@@ -51,7 +52,8 @@ public:
     }
     std::string Failed() const {
         if (!HasFailed()) return "nothing";
-        return fault_.outside == Outside::Host ? hostCalls_[static_cast<size_t>(fault_.nth) - 1] : OutwardCalls::Failed();
+        return fault_.outside == Outside::Host ? hostCalls_[static_cast<size_t>(fault_.nth) - 1]
+                                               : OutwardCalls::Failed();
     }
 
 private:
@@ -73,7 +75,8 @@ void Rehearsal::Rehearse() {
     Actor actor(kPatient, [] {});
     stage->Perform(actor);
     stage->Mark();
-    if (!actor.GaveUp().empty()) throw std::runtime_error("the journey itself does not work: " + actor.GaveUp());
+    if (!actor.GaveUp().empty())
+        throw std::runtime_error("the journey itself does not work: " + actor.GaveUp());
     if (!stage->IsDone()) throw std::runtime_error("the journey itself does not come to its end");
     marks_ = stage->Marks();
 }
@@ -105,12 +108,15 @@ Playing Rehearsal::PlayOnce(const Fault& fault, unsigned patience) {
         const std::wstring state = stage->State();
         playing.problems.insert(playing.problems.end(), stage->Broken().begin(), stage->Broken().end());
         // The page leaves out a text that cannot be read, and shows that there is none.
-        const bool hasLess = std::string(journey_.name) == "edit-popup" && playing.failed == "PopUpRecoveryTrigger.GetWindowText";
+        const bool hasLess = std::string(journey_.name) == "edit-popup" &&
+                             playing.failed == "PopUpRecoveryTrigger.GetWindowText";
         if (stage->IsDone() && state != marks_.back() && !hasLess)
-            playing.problems.push_back("reported success, but the outcome is another one:\n" + test::Utf8(state));
+            playing.problems.push_back("reported success, but the outcome is another one:\n" +
+                                       test::Utf8(state));
         if (!stage->IsDone() && std::find(marks_.begin(), marks_.end(), state) == marks_.end())
             playing.problems.push_back("neither the old nor the new state:\n" + test::Utf8(state));
-        if (!playing.hasFailed && !playing.isDone) playing.problems.push_back("nothing failed, and yet: " + actor.GaveUp());
+        if (!playing.hasFailed && !playing.isDone)
+            playing.problems.push_back("nothing failed, and yet: " + actor.GaveUp());
     }
     RunPendingMessages();
     const Counts after = Counts::Take();

@@ -12,7 +12,9 @@ namespace {
 
 namespace fs = std::filesystem;
 
-std::wstring OfProcess(const wchar_t* name) { return name + std::to_wstring(GetCurrentProcessId()); }
+std::wstring OfProcess(const wchar_t* name) {
+    return name + std::to_wstring(GetCurrentProcessId());
+}
 
 }  // namespace
 
@@ -90,9 +92,11 @@ std::wstring Scene::Options() const {
     for (const wchar_t* name : {L"RecoveryScenarios", L"RecoveryDefScenarios", L"RecoveryActivation",
                                 L"RecoveryActivationMode", L"RecoveryDefActivationMode"}) {
         com::Variant value;
-        if (SUCCEEDED(recovery->GetOptionValue(com::Bstr(L"").Get(), com::Bstr(name).Get(), value.Put(), 0, 0)))
+        if (SUCCEEDED(
+                recovery->GetOptionValue(com::Bstr(L"").Get(), com::Bstr(name).Get(), value.Put(), 0, 0)))
             text += std::wstring(name) + L"=" +
-                    (value.Type() == VT_I4 ? std::to_wstring(value.Get().lVal) : std::wstring(value.Text())) + L"\n";
+                    (value.Type() == VT_I4 ? std::to_wstring(value.Get().lVal) : std::wstring(value.Text())) +
+                    L"\n";
     }
     return text;
 }

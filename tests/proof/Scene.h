@@ -16,7 +16,8 @@
 
 namespace recoveryui::proof {
 
-inline constexpr int kFinish = 0x3025, kEditOfCombo = 1001;  // the platform's numbers in a wizard and a combo box
+inline constexpr int kFinish = 0x3025,
+                     kEditOfCombo = 1001;  // the platform's numbers in a wizard and a combo box
 
 // Lets the windows do what they have put off.
 inline void RunPendingMessages() {

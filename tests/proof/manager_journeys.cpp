@@ -16,13 +16,14 @@ protected:
 
     bool Play(Actor& actor) override {
         const auto dialog = Start<IRecoveryDlg>(L"Vantrel.RecoveryDlg");
-        const HRESULT hr = actor.During([&] { return dialog->DoModal(); },
-                                        [&](Player& player) {
-                                            const HWND manager = player.First(L"Recovery Scenario Manager");
-                                            Manage(player, manager);
-                                            const bool asked = player.CloseWithAnswer(manager, IDNO);
-                                            Promise(asked || !hasUnsaved_, "closed without a word about unsaved changes");
-                                        });
+        const HRESULT hr =
+            actor.During([&] { return dialog->DoModal(); },
+                         [&](Player& player) {
+                             const HWND manager = player.First(L"Recovery Scenario Manager");
+                             Manage(player, manager);
+                             const bool asked = player.CloseWithAnswer(manager, IDNO);
+                             Promise(asked || !hasUnsaved_, "closed without a word about unsaved changes");
+                         });
         return hr == S_OK && actor.GaveUp().empty();
     }
     std::wstring State() override { return Read(work_) + L"\n" + Read(second_); }
@@ -31,9 +32,11 @@ protected:
         player.Try([&] {
             player.Press(manager, IDC_MANAGER_OPEN);
             player.GiveFile(kOpen, path);
-            player.WaitUntil("the file is open", [&] { return player.Text(manager, IDC_MANAGER_FILE) == path; });
+            player.WaitUntil("the file is open",
+                             [&] { return player.Text(manager, IDC_MANAGER_FILE) == path; });
         });
-        player.Try([&] { player.WaitUntil("its scenarios", [&] { return Names(player, manager).size() == 4; }); });
+        player.Try(
+            [&] { player.WaitUntil("its scenarios", [&] { return Names(player, manager).size() == 4; }); });
     }
     static test::Rows Names(Player& player, HWND manager) { return player.RowsOf(manager, IDC_MANAGER_LIST); }
     // Until the list shows it; what it shows then is a change that wants to be saved.
@@ -108,7 +111,8 @@ class MakeInManager final : public ManagerStage {
             player.Press(manager, IDC_MANAGER_EDIT);
             wizard = player.WaitForWindow(L"Recovery Scenario Wizard");
         });
-        for (const wchar_t* page : {L"Select Trigger Event", L"Specify Pop-up Window Conditions", L"Recovery Operations"})
+        for (const wchar_t* page :
+             {L"Select Trigger Event", L"Specify Pop-up Window Conditions", L"Recovery Operations"})
             player.NextTo(wizard, page);
         player.Try([&] { player.Check(wizard, IDC_OPERATION_LIST_ANOTHER, false); });
         player.NextTo(wizard, L"Post-Recovery Test Run Options");
@@ -132,6 +136,8 @@ constexpr Journey kJourneys[] = {{"manager-edit", Make<EditFile>},
 
 }  // namespace
 
-std::span<const Journey> ManagerJourneys() { return kJourneys; }
+std::span<const Journey> ManagerJourneys() {
+    return kJourneys;
+}
 
 }  // namespace recoveryui::proof

@@ -40,10 +40,10 @@ std::unique_ptr<Stage> Plant() {
 }
 
 constexpr Journey kJourneys[] = {
-    {"planted-crash", Plant<[](std::wstring&) { RaiseException(EXCEPTION_ACCESS_VIOLATION, 0, 0, nullptr); }>},
+    {"planted-crash",
+     Plant<[](std::wstring&) { RaiseException(EXCEPTION_ACCESS_VIOLATION, 0, 0, nullptr); }>},
     {"planted-leak", Plant<[](std::wstring&) { CreateCompatibleDC(nullptr); }>},
-    {"planted-window",
-     Plant<[](std::wstring&) {
+    {"planted-window", Plant<[](std::wstring&) {
          CreateWindowW(L"Static", L"left", WS_POPUP, 0, 0, 9, 9, nullptr, nullptr, nullptr, nullptr);
      }>},
     {"planted-half", Plant<[](std::wstring& state) { state = L"half"; }>},
@@ -52,6 +52,8 @@ constexpr Journey kJourneys[] = {
 
 }  // namespace
 
-std::span<const Journey> PlantedJourneys() { return kJourneys; }
+std::span<const Journey> PlantedJourneys() {
+    return kJourneys;
+}
 
 }  // namespace recoveryui::proof

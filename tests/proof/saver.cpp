@@ -45,8 +45,8 @@ struct Hook<Result WINAPI(Arguments...)> {
 
 template <int slot, class Function>
 void Catch(const char* name, Function*) {
-    originals[slot] =
-        PutImport(GetModuleHandleW(nullptr), name, reinterpret_cast<void*>(&Hook<Function>::template Call<slot>));
+    originals[slot] = PutImport(GetModuleHandleW(nullptr), name,
+                                reinterpret_cast<void*>(&Hook<Function>::template Call<slot>));
 }
 
 void CatchFileCalls() {
@@ -63,11 +63,13 @@ void CatchFileCalls() {
 }
 
 bool OverwriteInPlace(const std::wstring& path, const std::string& bytes) {
-    const HANDLE file = CreateFileW(path.c_str(), GENERIC_WRITE, FILE_SHARE_READ, nullptr, CREATE_ALWAYS, 0, nullptr);
+    const HANDLE file =
+        CreateFileW(path.c_str(), GENERIC_WRITE, FILE_SHARE_READ, nullptr, CREATE_ALWAYS, 0, nullptr);
     if (file == INVALID_HANDLE_VALUE) return false;
     DWORD written = 0;
     for (size_t at = 0; at < bytes.size(); at += written)
-        WriteFile(file, bytes.data() + at, static_cast<DWORD>(std::min<size_t>(512, bytes.size() - at)), &written, nullptr);
+        WriteFile(file, bytes.data() + at, static_cast<DWORD>(std::min<size_t>(512, bytes.size() - at)),
+                  &written, nullptr);
     return CloseHandle(file);
 }
 

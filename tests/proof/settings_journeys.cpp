@@ -16,7 +16,8 @@ void ChooseAll(Player& player, HWND dialog, const std::wstring& file) {
     player.Try([&] {
         player.Enter(dialog, kEditOfCombo, file);
         player.Keys({VK_RETURN});
-        player.WaitUntil("the scenarios", [&] { return player.RowsOf(dialog, IDC_ADD_SCENARIO_LIST).size() == 4; });
+        player.WaitUntil("the scenarios",
+                         [&] { return player.RowsOf(dialog, IDC_ADD_SCENARIO_LIST).size() == 4; });
     });
     const HWND list = player.Control(dialog, IDC_ADD_SCENARIO_LIST);
     player.Do([=] { ListView_SetItemState(list, -1, LVIS_SELECTED, LVIS_SELECTED); });
@@ -38,7 +39,9 @@ class AddDialog final : public Scene {
         if (!dialog_ || !IsDone()) return L"nothing chosen";
         com::Check(dialog_->get_FilePath(file.Put()));
         com::Check(dialog_->get_ScenariosNames(names.Put()));
-        const LONG count = names.Type() == (VT_ARRAY | VT_BSTR) ? static_cast<LONG>(names.Get().parray->rgsabound[0].cElements) : -1;
+        const LONG count = names.Type() == (VT_ARRAY | VT_BSTR)
+                               ? static_cast<LONG>(names.Get().parray->rgsabound[0].cElements)
+                               : -1;
         return file.Text() + L": " + std::to_wstring(count);
     }
 
@@ -68,7 +71,8 @@ class Tab final : public Scene {
         ChooseAll(player, dialog, file_);
         player.Leave(dialog, IDOK);
         player.Try([&] {
-            player.WaitUntil("the scenarios in the tab", [&] { return player.RowsOf(frame, IDC_RECOVERY_LIST).size() == 4; });
+            player.WaitUntil("the scenarios in the tab",
+                             [&] { return player.RowsOf(frame, IDC_RECOVERY_LIST).size() == 4; });
         });
         player.Try([&] {
             player.Press(frame, IDC_RECOVERY_SET_DEFAULT);
@@ -119,6 +123,8 @@ constexpr Journey kJourneys[] = {
 
 }  // namespace
 
-std::span<const Journey> SettingsJourneys() { return kJourneys; }
+std::span<const Journey> SettingsJourneys() {
+    return kJourneys;
+}
 
 }  // namespace recoveryui::proof

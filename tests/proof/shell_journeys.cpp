@@ -37,8 +37,10 @@ private:
             HKEY key = nullptr;
             if (RegOpenKeyExW(HKEY_CURRENT_USER, (classes_ + parent).c_str(), 0, KEY_READ, &key)) continue;
             wchar_t name[256];
-            for (DWORD i = 0, size = 256; !RegEnumKeyExW(key, i, name, &size, nullptr, nullptr, nullptr, nullptr); ++i, size = 256)
-                if (*parent || std::wstring(name).rfind(L"Vantrel", 0) == 0) found += std::wstring(name) + L"\n";
+            for (DWORD i = 0, size = 256;
+                 !RegEnumKeyExW(key, i, name, &size, nullptr, nullptr, nullptr, nullptr); ++i, size = 256)
+                if (*parent || std::wstring(name).rfind(L"Vantrel", 0) == 0)
+                    found += std::wstring(name) + L"\n";
             RegCloseKey(key);
         }
         return found;
@@ -60,7 +62,8 @@ class HostStart final : public Scene {
     bool Play(Actor& actor) override {
         tovarin::HostOptions options;
         options.settingsPath = branch_;
-        const HRESULT ended = actor.During([&] { return tovarin::RunHost(options); }, [&](Player& player) { Use(player); });
+        const HRESULT ended =
+            actor.During([&] { return tovarin::RunHost(options); }, [&](Player& player) { Use(player); });
         return ended == 0 && actor.GaveUp().empty();
     }
     void Use(Player& player) {
@@ -96,6 +99,8 @@ constexpr Journey kJourneys[] = {{"registration", Make<Registration>}, {"host", 
 
 }  // namespace
 
-std::span<const Journey> ShellJourneys() { return kJourneys; }
+std::span<const Journey> ShellJourneys() {
+    return kJourneys;
+}
 
 }  // namespace recoveryui::proof

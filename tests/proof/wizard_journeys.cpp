@@ -34,7 +34,8 @@ protected:
         }
         const HRESULT hr = actor.During([&] { return com::Query<IRecoveryDlg>(wizard_.Get())->DoModal(); },
                                         [&](Player& player) { Walk(player, player.First(kTitle)); });
-        Promise(hr != S_OK || actor.GaveUp().empty(), "finished although the user gave up: " + actor.GaveUp());
+        Promise(hr != S_OK || actor.GaveUp().empty(),
+                "finished although the user gave up: " + actor.GaveUp());
         return hr == S_OK;
     }
     std::wstring State() override {
@@ -48,7 +49,8 @@ protected:
         if (!original_) return Describe(scenario.Get(), name.Text()) + Read(library_);
         const std::wstring now = Describe(original_.Get(), name_);
         Promise(now == before_, "the edited scenario itself has changed");
-        return scenario && scenario.Get() != original_.Get() ? Describe(scenario.Get(), name.Text()) : before_;
+        return scenario && scenario.Get() != original_.Get() ? Describe(scenario.Get(), name.Text())
+                                                             : before_;
     }
 
     static void ChooseTrigger(Player& player, HWND wizard, int radio) {
@@ -68,7 +70,8 @@ protected:
         player.NextTo(wizard, kFlow);
         player.Try([&] {
             // A restart of Windows leaves fewer options.
-            if (player.IsVisible(wizard, IDC_TEST_FLOW_FIRST + 1)) player.Check(wizard, IDC_TEST_FLOW_FIRST + 1);
+            if (player.IsVisible(wizard, IDC_TEST_FLOW_FIRST + 1))
+                player.Check(wizard, IDC_TEST_FLOW_FIRST + 1);
         });
         player.NextTo(wizard, kName);
         player.Fill(wizard, IDC_SCEN_NAME, name);
@@ -84,7 +87,8 @@ protected:
         player.Fill(wizard, IDC_POPUP_TEXT, L"It failed.");
     }
     static void Expect(Player& player, HWND window, int list, const test::Rows& rows) {
-        player.Try([&] { player.WaitUntil("the rows", [&] { return player.RowsOf(window, list) == rows; }); });
+        player.Try(
+            [&] { player.WaitUntil("the rows", [&] { return player.RowsOf(window, list) == rows; }); });
     }
 
     const std::wstring library_;
@@ -101,10 +105,12 @@ class PopupWithKeys final : public WizardStage {
         ChooseTrigger(player, wizard, IDC_SELECT_TRIGGER_POPUP);
         FillPopup(player, wizard);
         player.NextTo(wizard, kOperations);
-        AddOperation(player, wizard, IDC_SELECT_OPERATION_CLICK, L"Recovery Operation - Click Button or Press Key");
+        AddOperation(player, wizard, IDC_SELECT_OPERATION_CLICK,
+                     L"Recovery Operation - Click Button or Press Key");
         player.Try([&] { player.Check(wizard, IDC_CLICK_KEYS); });
         player.Do([page = player.Page(wizard)] {
-            SendDlgItemMessageW(page, IDC_CLICK_HOTKEY, HKM_SETHOTKEY, MAKEWORD('D', HOTKEYF_CONTROL | HOTKEYF_ALT), 0);
+            SendDlgItemMessageW(page, IDC_CLICK_HOTKEY, HKM_SETHOTKEY,
+                                MAKEWORD('D', HOTKEYF_CONTROL | HOTKEYF_ALT), 0);
         });
         player.NextTo(wizard, kOperations);
         AddOperation(player, wizard, IDC_SELECT_OPERATION_RESTART, kOperations);
@@ -143,9 +149,8 @@ class CrashWithProcess final : public WizardStage {
         player.Try([&] {
             player.Choose(wizard, IDC_PROCESSES_RUNNING, self);
             player.Press(wizard, IDC_PROCESSES_ADD_SELECTED);
-            player.WaitUntil("the process is added", [&] {
-                return player.RowsOf(wizard, IDC_PROCESSES_CHOSEN) == test::Rows{self};
-            });
+            player.WaitUntil("the process is added",
+                             [&] { return player.RowsOf(wizard, IDC_PROCESSES_CHOSEN) == test::Rows{self}; });
         });
     }
     void Walk(Player& player, HWND wizard) override {
@@ -189,13 +194,18 @@ constexpr Journey kJourneys[] = {
     {"wizard-error", Make<ErrorWithFunction>},
     {"wizard-crash", Make<CrashWithProcess>},
     {"edit-popup", [] { return Make<EditEachPage>(L"Pop-up", Pages{L"Specify Pop-up Window Conditions"}); }},
-    {"edit-state", [] { return Make<EditEachPage>(L"State", Pages{L"Select Object", L"Set Object Properties and Values"}); }},
+    {"edit-state",
+     [] {
+         return Make<EditEachPage>(L"State", Pages{L"Select Object", L"Set Object Properties and Values"});
+     }},
     {"edit-error", [] { return Make<EditEachPage>(L"Error", Pages{L"Select Test Run Error"}); }},
     {"edit-crash", [] { return Make<EditEachPage>(L"Crash", Pages{L"Select Processes"}); }},
 };
 
 }  // namespace
 
-std::span<const Journey> WizardJourneys() { return kJourneys; }
+std::span<const Journey> WizardJourneys() {
+    return kJourneys;
+}
 
 }  // namespace recoveryui::proof

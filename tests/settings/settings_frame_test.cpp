@@ -96,12 +96,9 @@ TEST_F(FrameProtocolTest, AChangeOfTheTabSetsTheButtonsAfterTheFrameFromNumbersO
     const struct {
         Variant dirty, readOnly;
         bool apply, ok;
-    } cases[] = {{Variant(0L), Variant(0L), false, true},
-                 {Variant(1L), Variant(0L), true, true},
-                 {Variant(1L), Variant(1L), false, false},
-                 {Variant(0L), Variant(1L), false, false},
-                 {Variant(L"1"), Variant(L"1"), false, true},
-                 {Variant(true), Variant(true), false, true}};
+    } cases[] = {{Variant(0L), Variant(0L), false, true},     {Variant(1L), Variant(0L), true, true},
+                 {Variant(1L), Variant(1L), false, false},    {Variant(0L), Variant(1L), false, false},
+                 {Variant(L"1"), Variant(L"1"), false, true}, {Variant(true), Variant(true), false, true}};
     for (const auto& c : cases) {
         SCOPED_TRACE(&c - cases);
         const Seen seen = OpenSettings([&](UserScreen& screen, HWND frame) {

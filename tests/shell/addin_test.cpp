@@ -31,7 +31,8 @@ public:
 // A host's add-in manager, of which any part may be missing.
 class Manager final : public com::Object<Manager, IMenuCommands, IObjectRackClient> {
 public:
-    HRESULT STDMETHODCALLTYPE RegisterCommand(BSTR text, IUnknown* target, GUID* group, ULONG* command) noexcept override {
+    HRESULT STDMETHODCALLTYPE RegisterCommand(BSTR text, IUnknown* target, GUID* group,
+                                              ULONG* command) noexcept override {
         text_ = com::ViewOf(text);
         target_ = com::Query<IOleCommandTarget>(target);
         *group = kGroup;
@@ -146,7 +147,8 @@ TEST_F(AddInTest, TheCommandOpensTheManagerWhileARackIsHeld) {
             screen.Do([&] { addIn_->OnDisconnection(); });
             screen.Press(manager, IDCANCEL);
         });
-        EXPECT_EQ(target->Exec(&kGroup, kCommand, 0, nullptr, nullptr), S_OK) << "disconnected while it is open";
+        EXPECT_EQ(target->Exec(&kGroup, kCommand, 0, nullptr, nullptr), S_OK)
+            << "disconnected while it is open";
     }
     EXPECT_EQ(target->Exec(&kGroup, kCommand, 0, nullptr, nullptr), OLECMDERR_E_UNKNOWNGROUP);
     ASSERT_EQ(Connect(), S_OK);

@@ -19,10 +19,18 @@
 namespace recoveryui::test {
 namespace {
 
-const std::vector<IID> kInterfaces = {
-    IID_IUnknown,          IID_IDispatch,        IID_IRecoveryDlg,           IID_IRecoveryWizard,
-    IID_IRecoveryAddDlg,   IID_IScenarioProperties, IID_IUIAddIn,            IID_IObjectRackClient,
-    IID_IOleCommandTarget, IID_IPropertyPage,    IID_ISpecifyPropertyPages, IID_IClassFactory};
+const std::vector<IID> kInterfaces = {IID_IUnknown,
+                                      IID_IDispatch,
+                                      IID_IRecoveryDlg,
+                                      IID_IRecoveryWizard,
+                                      IID_IRecoveryAddDlg,
+                                      IID_IScenarioProperties,
+                                      IID_IUIAddIn,
+                                      IID_IObjectRackClient,
+                                      IID_IOleCommandTarget,
+                                      IID_IPropertyPage,
+                                      IID_ISpecifyPropertyPages,
+                                      IID_IClassFactory};
 
 using CitizenTest = ComTest;
 
@@ -33,8 +41,8 @@ Function* EntryPoint(const char* name) {
 }
 
 HRESULT GetClass(const CLSID& clsid, REFIID iid, void** object) {
-    return EntryPoint<HRESULT STDAPICALLTYPE(REFCLSID, REFIID, void**)>("DllGetClassObject")(
-        clsid, iid, object);
+    return EntryPoint<HRESULT STDAPICALLTYPE(REFCLSID, REFIID, void**)>("DllGetClassObject")(clsid, iid,
+                                                                                             object);
 }
 
 com::Ptr<IClassFactory> Factory(const CLSID& clsid) {
@@ -172,7 +180,8 @@ TEST_F(CitizenTest, EveryClassIsCalledByNameAndDescribesItself) {
     const auto page = New<IObjectRackClient>(L"Vantrel.RecoveryPPSpecifier");
     const com::Variant argument(com::Query<IDispatch>(rack.Get()).Get());
     com::Variant result;
-    EXPECT_EQ(com::CallMethod(com::Query<IDispatch>(page.Get()).Get(), L"SetRack", {&argument, 1}, &result), S_OK);
+    EXPECT_EQ(com::CallMethod(com::Query<IDispatch>(page.Get()).Get(), L"SetRack", {&argument, 1}, &result),
+              S_OK);
     com::Ptr<IObjectRack> held;
     EXPECT_EQ(page->GetRack(held.GetAddressOf()), S_OK);
     EXPECT_EQ(held.Get(), rack.Get());
@@ -199,7 +208,8 @@ TEST_F(CitizenTest, EveryClassIsCalledByNameAndDescribesItself) {
         const auto wizard = New<IRecoveryWizard>(L"Vantrel.RecoveryWizard");
         DISPID named = DISPID_PROPERTYPUT;
         DISPPARAMS parameters{const_cast<VARIANT*>(&repository.Get()), &named, 1, 1};
-        EXPECT_EQ(wizard->Invoke(kRepository, IID_NULL, 0, way, &parameters, nullptr, nullptr, nullptr), S_OK);
+        EXPECT_EQ(wizard->Invoke(kRepository, IID_NULL, 0, way, &parameters, nullptr, nullptr, nullptr),
+                  S_OK);
         com::Ptr<IUnknown> held;
         wizard->get_Repository(held.GetAddressOf());
         EXPECT_EQ(held.Get(), repository.Object()) << "as scripts put objects, " << way;
@@ -230,7 +240,8 @@ TEST(SafeArray, GrowsShrinksAndTurnsRoundAndKnowsItsBounds) {
     EXPECT_EQ(Elements(array), L"!!") << "no array yet";
     ASSERT_EQ(array.Create(3), S_OK);
     for (LONG index = 0; index < 3; ++index)
-        ASSERT_EQ(array.PutElement(index, com::Bstr(std::wstring(1, static_cast<wchar_t>(L'a' + index)))), S_OK);
+        ASSERT_EQ(array.PutElement(index, com::Bstr(std::wstring(1, static_cast<wchar_t>(L'a' + index)))),
+                  S_OK);
     EXPECT_EQ(Elements(array), L"a;b;c;!!");
     ASSERT_EQ(array.Reverse(), S_OK);
     EXPECT_EQ(Elements(array), L"c;b;a;!!");

@@ -20,7 +20,8 @@ class RegistrationTest : public ComTest {
 protected:
     RegistrationTest() {
         RegDeleteTreeW(HKEY_CURRENT_USER, kBranch);
-        RegCreateKeyExW(HKEY_CURRENT_USER, kBranch, 0, nullptr, 0, KEY_ALL_ACCESS, nullptr, &branch_, nullptr);
+        RegCreateKeyExW(HKEY_CURRENT_USER, kBranch, 0, nullptr, 0, KEY_ALL_ACCESS, nullptr, &branch_,
+                        nullptr);
         RegOverridePredefKey(HKEY_CLASSES_ROOT, branch_);
     }
     ~RegistrationTest() override {
@@ -40,7 +41,9 @@ protected:
     static std::wstring ServerKey(const com::ClassEntry& entry) {
         return L"CLSID\\" + shell::GuidText(*entry.clsid) + L"\\InprocServer32";
     }
-    static std::wstring LibraryKey() { return L"TypeLib\\" + shell::GuidText(LIBID_RecoveryUILib) + L"\\1.0\\0\\Win32"; }
+    static std::wstring LibraryKey() {
+        return L"TypeLib\\" + shell::GuidText(LIBID_RecoveryUILib) + L"\\1.0\\0\\Win32";
+    }
 
     static std::wstring Value(const std::wstring& key, const wchar_t* name = L"") {
         wchar_t text[256] = L"";
@@ -51,8 +54,8 @@ protected:
     }
     static int Count(const std::wstring& key) {
         DWORD count = 0, size = sizeof count;
-        const LSTATUS status =
-            RegGetValueW(HKEY_CLASSES_ROOT, key.c_str(), L"RefCount", RRF_RT_REG_DWORD, nullptr, &count, &size);
+        const LSTATUS status = RegGetValueW(HKEY_CLASSES_ROOT, key.c_str(), L"RefCount", RRF_RT_REG_DWORD,
+                                            nullptr, &count, &size);
         return status == ERROR_SUCCESS ? static_cast<int>(count) : -1;
     }
     // Every key below the root of the classes, but the three that belong to all.
@@ -62,11 +65,12 @@ protected:
             HKEY key = nullptr;
             if (RegOpenKeyExW(HKEY_CLASSES_ROOT, parent, 0, KEY_READ, &key) != ERROR_SUCCESS) continue;
             wchar_t name[256];
-            for (DWORD i = 0, size = 256; RegEnumKeyExW(key, i, name, &size, nullptr, nullptr, nullptr, nullptr) ==
-                                          ERROR_SUCCESS;
+            for (DWORD i = 0, size = 256;
+                 RegEnumKeyExW(key, i, name, &size, nullptr, nullptr, nullptr, nullptr) == ERROR_SUCCESS;
                  ++i, size = 256) {
-                const bool shared = !*parent && (_wcsicmp(name, L"CLSID") == 0 || _wcsicmp(name, L"TypeLib") == 0 ||
-                                                 _wcsicmp(name, L"Interface") == 0);
+                const bool shared =
+                    !*parent && (_wcsicmp(name, L"CLSID") == 0 || _wcsicmp(name, L"TypeLib") == 0 ||
+                                 _wcsicmp(name, L"Interface") == 0);
                 if (!shared) found += std::wstring(name) + L" ";
             }
             RegCloseKey(key);
@@ -128,8 +132,8 @@ TEST_F(RegistrationTest, AFailureHalfWayTakesBackWhatWasDone) {
         HKEY made = nullptr;
         RegCreateKeyW(HKEY_CLASSES_ROOT, key.substr(0, key.find(L'\\')).c_str(), &made);
         RegCloseKey(made);
-        ASSERT_EQ(RegCreateKeyExW(HKEY_CLASSES_ROOT, key.c_str(), 0, nullptr, REG_OPTION_VOLATILE, KEY_ALL_ACCESS,
-                                  nullptr, &made, nullptr),
+        ASSERT_EQ(RegCreateKeyExW(HKEY_CLASSES_ROOT, key.c_str(), 0, nullptr, REG_OPTION_VOLATILE,
+                                  KEY_ALL_ACCESS, nullptr, &made, nullptr),
                   ERROR_SUCCESS);
         RegCloseKey(made);
         EXPECT_TRUE(FAILED(Register())) << Utf8(key);
@@ -140,7 +144,8 @@ TEST_F(RegistrationTest, AFailureHalfWayTakesBackWhatWasDone) {
 
 TEST(RegistryScript, RefusesWhatItDoesNotUnderstand) {
     const shell::Replacement replacements[] = {{L"NAME", L"Thing"}};
-    const auto entries = shell::ParseRegistryScript(L"A\\%NAME% = x %NAME%\r\nA\\%NAME%\\B : v = \n\nC\n", replacements);
+    const auto entries =
+        shell::ParseRegistryScript(L"A\\%NAME% = x %NAME%\r\nA\\%NAME%\\B : v = \n\nC\n", replacements);
     ASSERT_TRUE(entries && entries->size() == 3);
     EXPECT_EQ((*entries)[0].key, L"A\\Thing");
     EXPECT_EQ((*entries)[0].text, L"x Thing");

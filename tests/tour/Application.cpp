@@ -24,7 +24,8 @@ Application::Application(UserScreen& screen) {
     std::wstring command = std::wstring(L"target.exe ") + kTitle;
     STARTUPINFOW start{};
     start.cb = sizeof start;
-    EXPECT_TRUE(CreateProcessW(nullptr, command.data(), nullptr, nullptr, FALSE, 0, nullptr, nullptr, &start, &process_));
+    EXPECT_TRUE(CreateProcessW(nullptr, command.data(), nullptr, nullptr, FALSE, 0, nullptr, nullptr, &start,
+                               &process_));
     screen.WaitUntil("the application shows its window", [&] {
         window_ = FindWindowW(L"OrderEntry", kTitle);
         return window_ && IsWindowVisible(window_);

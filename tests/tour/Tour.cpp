@@ -22,11 +22,14 @@ struct Apartment {
 
 std::wstring Folder() {
     std::wstring folder(32768, L'\0');
-    folder.resize(GetEnvironmentVariableW(L"RECOVERYUI_SHOTS", folder.data(), static_cast<DWORD>(folder.size())));
+    folder.resize(
+        GetEnvironmentVariableW(L"RECOVERYUI_SHOTS", folder.data(), static_cast<DWORD>(folder.size())));
     return folder + L"\\";
 }
 
-std::wstring FileIn(const wchar_t* name) { return Folder() + name; }
+std::wstring FileIn(const wchar_t* name) {
+    return Folder() + name;
+}
 
 std::wstring WriteText(const wchar_t* file, const std::string& text) {
     std::ofstream(FileIn(file).c_str(), std::ios::binary) << text;
@@ -37,10 +40,11 @@ std::string RecoveryFileOf(const std::vector<std::string>& names) {
     std::string text = R"({"formatVersion": 1, "scenarios": [)";
     for (const std::string& name : names) {
         text += &name == &names.front() ? "" : ",";
-        text += R"({"name": ")" + name + R"(", "description": "About )" + name +
-                R"(.", "postRecoveryOption": 2, "trigger": {"kind": "popUp", "windowTitle": {"text": ")" + name +
-                R"(", "regularExpression": 0}, "windowText": {"text": "", "regularExpression": 0}, "option": 0},)" +
-                R"( "operations": [{"kind": "pressKeys", "keys": [65549, 196621]}]})";
+        text +=
+            R"({"name": ")" + name + R"(", "description": "About )" + name +
+            R"(.", "postRecoveryOption": 2, "trigger": {"kind": "popUp", "windowTitle": {"text": ")" + name +
+            R"(", "regularExpression": 0}, "windowText": {"text": "", "regularExpression": 0}, "option": 0},)" +
+            R"( "operations": [{"kind": "pressKeys", "keys": [65549, 196621]}]})";
     }
     return text + "]}";
 }

@@ -51,7 +51,8 @@ TEST_F(Afternoon, NothingIsLostBetweenFilesRivalsDamageAndAFullDisk) {
         const HWND question = screen.WaitForWindow(L"Tovarin");
         screen.Picture(question, L"20-replace-question");
         screen.Press(question, IDNO);
-        EXPECT_EQ(screen.Text(manager, IDC_MANAGER_DESCRIPTION), L"") << "nothing was pasted, nothing is selected";
+        EXPECT_EQ(screen.Text(manager, IDC_MANAGER_DESCRIPTION), L"")
+            << "nothing was pasted, nothing is selected";
         screen.Press(manager, IDC_MANAGER_PASTE);
         EXPECT_EQ(screen.AnswerBox(IDYES),
                   L"A scenario by this name already exists in this test.\nDo you want to replace it?");
@@ -60,7 +61,8 @@ TEST_F(Afternoon, NothingIsLostBetweenFilesRivalsDamageAndAFullDisk) {
         // The disk is full; the change stays, and is saved when there is room again.
         com::Ptr<ICallJournal> journal;
         ASSERT_EQ(com::Create(L"Tovarin.CallJournal", journal), S_OK);
-        journal->FailCall(com::Bstr(L"RecoveryRepository").Get(), com::Bstr(L"Save").Get(), 1, STG_E_MEDIUMFULL, 1);
+        journal->FailCall(com::Bstr(L"RecoveryRepository").Get(), com::Bstr(L"Save").Get(), 1,
+                          STG_E_MEDIUMFULL, 1);
         screen.Press(manager, IDC_MANAGER_SAVE);
         const HWND full = screen.WaitForWindow(L"Tovarin");
         screen.Picture(full, L"21-disk-full");

@@ -12,7 +12,9 @@ constexpr int kEditOfCombo = 1001;
 
 class EveryKind : public Tour {
 protected:
-    EveryKind() : file_(FileIn(L"every kind.trs")), library_(WriteText(L"library.vbs", "Function Log(Object)\r\nEnd Function\r\n")) {
+    EveryKind()
+        : file_(FileIn(L"every kind.trs")),
+          library_(WriteText(L"library.vbs", "Function Log(Object)\r\nEnd Function\r\n")) {
         DeleteFileW(file_.c_str());
     }
 
@@ -47,7 +49,8 @@ protected:
         screen.Next(wizard);
         return wizard;
     }
-    static void PictureProperties(UserScreen& screen, HWND manager, const std::wstring& picture, int page = 1) {
+    static void PictureProperties(UserScreen& screen, HWND manager, const std::wstring& picture,
+                                  int page = 1) {
         screen.Press(manager, IDC_MANAGER_PROPERTIES);
         const HWND sheet = screen.WaitForWindow(L"Recovery Scenario Properties");
         screen.Do([=] { PostMessageW(sheet, PSM_SETCURSEL, static_cast<WPARAM>(page), 0); });
@@ -170,8 +173,9 @@ TEST_F(EveryKind, IsMadeStoredAndReadBack) {
     ASSERT_NE(file, nullptr);
     library.resize(fread(library.data(), 1, library.size(), file));
     fclose(file);
-    EXPECT_EQ(library, "Function Log(Object)\r\nEnd Function\r\n\r\n"
-                       "Function Restore(Object, Method, Arguments, retVal)\r\n\r\nEnd Function");
+    EXPECT_EQ(library,
+              "Function Log(Object)\r\nEnd Function\r\n\r\n"
+              "Function Restore(Object, Method, Arguments, retVal)\r\n\r\nEnd Function");
 }
 
 }  // namespace

@@ -33,7 +33,8 @@ void MakeScenario(UserScreen& screen, HWND manager) {
     screen.Next(wizard);
     screen.Check(wizard, IDC_CLICK_KEYS);
     screen.Do([page = screen.Page(wizard)] {
-        SendDlgItemMessageW(page, IDC_CLICK_HOTKEY, HKM_SETHOTKEY, MAKEWORD('D', HOTKEYF_CONTROL | HOTKEYF_ALT), 0);
+        SendDlgItemMessageW(page, IDC_CLICK_HOTKEY, HKM_SETHOTKEY,
+                            MAKEWORD('D', HOTKEYF_CONTROL | HOTKEYF_ALT), 0);
     });
     screen.Picture(wizard, L"09-press-keys");
     screen.Next(wizard);
@@ -42,7 +43,8 @@ void MakeScenario(UserScreen& screen, HWND manager) {
     screen.Check(wizard, IDC_SELECT_OPERATION_RESTART);
     screen.Next(wizard);
     EXPECT_EQ(screen.RowsOf(wizard, IDC_OPERATION_LIST_ROWS),
-              (Rows{L"Keyboard click | Enter", L"Keyboard click | Control + Alt + D", L"Restart Microsoft Windows | "}));
+              (Rows{L"Keyboard click | Enter", L"Keyboard click | Control + Alt + D",
+                    L"Restart Microsoft Windows | "}));
     screen.Picture(wizard, L"10-with-restart");
     screen.Choose(wizard, IDC_OPERATION_LIST_ROWS, L"Restart Microsoft Windows");
     screen.Press(wizard, IDC_OPERATION_LIST_DELETE);
@@ -61,9 +63,10 @@ void MakeScenario(UserScreen& screen, HWND manager) {
     screen.Enter(wizard, IDC_SCEN_DESCRIPTION, L"Closes error messages and goes on with the next step.");
     screen.Picture(wizard, L"13-name");
     screen.Next(wizard);
-    EXPECT_EQ(screen.Text(wizard, IDC_SUMMARY_TEXT),
-              L"Trigger Event:\r\n\tPop-up window\r\nRecovery Operations:\r\n\tKeyboard or mouse operation\r\n"
-              L"\tKeyboard or mouse operation\r\nPost-Recovery Test Run Options:\r\n\tProceed to next step");
+    EXPECT_EQ(
+        screen.Text(wizard, IDC_SUMMARY_TEXT),
+        L"Trigger Event:\r\n\tPop-up window\r\nRecovery Operations:\r\n\tKeyboard or mouse operation\r\n"
+        L"\tKeyboard or mouse operation\r\nPost-Recovery Test Run Options:\r\n\tProceed to next step");
     screen.Picture(wizard, L"14-summary");
     screen.Finish(wizard);
 }

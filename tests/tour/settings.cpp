@@ -22,7 +22,8 @@ protected:
         screen.Do([=] { SendDlgItemMessageW(frame, kTabs, TCM_SETCURFOCUS, static_cast<WPARAM>(tab), 0); });
     }
     // Chooses every scenario of a file in the Add dialog.
-    static void AddAll(UserScreen& screen, HWND frame, const std::wstring& file, const wchar_t* picture = nullptr) {
+    static void AddAll(UserScreen& screen, HWND frame, const std::wstring& file,
+                       const wchar_t* picture = nullptr) {
         screen.Press(frame, IDC_RECOVERY_ADD);
         const HWND dialog = screen.WaitForWindow(L"Add Recovery Scenario");
         screen.Enter(dialog, kEditOfCombo, file);
@@ -35,8 +36,8 @@ protected:
     static std::wstring StoredDefault(const wchar_t* name) {
         wchar_t text[2048] = L"";
         DWORD size = sizeof text;
-        RegGetValueW(HKEY_CURRENT_USER, L"Software\\Tovarin\\Tour\\ReplayRecovery", name, RRF_RT_REG_SZ, nullptr, text,
-                     &size);
+        RegGetValueW(HKEY_CURRENT_USER, L"Software\\Tovarin\\Tour\\ReplayRecovery", name, RRF_RT_REG_SZ,
+                     nullptr, text, &size);
         return text;
     }
 };
@@ -46,8 +47,7 @@ TEST_F(Settings, ScenariosAreAssociatedMadeTheDefaultAndFoundInTheNextTest) {
     const std::wstring common = WriteText(L"common.trs", RecoveryFileOf({"Crash", "Popup"}));
     const std::wstring other = WriteText(L"other.trs", RecoveryFileOf({"Popup"}));
     const Rows ordered = {L"Popup | " + common, L"Crash | " + common, L"Popup | " + other};
-    const std::wstring records =
-        common + L";Popup;0;1*" + common + L";Crash;1;1*" + other + L";Popup;1;1*";
+    const std::wstring records = common + L";Popup;0;1*" + common + L";Crash;1;1*" + other + L";Popup;1;1*";
 
     Play(L"settings-journal.txt", [&](UserScreen& screen, HWND host) {
         HWND frame = OpenSettings(screen, host);
@@ -55,8 +55,8 @@ TEST_F(Settings, ScenariosAreAssociatedMadeTheDefaultAndFoundInTheNextTest) {
         AddAll(screen, frame, common, L"31-add-scenario");
         AddAll(screen, frame, common);
         for (const wchar_t* name : {L"Crash", L"Popup"})
-            EXPECT_EQ(screen.AnswerBox(IDOK), std::wstring(L"The '") + name +
-                                                  L"' scenario is already associated with your test.");
+            EXPECT_EQ(screen.AnswerBox(IDOK),
+                      std::wstring(L"The '") + name + L"' scenario is already associated with your test.");
         AddAll(screen, frame, other);
         EXPECT_EQ(screen.AnswerBox(IDOK).substr(0, 40), L"You have selected a different file path ");
 

@@ -1,5 +1,5 @@
-// Writes JSON straight into a text, in the form of a recovery file: two spaces for each level, one element per
-// line. A tree built only to be written would cost four times as much.
+// Writes JSON straight into a text, in the form of a recovery file: two spaces for each level, one element
+// per line. A tree built only to be written would cost four times as much.
 #pragma once
 
 #include <charconv>

@@ -54,8 +54,8 @@ private:
         });
     }
     void Put(const Property& property) {
-        Object("name", property.name, "value", property.value, "regularExpression", property.isRegularExpression,
-               "checked", property.isChecked);
+        Object("name", property.name, "value", property.value, "regularExpression",
+               property.isRegularExpression, "checked", property.isChecked);
     }
     void Put(const TestObject& object) {
         Object("displayName", object.displayName, "properties", object.properties);
@@ -65,8 +65,8 @@ private:
     }
 
     void Put(const PopUpTrigger& trigger) {
-        Object("kind", "popUp", "windowTitle", trigger.windowTitle, "windowText", trigger.windowText, "option",
-               trigger.option);
+        Object("kind", "popUp", "windowTitle", trigger.windowTitle, "windowText", trigger.windowText,
+               "option", trigger.option);
     }
     void Put(const ErrorTrigger& trigger) { Object("kind", "error", "code", trigger.code); }
     void Put(const CrashTrigger& trigger) {
@@ -78,10 +78,12 @@ private:
 
     void Put(const PressKeys& operation) { Object("kind", "pressKeys", "keys", operation.keys); }
     void Put(const AccessObject& operation) {
-        Object("kind", "accessObject", "targetKind", operation.targetKind, "method", operation.method, "arguments",
-               operation.arguments);
+        Object("kind", "accessObject", "targetKind", operation.targetKind, "method", operation.method,
+               "arguments", operation.arguments);
     }
-    void Put(const CloseProcesses& operation) { Object("kind", "closeProcesses", "processes", operation.processes); }
+    void Put(const CloseProcesses& operation) {
+        Object("kind", "closeProcesses", "processes", operation.processes);
+    }
     void Put(const CallFunction& operation) {
         Object("kind", "callFunction", "function", operation.function, "library", operation.library,
                "prototypeMode", operation.prototypeMode);
