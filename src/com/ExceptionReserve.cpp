@@ -23,9 +23,17 @@ volatile LONG reserveUsed = 0;
 void* (*platformMalloc)(std::size_t) = nullptr;
 DWORD failingThread = 0;
 
+// Not every linker lets the table be written to.
+void Import(void* (*function)(std::size_t)) {
+    DWORD before = 0;
+    VirtualProtect(&importedMalloc, sizeof importedMalloc, PAGE_READWRITE, &before);
+    importedMalloc = function;
+    VirtualProtect(&importedMalloc, sizeof importedMalloc, before, &before);
+}
+
 void* FailOnce(std::size_t bytes) {
     if (GetCurrentThreadId() != failingThread) return platformMalloc(bytes);
-    importedMalloc = platformMalloc;
+    Import(platformMalloc);
     return nullptr;
 }
 
@@ -46,7 +54,7 @@ void PrepareExceptions() noexcept {
     // Without memory for it, an exception comes from the reserve, whose lock is made on that occasion.
     platformMalloc = importedMalloc;
     failingThread = GetCurrentThreadId();
-    importedMalloc = FailOnce;
+    Import(FailOnce);
     ThrowAndCatch();
 }
 

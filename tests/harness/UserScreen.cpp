@@ -215,7 +215,7 @@ std::wstring UserScreen::Tip(HWND window, int id) {
         if (ClassOf(tip) != TOOLTIPS_CLASSW) continue;
         wchar_t text[512] = L"";
         TTTOOLINFOW tool{};
-        tool.cbSize = TTTOOLINFOW_V1_SIZE;
+        tool.cbSize = sizeof tool;
         tool.hwnd = GetParent(control);
         tool.uId = reinterpret_cast<UINT_PTR>(control);
         tool.lpszText = text;
