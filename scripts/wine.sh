@@ -2,6 +2,8 @@
 # prefix is a copy of it by hard links. Nothing outside build/ is read or written.
 # shellcheck shell=bash
 
+# Wine takes the names of files in the character set of the locale, which a bare machine does not set.
+export LC_ALL=C.UTF-8
 export WINEARCH=win64 WINEDEBUG=${WINEDEBUG:--all}
 # No offers to download a browser or a runtime, and no menu entries in the user's own desktop.
 export WINEDLLOVERRIDES='mscoree,mshtml=;winemenubuilder.exe=d'

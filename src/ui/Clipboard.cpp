@@ -4,6 +4,7 @@
 #include <windowsx.h>
 
 #include <cstring>
+#include <cwchar>
 
 #include "resources/ids.h"
 #include "ui/Handles.h"
@@ -38,7 +39,8 @@ std::wstring SelectedItem(HWND tree) {
     item.pszText = text.data();
     item.cchTextMax = static_cast<int>(text.size());
     if (!item.hItem || !TreeView_GetItem(tree, &item)) return {};
-    return text.c_str();
+    text.resize(std::wcslen(text.c_str()));
+    return text;
 }
 
 bool CopyFrom(HWND control) {
