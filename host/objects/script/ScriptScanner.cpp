@@ -26,11 +26,12 @@ constexpr unsigned ClassOf(unsigned c) {
     return c == '_' ? kUnderscore : c == '.' ? kDot : 0;
 }
 
-constexpr auto kClasses = [] {
+constexpr std::array<std::uint16_t, 256> MakeClasses() {
     std::array<std::uint16_t, 256> classes{};
     for (unsigned c = 0; c < classes.size(); ++c) classes[c] = static_cast<std::uint16_t>(ClassOf(c));
     return classes;
-}();
+}
+constexpr auto kClasses = MakeClasses();
 
 // What lies beyond the table is a letter.
 constexpr bool In(wchar_t c, unsigned classes) {

@@ -4,6 +4,8 @@
 
 #include <cderr.h>
 
+#include <cwchar>
+
 #include "objects/Paths.h"
 #include "objects/Strings.h"
 #include "objects/ids.h"
@@ -33,7 +35,10 @@ std::wstring Show(OPENFILENAMEW& dialog, bool open, std::wstring name) {
         name.resize(size);
         dialog.lpstrFile = name.data();
         dialog.nMaxFile = size;
-        if (open ? GetOpenFileNameW(&dialog) : GetSaveFileNameW(&dialog)) return name.c_str();
+        if (open ? GetOpenFileNameW(&dialog) : GetSaveFileNameW(&dialog)) {
+            name.resize(std::wcslen(name.c_str()));
+            return name;
+        }
         switch (CommDlgExtendedError()) {
             case 0: return {};
             case FNERR_BUFFERTOOSMALL: size *= 2; break;

@@ -98,7 +98,7 @@ JsonValue Fields::Take(std::string_view key) {
             place_ = 0;
         }
         const JsonValue name = next_, value = next_.Next();
-        next_ = value.Next();
+        next_ = value.Next();  // cppcheck-suppress danglingLifetime; it points into the row
         ++place_;
         if (name.Text() != key) continue;
         ++taken_;
