@@ -165,9 +165,7 @@ void ManagerDlg::UpdateStates() {
     for (const ButtonRow& row : kButtons) {
         // With nothing to save the save button still offers its menu.
         const Command command = row.command == Command::Save ? Command::SaveAs : row.command;
-        const bool enabled = IsEnabled(command, state);
-        const HWND button = Item(row.control);
-        if (enabled != (IsWindowEnabled(button) != FALSE)) ui::Enable(button, enabled);
+        ui::Enable(Item(row.control), IsEnabled(command, state));
     }
 }
 

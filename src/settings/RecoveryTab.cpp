@@ -166,17 +166,11 @@ void RecoveryTab::UpdateSelection() {
     const std::wstring text = support::ToEditLineEnds(description);
     if (text != ui::TextOf(edit)) ui::SetText(edit, text);
     const TabButtons states = ButtonsFor(list.Size(), row, view_.IconOf(row));
-    for (const ButtonRow& row : kButtons) {
-        const HWND button = Item(row.control);
-        const bool enabled = states.*row.enabled;
-        if (enabled != (IsWindowEnabled(button) != FALSE)) ui::Enable(button, enabled);
-    }
+    for (const ButtonRow& row : kButtons) ui::Enable(Item(row.control), states.*row.enabled);
 }
 
 void RecoveryTab::UpdateDefaultButton() {
-    const HWND button = Item(IDC_RECOVERY_SET_DEFAULT);
-    const bool enabled = settings_->CanSetAsDefault();
-    if (enabled != (IsWindowEnabled(button) != FALSE)) ui::Enable(button, enabled);
+    ui::Enable(Item(IDC_RECOVERY_SET_DEFAULT), settings_->CanSetAsDefault());
 }
 
 void RecoveryTab::Changed() {

@@ -30,6 +30,7 @@ void SetChecked(HWND button, bool checked) {
 }
 
 void Enable(HWND control, bool enabled) {
+    if ((IsWindowEnabled(control) != FALSE) == enabled) return;
     if (!enabled) LeaveFocus(control);
     EnableWindow(control, enabled);
 }

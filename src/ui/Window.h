@@ -14,7 +14,8 @@ void SetText(HWND window, const std::wstring& text);
 bool IsChecked(HWND button);
 void SetChecked(HWND button, bool checked);
 
-// Disabling a control that has the focus moves the focus on first, so that the keyboard is never lost.
+// Disabling a control that has the focus moves the focus on first, so that the keyboard is never lost. What is
+// as wanted is left alone.
 void Enable(HWND control, bool enabled);
 void Show(HWND control, bool visible);
 
