@@ -14,14 +14,16 @@ ScenDescriptionPP::ScenDescriptionPP(WizardPS& sheet) : WizardPPBase(sheet, IDD_
 void ScenDescriptionPP::OnInit() {
     WizardPPBase::OnInit();
     if (!State().repository) return;
+    if (!State().name.empty()) {
+        // Before all that may fail: what is not shown would be taken for deleted.
+        ui::SetText(Item(IDC_SCEN_DESCRIPTION), State().description);
+        ui::SetText(Item(IDC_SCEN_NAME), State().name);
+        SetCanAdvance(true);
+        initialName_ = State().name;
+    }
     com::Bstr path;
     if (SUCCEEDED(State().repository->GetFilePath(path.Put())))
         ui::SetText(Item(IDC_SCEN_FILE), support::DisplayForm(path.View()));
-    if (State().name.empty()) return;
-    initialName_ = State().name;
-    ui::SetText(Item(IDC_SCEN_NAME), initialName_);
-    ui::SetText(Item(IDC_SCEN_DESCRIPTION), State().description);
-    SetCanAdvance(true);
 }
 
 bool ScenDescriptionPP::OnCommand(const ui::Command& command) {

@@ -61,6 +61,12 @@ void WizardPPBase::ShowFrame() {
     SendMessageW(frame, STM_SETIMAGE, IMAGE_BITMAP, reinterpret_cast<LPARAM>(picture));
 }
 
+// The page works without it, and the rest of its beginning matters more.
+void WizardPPBase::OnInit() try {
+    ShowFrame();
+} catch (const std::bad_alloc&) {
+}
+
 void WizardPPBase::ShowIcon(ButtonIcon& button) {
     ui::Icon before = std::exchange(
         button.icon, ui::LoadIconOfSize(button.iconId, MulDiv(button.size, Dpi(), USER_DEFAULT_SCREEN_DPI)));
@@ -98,7 +104,7 @@ Leave WizardPPBase::AddOperation(IUnknown* operation) {
     return GoOn();
 }
 
-// The page works without it, and the rest of its beginning matters more.
+// As dispensable as the frame.
 void WizardPPBase::SetButtonIcon(int control, int iconId, int size) try {
     icons_.push_back({control, iconId, size, {}});
     ShowIcon(icons_.back());

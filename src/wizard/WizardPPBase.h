@@ -34,7 +34,7 @@ protected:
     void UpdateWizardButtons() const;
 
     // Pages that override OnInit call this one first.
-    void OnInit() override { ShowFrame(); }
+    void OnInit() override;
     // A page that says no is not shown.
     virtual bool CanBeShown() const { return true; }
     // Each time the page is shown.

@@ -93,6 +93,7 @@ Playing Rehearsal::Play(const Fault& fault) {
 
 Playing Rehearsal::PlayOnce(const Fault& fault, unsigned patience) {
     Playing playing;
+    test::RestartWatchdog();
     RunPendingMessages();
     const Counts before = Counts::Take();
     {
