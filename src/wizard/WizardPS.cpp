@@ -96,7 +96,9 @@ HRESULT WizardPS::Load(IRecoveryScenario* scenario, std::wstring name) {
     if (FAILED(scenario->GetPostRecoveryOption(&state_.postRecoveryOption))) return E_FAIL;
     state_.name = std::move(name);
     com::Bstr description;
-    if (SUCCEEDED(scenario->GetDescription(description.Put()))) state_.description = description.Text();
+    // Finish would write an unread one back as empty.
+    if (FAILED(scenario->GetDescription(description.Put()))) return E_FAIL;
+    state_.description = description.Text();
     return S_OK;
 }
 
