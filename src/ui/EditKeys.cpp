@@ -24,7 +24,8 @@ LRESULT CALLBACK MultiLineProcedure(HWND window, UINT message, WPARAM wParam, LP
     if (message != WM_GETDLGCODE) return answer;
     const bool isSheets = IsKeyDown(lParam, VK_TAB) || IsKeyDown(lParam, VK_ESCAPE) ||
                           (IsKeyDown(lParam, VK_RETURN) && !MakesLines(window));
-    return isSheets ? answer & ~DLGC_WANTALLKEYS : answer;
+    // Coming here with Tab does not select every line, which the next key, Enter too, would replace.
+    return answer & ~DLGC_HASSETSEL & ~(isSheets ? DLGC_WANTALLKEYS : 0);
 }
 
 LRESULT CALLBACK EnterProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR id,

@@ -101,6 +101,10 @@ TEST_F(KeyboardTest, EveryPageBeginsWhereSomethingIsToBeDoneAlsoOnTheWayBack) {
                 press(1, VK_RETURN);
                 screen.Type(L"two");
                 EXPECT_EQ(screen.Text(wizard, IDC_SCEN_DESCRIPTION), L"one\r\ntwo") << "Enter makes a line";
+                press(1, VK_TAB);
+                screen.RealKeys({VK_SHIFT, VK_TAB});
+                press(1, VK_RETURN);
+                EXPECT_EQ(screen.Text(wizard, IDC_SCEN_DESCRIPTION).size(), 10u) << "and replaces none";
                 press(2, VK_TAB);
                 Enter(screen, wizard);
                 while (!finish && title_ != L"Welcome to the Recovery Scenario Wizard") {
