@@ -78,7 +78,8 @@ bool SettingsFrame::TakesKey(MSG& message) {
     if (message.hwnd != window_ && !IsChild(window_, message.hwnd)) return false;
     if (tabs_.at(static_cast<size_t>(current_))->TakesKey(message)) return true;
     if (message.message != WM_KEYDOWN) return false;
-    if (message.wParam == VK_TAB && !IsHeld(VK_CONTROL)) return LeavesEditBox(message);
+    if (!IsHeld(VK_CONTROL) && (message.wParam == VK_TAB || message.wParam == VK_ESCAPE))
+        return LeavesEditBox(message);
     if (!IsHeld(VK_CONTROL)) return false;
     switch (message.wParam) {
         case VK_TAB: StepTab(IsHeld(VK_SHIFT) ? -1 : 1); return true;
@@ -88,12 +89,16 @@ bool SettingsFrame::TakesKey(MSG& message) {
     }
 }
 
-// A multi-line edit box takes every key and hands Tab to its page, which would never leave itself.
+// A multi-line edit box takes every key and hands Tab and Escape to its page, which neither leaves itself nor
+// closes the frame.
 bool SettingsFrame::LeavesEditBox(const MSG& message) {
     const LRESULT wanted =
         SendMessageW(message.hwnd, WM_GETDLGCODE, message.wParam, reinterpret_cast<LPARAM>(&message));
     if ((wanted & (DLGC_WANTALLKEYS | DLGC_HASSETSEL)) != (DLGC_WANTALLKEYS | DLGC_HASSETSEL)) return false;
-    SendMessageW(window_, WM_NEXTDLGCTL, IsHeld(VK_SHIFT), FALSE);
+    const bool escape = message.wParam == VK_ESCAPE;
+    // A name that is being typed into a list keeps its Escape.
+    if (escape && !(GetWindowLongPtrW(message.hwnd, GWL_STYLE) & ES_MULTILINE)) return false;
+    SendMessageW(window_, escape ? WM_COMMAND : WM_NEXTDLGCTL, escape ? IDCANCEL : IsHeld(VK_SHIFT), FALSE);
     return true;
 }
 

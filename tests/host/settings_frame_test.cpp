@@ -17,7 +17,7 @@ namespace recoveryui::test {
 namespace {
 
 // As in the host's own header, which shares names with the component's.
-constexpr int kTabs = 0x3020, kApply = 0x3021, kHelp = 9, kSorRequire = 2200;
+constexpr int kTabs = 0x3020, kApply = 0x3021, kHelp = 9, kSorRequire = 2200, kSorRefusal = 2202;
 constexpr CLSID kUnknown = {0xf0a1c7d3, 0x4c3b, 0x4f1f, {0x8a, 0x55, 0x10, 0x02, 0x03, 0x04, 0x05, 0x06}};
 
 class SettingsFrameTest : public ComTest {
@@ -95,6 +95,9 @@ TEST_F(SettingsFrameTest, TheKeyboardReachesEveryTabAndEveryControl) {
         screen.RealKeys({VK_CONTROL, VK_SHIFT, VK_TAB});
         EXPECT_EQ(CurrentTab(screen, frame), 1);
         screen.Picture(frame, L"host-settings");
+        screen.Keys({VK_TAB});
+        screen.Keys({VK_TAB});
+        EXPECT_EQ(screen.FocusId(), kSorRefusal);
         screen.Keys({VK_ESCAPE});
     });
 }
