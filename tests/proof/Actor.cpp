@@ -1,5 +1,6 @@
 #include "proof/Actor.h"
 
+#include <algorithm>
 #include <stdexcept>
 
 #include "harness/ProcessWindows.h"
@@ -8,6 +9,8 @@ namespace recoveryui::proof {
 namespace {
 
 constexpr int kTries = 3;
+constexpr wchar_t kHand[] = L"TovarinPointingHand";
+constexpr DWORD kHandComes = 1500;
 constexpr ULONGLONG kHang = 5000;
 // What the harness says when the message loop stands still.
 constexpr const char* kStandsStill = "the windows do not answer";
@@ -49,6 +52,7 @@ void Player::Try(const std::function<void()>& step) {
             return;
         } catch (const std::runtime_error& problem) {
             if (std::string(problem.what()) == kStandsStill) throw;
+            SetPatience(patience_);
             const bool boxed = ReadBoxAway();
             if (attempt == kTries ||
                 (!boxed && std::string(problem.what()).find("has returned") != std::string::npos))
@@ -77,6 +81,23 @@ void Player::Fill(HWND window, int id, const std::wstring& text) {
     Try([&] {
         Enter(window, id, text);
         if (Text(window, id) != text) throw std::runtime_error("the text does not stay");
+    });
+}
+
+void Player::PointAt(HWND wizard, int hand, HWND target) {
+    Try([&] {
+        RECT place{};
+        GetWindowRect(target, &place);
+        Press(wizard, hand);
+        // The hand comes a while after it was asked for.
+        SetPatience(std::max(patience_, kHandComes));
+        WaitUntil("the hand, or what is wrong",
+                  [] { return FindWindowW(kHand, nullptr) || test::FindBox(); });
+        SetPatience(patience_);
+        SetCursorPos((place.left + place.right) / 2, place.bottom - 8);
+        for (const DWORD event : {MOUSEEVENTF_LEFTDOWN, MOUSEEVENTF_LEFTUP}) mouse_event(event, 0, 0, 0, 0);
+        WaitUntil("the hand is back", [] { return !FindWindowW(kHand, nullptr); });
+        Do([] {});
     });
 }
 
@@ -139,7 +160,7 @@ void Actor::CloseAll(const test::UiThread& ui) {
             lifted = true;
         }
         // Nothing but Escape ends the pointing hand, which comes a while after it was asked for.
-        if (FindWindowW(L"TovarinPointingHand", nullptr)) {
+        if (FindWindowW(kHand, nullptr)) {
             keybd_event(VK_ESCAPE, 1, 0, 0);
             keybd_event(VK_ESCAPE, 1, KEYEVENTF_KEYUP, 0);
         }

@@ -29,6 +29,8 @@ public:
     void Leave(HWND window, int button);
     // The whole text of an edit box, seen to be there.
     void Fill(HWND window, int id, const std::wstring& text);
+    // Presses a page's pointing hand and clicks into a window.
+    void PointAt(HWND wizard, int hand, HWND target);
     // Closes a window that may ask a question first; true when it did.
     bool CloseWithAnswer(HWND window, WORD answer);
 

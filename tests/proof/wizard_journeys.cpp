@@ -4,6 +4,7 @@
 #include <commctrl.h>
 
 #include "proof/Scene.h"
+#include "wizard/TargetApplication.h"
 
 namespace recoveryui::proof {
 namespace {
@@ -120,6 +121,45 @@ class PopupWithKeys final : public WizardStage {
     }
 };
 
+class ObjectStateWithButton final : public WizardStage {
+    void Walk(Player& player, HWND wizard) override {
+        const HWND button = FindWindowExW(target_.Login(), nullptr, L"Button", L"Cancel");
+        ChooseTrigger(player, wizard, IDC_SELECT_TRIGGER_OBJECT_STATE);
+        player.NextTo(wizard, L"Select Object");
+        player.PointAt(wizard, IDC_SELECT_OBJECT_HAND, button);
+        player.Try([&] {
+            if (player.RowsOf(wizard, IDC_SELECT_OBJECT_TREE).empty())
+                player.Leave(player.WaitForWindow(L"Object Selection - Object State Trigger"), IDOK);
+        });
+        Expect(player, wizard, IDC_SELECT_OBJECT_TREE, {L"#32770 \"Log in\"", L"  Button \"Cancel\""});
+        player.NextTo(wizard, L"Set Object Properties and Values");
+        HWND all = nullptr;
+        player.Try([&] {
+            player.Press(wizard, IDC_OBJECT_PROPS_ADD_REMOVE);
+            all = player.WaitForWindow(L"Edit Properties");
+        });
+        player.Try([&] {
+            if (!player.IsRowChecked(all, IDC_EDIT_PROPERTIES_GRID, L"enabled"))
+                player.ToggleRow(all, IDC_EDIT_PROPERTIES_GRID, L"enabled");
+        });
+        player.Leave(all, IDOK);
+        player.Try([&] { player.Choose(wizard, IDC_OBJECT_PROPS_GRID, L"text"); });
+        player.Fill(wizard, IDC_OBJECT_PROPS_VALUE, L"Can.*");
+        player.Try([&] { player.Check(wizard, IDC_OBJECT_PROPS_REGEX); });
+        player.NextTo(wizard, kOperations);
+        AddOperation(player, wizard, IDC_SELECT_OPERATION_CLICK,
+                     L"Recovery Operation - Click Button or Press Key");
+        player.Try([&] { player.Check(wizard, IDC_CLICK_LABEL); });
+        player.PointAt(wizard, IDC_CLICK_HAND, target_.Login());
+        Expect(player, wizard, IDC_CLICK_LABEL_LIST, {L"OK", L"Cancel"});
+        player.NextTo(wizard, kOperations);
+        Expect(player, wizard, IDC_OPERATION_LIST_ROWS, {L"Keyboard click | Click button with label: OK "});
+        Finish(player, wizard, L"State");
+    }
+
+    test::TargetApplication target_;
+};
+
 class ErrorWithFunction final : public WizardStage {
     void Walk(Player& player, HWND wizard) override {
         ChooseTrigger(player, wizard, IDC_SELECT_TRIGGER_ERROR);
@@ -191,6 +231,7 @@ using Pages = EditEachPage::Pages;
 
 constexpr Journey kJourneys[] = {
     {"wizard-popup", Make<PopupWithKeys>},
+    {"wizard-state", Make<ObjectStateWithButton>},
     {"wizard-error", Make<ErrorWithFunction>},
     {"wizard-crash", Make<CrashWithProcess>},
     {"edit-popup", [] { return Make<EditEachPage>(L"Pop-up", Pages{L"Specify Pop-up Window Conditions"}); }},
