@@ -33,16 +33,28 @@ void DrawMenu(HDC picture, HWND menu, const RECT& covered) {
     ReleaseDC(menu, source);
 }
 
+// Where in a module: "RecoveryUI.dll + 0x1234".
+void PrintPlace(DWORD64 address) {
+    HMODULE module = nullptr;
+    GetModuleHandleExW(GET_MODULE_HANDLE_EX_FLAG_FROM_ADDRESS | GET_MODULE_HANDLE_EX_FLAG_UNCHANGED_REFCOUNT,
+                       reinterpret_cast<LPCWSTR>(address), &module);
+    wchar_t name[512] = L"";
+    GetModuleFileNameW(module, name, 512);
+    std::printf("  %s + 0x%llx\n", Utf8(name).c_str(), address - reinterpret_cast<DWORD64>(module));
+}
+
 LONG WINAPI OnCrash(EXCEPTION_POINTERS* crash) {
-    void* const address = crash->ExceptionRecord->ExceptionAddress;
-    MEMORY_BASIC_INFORMATION region{};
-    VirtualQuery(address, &region, sizeof region);
-    wchar_t module[512] = L"";
-    GetModuleFileNameW(static_cast<HMODULE>(region.AllocationBase), module, 512);
-    std::printf("CRASH: exception 0x%08lX at %p, %s + 0x%llX\n", crash->ExceptionRecord->ExceptionCode,
-                address, Utf8(module).c_str(),
-                static_cast<unsigned long long>(static_cast<char*>(address) -
-                                                static_cast<char*>(region.AllocationBase)));
+    std::printf("CRASH: exception 0x%08lX\n", crash->ExceptionRecord->ExceptionCode);
+    CONTEXT frame = *crash->ContextRecord;
+    for (int depth = 0; depth < 24 && frame.Rip; ++depth) {
+        PrintPlace(frame.Rip);
+        DWORD64 base = 0, establisher = 0;
+        void* handlerData = nullptr;
+        const PRUNTIME_FUNCTION function = RtlLookupFunctionEntry(frame.Rip, &base, nullptr);
+        if (!function) break;
+        RtlVirtualUnwind(UNW_FLAG_NHANDLER, base, frame.Rip, function, &frame, &handlerData, &establisher,
+                         nullptr);
+    }
     TerminateProcess(GetCurrentProcess(), 99);
     return EXCEPTION_EXECUTE_HANDLER;
 }
