@@ -133,6 +133,7 @@ class ObjectStateWithButton final : public WizardStage {
         });
         Expect(player, wizard, IDC_SELECT_OBJECT_TREE, {L"#32770 \"Log in\"", L"  Button \"Cancel\""});
         player.NextTo(wizard, L"Set Object Properties and Values");
+        player.Try([&] { player.Choose(wizard, IDC_OBJECT_PROPS_TREE, L"Button \"Cancel\""); });
         HWND all = nullptr;
         player.Try([&] {
             player.Press(wizard, IDC_OBJECT_PROPS_ADD_REMOVE);
