@@ -133,16 +133,17 @@ void ProcessPair::AddSelected() {
     const auto selected = SelectedRunning();
     if (selected.empty()) return;
     Chosen().ClearSelection();
+    int row = -1;
     {
         const ui::ListView::Filling filling(Chosen());
         for (const std::wstring& name : NamesToAppend(Names(), selected)) {
-            const int row = Chosen().InsertRow(Chosen().Count(), name);
+            row = Chosen().InsertRow(Chosen().Count(), name);
             ListView_SetItemState(Chosen().Window(), row, LVIS_SELECTED | LVIS_FOCUSED,
                                   LVIS_SELECTED | LVIS_FOCUSED);
-            ListView_EnsureVisible(Chosen().Window(), row, FALSE);
         }
     }
     RowsChanged();
+    if (row >= 0) ListView_EnsureVisible(Chosen().Window(), row, FALSE);  // not while it is not drawn
     SendMessageW(Running(), LB_SETSEL, FALSE, -1);
     onReady_(true);
     SetFocus(Chosen().Window());

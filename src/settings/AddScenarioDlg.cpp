@@ -152,10 +152,12 @@ bool AddScenarioDlg::ReadNames(const std::wstring& path, std::vector<std::wstrin
 }
 
 void AddScenarioDlg::FillList(const std::vector<std::wstring>& names) const {
-    const ui::ListView::Filling filling(list_);
-    list_.Clear();
-    for (size_t row = 0; row < names.size(); ++row) list_.InsertRow(static_cast<int>(row), names[row]);
-    list_.FitColumnToHeader(0);
+    {
+        const ui::ListView::Filling filling(list_);
+        list_.Clear();
+        for (size_t row = 0; row < names.size(); ++row) list_.InsertRow(static_cast<int>(row), names[row]);
+    }
+    list_.FitColumnToHeader(0);  // beside the scroll bar that many rows bring
 }
 
 void AddScenarioDlg::Accept() {

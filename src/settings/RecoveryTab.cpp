@@ -44,7 +44,6 @@ void RecoveryTab::OnInit() {
     PrepareLayout();
     ui::LeaveKeysToSheet(Window());
     ShowList(settings_->list.Has(settings_->currentRow) ? settings_->currentRow : 0);
-    view_.FitColumns();
     UpdateDefaultButton();
 }
 
@@ -145,6 +144,8 @@ void RecoveryTab::ShowList(int row) {
         const Muted muted(*this);
         view_.Refill();
     }
+    // Before the list scrolls to the row: a scroll bar that goes afterwards takes room and paint with it.
+    view_.FitColumns();
     SelectRow(row);
 }
 

@@ -30,7 +30,6 @@ void RecoveryTab::Add() {
     }
     show();
     SetFocus(view_.Window());
-    view_.FitColumns();
     Changed();
     UpdateSelection();
 }
@@ -50,7 +49,6 @@ void RecoveryTab::Remove() {
     const Removal removal = settings_->list.Remove(row);
     settings_->currentRow = removal.select;
     ShowList(removal.select);
-    if (removal.select != kNoRow) view_.FitColumns();
     SetFocus(view_.Window());
     Changed();
 }
