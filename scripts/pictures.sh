@@ -23,7 +23,8 @@ help_pictures='03-welcome wizard-welcome
 50-every-kind manager
 51-properties-popup properties
 31-add-scenario add-scenario
-32-settings-filled recovery-tab'
+32-settings-filled recovery-tab
+33-settings-sor settings-sor'
 
 # The same, and: what only the documentation shows.
 more_pictures='01-host-menu host-menu
@@ -32,7 +33,6 @@ more_pictures='01-host-menu host-menu
 23-read-only-file manager-read-only
 26-context-menu manager-menu
 25-many-scenarios manager-many
-33-settings-sor settings-sor
 35-about about
 24-properties properties-general
 55-properties-operations properties-operations

@@ -8,6 +8,7 @@ namespace recoveryui::ui {
 namespace {
 
 constexpr UINT_PTR kEnter = 1;
+constexpr WPARAM kControlA = 1;  // as a character
 
 bool IsKeyDown(LPARAM message, WPARAM key) {
     const auto* asked = reinterpret_cast<const MSG*>(message);
@@ -20,6 +21,8 @@ bool MakesLines(HWND edit) {
 }
 
 LRESULT CALLBACK MultiLineProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam) noexcept {
+    // Some versions of the control know Ctrl+A in a single line only.
+    if (message == WM_CHAR && wParam == kControlA) return SendMessageW(window, EM_SETSEL, 0, -1);
     const LRESULT answer = CallOwn(window, message, wParam, lParam);
     if (message != WM_GETDLGCODE) return answer;
     const bool isSheets = IsKeyDown(lParam, VK_TAB) || IsKeyDown(lParam, VK_ESCAPE) ||
