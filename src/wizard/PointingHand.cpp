@@ -1,5 +1,7 @@
 #include "wizard/PointingHand.h"
 
+#include <ranges>
+
 #include "HostInterfaces.h"
 #include "com/Create.h"
 #include "com/Guard.h"
@@ -37,8 +39,9 @@ private:
         POINT corner;
     };
 
+    // The sheet is the last that appears again, so that no owner covers it.
     void Move(int left) const noexcept {
-        for (const Place& place : windows_)
+        for (const Place& place : std::views::reverse(windows_))
             SetWindowPos(place.window, nullptr, place.corner.x - left, place.corner.y, 0, 0,
                          SWP_NOSIZE | SWP_NOZORDER | SWP_NOOWNERZORDER | SWP_NOACTIVATE);
     }
