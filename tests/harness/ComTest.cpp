@@ -27,11 +27,6 @@ void LeaveApartment() {
     } while (SUCCEEDED(CoGetApartmentType(&kind, &qualifier)) && kind == APTTYPE_MAINSTA);
 }
 
-void RunPendingMessages() {
-    MSG message;
-    while (PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE)) DispatchMessageW(&message);
-}
-
 }  // namespace
 
 ComTest::ComTest() {

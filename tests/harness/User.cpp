@@ -74,6 +74,11 @@ bool UiThread::WaitForIdle(ULONGLONG deadline) const {
     }
 }
 
+void RunPendingMessages() {
+    MSG message;
+    while (PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE)) DispatchMessageW(&message);
+}
+
 void PumpUntil(HANDLE signal) {
     // Messages that somebody has looked at without taking them count as well.
     while (MsgWaitForMultipleObjectsEx(1, &signal, INFINITE, QS_ALLINPUT, MWMO_INPUTAVAILABLE) !=

@@ -45,6 +45,8 @@ private:
     std::atomic<bool> ended_{false};
 };
 
+// Lets this thread's windows do what they have put off.
+void RunPendingMessages();
 // Runs this thread's messages until the handle is signalled.
 void PumpUntil(HANDLE signal);
 

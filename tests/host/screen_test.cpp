@@ -4,8 +4,10 @@
 #include "HostInterfaces.h"
 #include "com/Automation.h"
 #include "com/SafeArray.h"
+#include "harness/ApplicationWindow.h"
 #include "harness/ComTest.h"
 #include "harness/HelpViewer.h"
+#include "harness/Pointing.h"
 #include "harness/ProcessWindows.h"
 #include "objects/ids.h"
 
@@ -20,46 +22,20 @@ using recoveryui::test::Rows;
 using recoveryui::test::User;
 using recoveryui::test::UserScreen;
 
-constexpr const wchar_t* kHandClass = L"TovarinPointingHand";
+int clicks = 0;
 
 // An application under test: a group box in front of a disabled edit box, a panel with a label and a button.
-class Application {
-public:
+struct Application {
     Application() {
-        WNDCLASSW kind{};
-        kind.lpfnWndProc = Procedure;
-        kind.lpszClassName = L"Application";
-        kind.hInstance = GetModuleHandleW(nullptr);
-        kind.hbrBackground = GetSysColorBrush(COLOR_3DFACE);
-        RegisterClassW(&kind);
         clicks = 0;
-        window = CreateWindowW(L"Application", L"Main Window", WS_OVERLAPPEDWINDOW | WS_VISIBLE, 100, 100,
-                               500, 400, nullptr, nullptr, nullptr, nullptr);
-        Add(L"Button", L"Group", BS_GROUPBOX, window, 0, {10, 10, 200, 150});
-        edit = Add(L"Edit", L"typed", WS_DISABLED, window, 7, {20, 40, 100, 30});
-        panel = Add(L"Static", L"Panel", 0, window, 0, {10, 200, 300, 100});
-        Add(L"Static", L"First line\r\nand second", 0, window, 0, {320, 10, 150, 40});
-        button = Add(L"Button", L"OK", 0, panel, 1, {10, 30, 80, 30});
-        bare = Add(L"ScrollBar", L"", 0, window, 0, {10, 320, 100, 20});
+        SetWindowLongPtrW(window, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(&Procedure));
+        panel = GetDlgItem(window, 8);
+        button = CreateWindowW(L"Button", L"OK", WS_CHILD | WS_VISIBLE, 10, 30, 80, 30, panel,
+                               reinterpret_cast<HMENU>(1), nullptr, nullptr);
     }
     ~Application() { Close(); }
     void Close() {
         if (window) DestroyWindow(std::exchange(window, nullptr));
-    }
-    static POINT MiddleOf(HWND control) {
-        RECT place{};
-        GetWindowRect(control, &place);
-        return {(place.left + place.right) / 2, (place.top + place.bottom) / 2};
-    }
-
-    HWND window, edit, panel, button, bare;
-    static inline int clicks = 0;
-
-private:
-    static HWND Add(const wchar_t* kind, const wchar_t* text, DWORD style, HWND parent, int id, RECT place) {
-        return CreateWindowW(kind, text, style | WS_CHILD | WS_VISIBLE, place.left, place.top, place.right,
-                             place.bottom, parent, reinterpret_cast<HMENU>(static_cast<INT_PTR>(id)), nullptr,
-                             nullptr);
     }
     static LRESULT CALLBACK Procedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
         if (message == WM_PARENTNOTIFY || message == WM_LBUTTONDOWN || message == WM_LBUTTONUP ||
@@ -67,6 +43,14 @@ private:
             clicks += message != WM_PARENTNOTIFY || LOWORD(wParam) == WM_LBUTTONDOWN;
         return DefWindowProcW(window, message, wParam, lParam);
     }
+
+    HWND window = test::MakeApplication(L"Main Window", {100, 100, 500, 400},
+                                        {{L"Button", L"Group", 0, {10, 10, 200, 150}, BS_GROUPBOX},
+                                         {L"Edit", L"typed", 7, {20, 40, 100, 30}, WS_DISABLED},
+                                         {L"Static", L"Panel", 8, {10, 200, 300, 100}},
+                                         {L"Static", L"First line\r\nand second", 0, {320, 10, 150, 40}},
+                                         {L"ScrollBar", L"", 9, {10, 320, 100, 20}}});
+    HWND edit = GetDlgItem(window, 7), bare = GetDlgItem(window, 9), panel, button;
 };
 
 class HostScreen : public ComTest {
@@ -112,12 +96,12 @@ protected:
 };
 
 TEST_F(HostScreen, TheObjectsUnderAPointSayWhatTheirWindowsSayNow) {
-    EXPECT_EQ(Names(ObjectsAt(Application::MiddleOf(application_.edit))),
-              L"Edit \"typed\";Application \"Main Window\";");
-    EXPECT_EQ(Names(ObjectsAt({130, 275})), L"Button \"Group\";Application \"Main Window\";");
+    EXPECT_EQ(Names(ObjectsAt(test::MiddleOf(application_.edit))),
+              L"Edit \"typed\";OrderEntry \"Main Window\";");
+    EXPECT_EQ(Names(ObjectsAt({130, 275})), L"Button \"Group\";OrderEntry \"Main Window\";");
     EXPECT_EQ(ObjectsAt({-30'000, -30'000}).size(), 0u);
-    const auto objects = ObjectsAt(Application::MiddleOf(application_.button));
-    ASSERT_EQ(Names(objects), L"Button \"OK\";Static \"Panel\";Application \"Main Window\";");
+    const auto objects = ObjectsAt(test::MiddleOf(application_.button));
+    ASSERT_EQ(Names(objects), L"Button \"OK\";Static \"Panel\";OrderEntry \"Main Window\";");
 
     const auto text = [](IDispatch* object) -> std::wstring {
         const auto source = com::Query<IWindowTextSource>(object);
@@ -125,7 +109,7 @@ TEST_F(HostScreen, TheObjectsUnderAPointSayWhatTheirWindowsSayNow) {
         return source && source->GetText(given.Put()) == S_OK ? given.Text() : L"none";
     };
     EXPECT_EQ(text(objects[2].Get()), L"Main Window\nPanel\nFirst line\nand second") << "with its labels";
-    EXPECT_EQ(text(ObjectsAt(Application::MiddleOf(application_.bare))[0].Get()), L"none");
+    EXPECT_EQ(text(ObjectsAt(test::MiddleOf(application_.bare))[0].Get()), L"none");
 
     IDispatch* const button = objects[0].Get();
     const std::pair<const wchar_t*, std::wstring> answers[] = {
@@ -150,40 +134,15 @@ TEST_F(HostScreen, TheObjectsUnderAPointSayWhatTheirWindowsSayNow) {
     EXPECT_EQ(com::GetProperty(button, L"text", &value), HRESULT_FROM_WIN32(ERROR_INVALID_WINDOW_HANDLE));
 }
 
-// The hand, moved by the mouse of the machine.
-class HostPointingHand : public HostScreen {
-protected:
-    static void MoveTo(UserScreen& screen, POINT point, HWND framed) {
-        SetCursorPos(point.x, point.y);
-        screen.WaitUntil("the window is framed", [&] {
-            RECT wanted{}, place{};
-            GetWindowRect(framed, &wanted);
-            for (const HWND window : test::TopLevelWindows()) {
-                if (test::ClassOf(window) != kHandClass || !IsWindowVisible(window)) continue;
-                GetWindowRect(window, &place);
-                if (EqualRect(&wanted, &place)) return true;
-            }
-            return false;
-        });
-    }
-    static void RunMessages() {
-        MSG message;
-        while (PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE)) DispatchMessageW(&message);
-    }
-};
-
-TEST_F(HostPointingHand, AClickGivesThePointAndNeverReachesTheWindow) {
+TEST_F(HostScreen, AClickGivesThePointAndNeverReachesTheWindow) {
     const auto finger = New<IVtlFinger>(L"Vantrel.VtlFinger");
-    const POINT target = Application::MiddleOf(application_.button);
+    const POINT target = test::MiddleOf(application_.button);
     long x = -1, y = -1, cancelled = -1;
     HRESULT second = S_OK;
-    const auto click = [](DWORD down = MOUSEEVENTF_LEFTDOWN) {
-        for (const DWORD event : {down, down * 2}) mouse_event(event, 0, 0, 0, 0);  // then up
-    };
     {
         const User user([&](UserScreen& screen) {
-            MoveTo(screen, target, application_.button);
-            click(MOUSEEVENTF_RIGHTDOWN);
+            test::Hover(screen, application_.button);
+            test::Click(MOUSEEVENTF_RIGHTDOWN);
             screen.Do([] {});
         });
         EXPECT_EQ(finger->CapturePoint(&x, &y, &cancelled), S_OK);
@@ -191,13 +150,13 @@ TEST_F(HostPointingHand, AClickGivesThePointAndNeverReachesTheWindow) {
     }
     {
         const User user([&](UserScreen& screen) {
-            MoveTo(screen, Application::MiddleOf(application_.edit), application_.edit);
+            test::Hover(screen, application_.edit);
             screen.Do([&] {
                 long none;
                 second = New<IVtlFinger>(L"Vantrel.VtlFinger")->CapturePoint(&none, &none, &none);
             });
-            MoveTo(screen, target, application_.button);
-            click();
+            test::Hover(screen, application_.button);
+            test::Click();
             screen.Do([] {});
         });
         EXPECT_EQ(finger->CapturePoint(&x, &y, &cancelled), S_OK);
@@ -206,19 +165,19 @@ TEST_F(HostPointingHand, AClickGivesThePointAndNeverReachesTheWindow) {
     EXPECT_EQ(cancelled, 0);
     EXPECT_EQ(x, target.x);
     EXPECT_EQ(y, target.y);
-    RunMessages();
-    EXPECT_EQ(Application::clicks, 0);
+    test::RunPendingMessages();
+    EXPECT_EQ(clicks, 0);
     // Without the hand it does: the test would notice.
-    click();
-    RunMessages();
-    EXPECT_NE(Application::clicks, 0);
+    test::Click();
+    test::RunPendingMessages();
+    EXPECT_NE(clicks, 0);
 }
 
 class HostSelection : public HostScreen {
 protected:
     Variant Choose(User::Script script, HRESULT expected) {
         com::CVtlSafeArray<VARIANT> candidates;
-        const POINT point = Application::MiddleOf(application_.button);
+        const POINT point = test::MiddleOf(application_.button);
         EXPECT_EQ(recorder_->GetObjectsAtPoint(candidates.Put(), point.x, point.y), S_OK);
         selection_->SetCaption(Bstr(L"Object Selection - Object State Trigger").Get());
         const User user(std::move(script));
@@ -247,7 +206,7 @@ TEST_F(HostSelection, TheUserChoosesAnObjectFromTheTree) {
             EXPECT_EQ(viewer->Take(), L"OS_Object_State.htm");
             screen.Do([&] { SetFocus(screen.Control(window, kTree)); });
             EXPECT_EQ(screen.RowsOf(window, kTree),
-                      (Rows{L"Application \"Main Window\"", L"  Static \"Panel\"", L"    Button \"OK\""}));
+                      (Rows{L"OrderEntry \"Main Window\"", L"  Static \"Panel\"", L"    Button \"OK\""}));
             EXPECT_EQ(screen.Chosen(window, kTree), Rows{L"    Button \"OK\""});
             screen.Picture(window, L"object-selection");
             screen.Choose(window, kTree, L"Static \"Panel\"");
@@ -256,9 +215,9 @@ TEST_F(HostSelection, TheUserChoosesAnObjectFromTheTree) {
         S_OK);
     EXPECT_EQ(Name(chosen.Object()), L"Static \"Panel\"");
     chosen = Choose(
-        [&](UserScreen& screen) { screen.DoubleClick(Open(screen), kTree, L"Application \"Main Window\""); },
+        [&](UserScreen& screen) { screen.DoubleClick(Open(screen), kTree, L"OrderEntry \"Main Window\""); },
         S_OK);
-    EXPECT_EQ(Name(chosen.Object()), L"Application \"Main Window\"");
+    EXPECT_EQ(Name(chosen.Object()), L"OrderEntry \"Main Window\"");
     chosen = Choose([&](UserScreen& screen) { screen.Press(Open(screen), IDCANCEL); }, S_FALSE);
     EXPECT_EQ(chosen.Type(), VT_EMPTY);
     EXPECT_EQ(selection_->Choose(nullptr, chosen.Put()), E_INVALIDARG);

@@ -28,6 +28,16 @@ inline std::vector<NamedScenario> OneOfEverything() {
     };
 }
 
+// Pop-ups, each answered by ENTER, and described as "About <name>."; the run goes on with the next step.
+inline std::vector<NamedScenario> PopUps(const std::vector<std::wstring>& names) {
+    std::vector<NamedScenario> scenarios;
+    for (const std::wstring& name : names)
+        scenarios.push_back(
+            {name,
+             {2, PopUpTrigger{{name, 0}, {}, 0}, {PressKeys{{0x1000D, 0x3000D}}}, L"About " + name + L"."}});
+    return scenarios;
+}
+
 inline std::string TextOfStore(const std::vector<NamedScenario>& scenarios) {
     StoreWriter writer;
     for (const NamedScenario& named : scenarios) writer.Add(named.name, named.scenario);

@@ -2,8 +2,7 @@
 
 #include <commctrl.h>
 
-#include <array>
-#include <cstring>
+#include <stdexcept>
 
 #include "harness/ProcessWindows.h"
 
@@ -11,8 +10,7 @@ namespace recoveryui::looks {
 namespace {
 
 constexpr int kTitlePoints = 10, kPoints = 8;
-constexpr std::array kClasses = {L"Button", L"Edit", L"Static", L"ListBox", L"ScrollBar", L"ComboBox"};
-constexpr WORD kFirstClass = 0x80;
+constexpr LONG kClosedCombo = 14;  // dialog units
 
 Kind KindOf(const std::wstring& name, DWORD style) {
     const auto is = [&](const wchar_t* other) { return lstrcmpiW(name.c_str(), other) == 0; };
@@ -37,73 +35,12 @@ Kind KindOf(const std::wstring& name, DWORD style) {
     return is(HOTKEY_CLASSW) ? Kind::Other : Kind::Frame;  // a tab control, a page
 }
 
-class Reader {
-public:
-    explicit Reader(const void* data) : at_(static_cast<const BYTE*>(data)), start_(at_) {}
-    template <class Number>
-    Number Take() {
-        Number number;
-        std::memcpy(&number, at_, sizeof number);
-        at_ += sizeof number;
-        return number;
-    }
-    // A name, or the number of one.
-    std::wstring TakeName() {
-        if (Peek() == 0xFFFF) {
-            Take<WORD>();
-            const WORD number = Take<WORD>();
-            const WORD known = static_cast<WORD>(number - kFirstClass);
-            return known < kClasses.size() ? kClasses[known] : L"#" + std::to_wstring(number);
-        }
-        std::wstring name;
-        while (const wchar_t letter = Take<wchar_t>()) name += letter;
-        return name;
-    }
-    void Skip(size_t bytes) { at_ += bytes; }
-    void Align() { at_ += (4 - (at_ - start_) % 4) % 4; }
-
-private:
-    WORD Peek() const {
-        WORD value;
-        std::memcpy(&value, at_, sizeof value);
-        return value;
-    }
-    const BYTE *at_, *start_;
-};
-
-RECT TakePlace(Reader& reader) {
-    RECT place{};
-    place.left = reader.Take<short>();
-    place.top = reader.Take<short>();
-    place.right = place.left + reader.Take<short>();
-    place.bottom = place.top + reader.Take<short>();
-    return place;
-}
-
-void Put(std::vector<WORD>& out, std::initializer_list<DWORD> numbers) {
-    for (const DWORD number : numbers) {
-        out.push_back(LOWORD(number));
-        out.push_back(HIWORD(number));
-    }
-}
-
-void Put(std::vector<WORD>& out, const std::wstring& text) {
-    out.insert(out.end(), text.c_str(), text.c_str() + text.size() + 1);
-}
-
-void Put(std::vector<WORD>& out, const RECT& place) {
-    for (const LONG number : {place.left, place.top, place.right - place.left, place.bottom - place.top})
-        out.push_back(static_cast<WORD>(number));
-}
-
-const wchar_t* ClassOf(Kind kind) {
-    switch (kind) {
-        case Kind::Static: return L"Static";
-        case Kind::Edit: return L"Edit";
-        case Kind::Combo: return L"ComboBox";
-        case Kind::List: return L"ListBox";
-        default: return L"Button";
-    }
+// From pixels of 96 DPI back to the units of the template, of which no two are the same pixel.
+RECT InUnits(const RECT& place, const RECT& base) {
+    const auto across = [&](LONG pixels) { return MulDiv(pixels, 4, base.right); };
+    const auto down = [&](LONG pixels) { return MulDiv(pixels, 8, base.bottom); };
+    const LONG left = across(place.left), top = down(place.top);
+    return {left, top, left + across(place.right - place.left), top + down(place.bottom - place.top)};
 }
 
 }  // namespace
@@ -114,34 +51,24 @@ const Control* Screen::Find(int id) const {
     return nullptr;
 }
 
-Screen FromTemplate(const void* dialogTemplate, std::wstring name) {
-    Reader reader(dialogTemplate);
-    reader.Skip(12);  // version, signature, help id, extended style
-    const auto style = reader.Take<DWORD>();
-    const WORD count = reader.Take<WORD>();
-    const RECT place = TakePlace(reader);
-    Screen screen{
-        std::move(name), (style & WS_CHILD) != 0, {place.right - place.left, place.bottom - place.top}, {}};
-    for (int part = 0; part < 3; ++part) reader.TakeName();  // menu, class, caption
-    if (style & DS_SETFONT) {
-        reader.Skip(6);
-        reader.TakeName();
-    }
-    for (int index = 0; index < count; ++index) {
-        Control control{};
-        reader.Align();
-        reader.Skip(8);
-        control.style = reader.Take<DWORD>();
-        control.place = TakePlace(reader);
-        control.id = static_cast<int>(reader.Take<DWORD>());
-        control.kind = KindOf(reader.TakeName(), control.style);
-        control.text = reader.TakeName();
-        reader.Skip(reader.Take<WORD>());
+Screen FromTemplate(HMODULE module, int number) {
+    const HWND dialog = CreateDialogParamW(
+        module, MAKEINTRESOURCEW(number), GetDesktopWindow(),
+        [](HWND, UINT, WPARAM, LPARAM) -> INT_PTR { return FALSE; }, 0);
+    if (!dialog) throw std::runtime_error("no dialog " + std::to_string(number));
+    Screen screen = FromWindow(dialog);
+    screen.name = std::to_wstring(number);
+    RECT base{0, 0, 4, 8};
+    MapDialogRect(dialog, &base);
+    const RECT size = InUnits({0, 0, screen.size.cx, screen.size.cy}, base);
+    screen.size = {size.right, size.bottom};
+    for (Control& control : screen.controls) {
+        control.place = InUnits(control.place, base);
+        control.window = nullptr;
         // The list of a drop-down box counts only when it is open.
-        if (control.kind == Kind::Combo) control.place.bottom = control.place.top + 14;
-        if (control.style & WS_VISIBLE || control.kind == Kind::Static)
-            screen.controls.push_back(std::move(control));
+        if (control.kind == Kind::Combo) control.place.bottom = control.place.top + kClosedCombo;
     }
+    DestroyWindow(dialog);
     return screen;
 }
 
@@ -150,9 +77,8 @@ std::vector<Screen> TemplatesOf(HMODULE module) {
     EnumResourceNamesW(
         module, RT_DIALOG,
         [](HMODULE from, LPCWSTR, LPWSTR name, LONG_PTR found) -> BOOL {
-            const HRSRC place = FindResourceW(from, name, RT_DIALOG);
-            reinterpret_cast<std::vector<Screen>*>(found)->push_back(FromTemplate(
-                LockResource(LoadResource(from, place)), std::to_wstring(reinterpret_cast<UINT_PTR>(name))));
+            const auto number = static_cast<int>(reinterpret_cast<INT_PTR>(name));
+            reinterpret_cast<std::vector<Screen>*>(found)->push_back(FromTemplate(from, number));
             return TRUE;
         },
         reinterpret_cast<LONG_PTR>(&screens));
@@ -177,25 +103,6 @@ Screen FromWindow(HWND dialog) {
             screen.controls.push_back(std::move(control));
     }
     return screen;
-}
-
-std::vector<WORD> MakeTemplate(SIZE size, const std::vector<Control>& controls) {
-    std::vector<WORD> out = {1, 0xFFFF};
-    Put(out, {0, 0, DS_SHELLFONT | WS_POPUP});
-    out.push_back(static_cast<WORD>(controls.size()));
-    Put(out, RECT{0, 0, size.cx, size.cy});
-    out.insert(out.end(), {0, 0, 0, 8, 400, 0x100});  // no menu, no class, no caption; the font
-    Put(out, L"MS Shell Dlg");
-    for (const Control& control : controls) {
-        if (out.size() % 2) out.push_back(0);
-        Put(out, {0, 0, control.style | WS_CHILD});
-        Put(out, control.place);
-        Put(out, {static_cast<DWORD>(control.id)});
-        Put(out, ClassOf(control.kind));
-        Put(out, control.text);
-        out.push_back(0);
-    }
-    return out;
 }
 
 Ruler::Ruler(int dpi) : dpi_(dpi), device_(CreateCompatibleDC(nullptr)) {

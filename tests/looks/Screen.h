@@ -30,15 +30,12 @@ struct Screen {
     const Control* Find(int id) const;
 };
 
-// Places are dialog units.
-Screen FromTemplate(const void* dialogTemplate, std::wstring name);
+// A dialog template of a module. Places are dialog units.
+Screen FromTemplate(HMODULE module, int number);
 // Every dialog template of a module.
 std::vector<Screen> TemplatesOf(HMODULE module);
 // Places are pixels.
 Screen FromWindow(HWND dialog);
-
-// A template with one control after the other, as the resource compiler writes it: the checks' own tests.
-std::vector<WORD> MakeTemplate(SIZE size, const std::vector<Control>& controls);
 
 // What a dialog's font makes of its units and texts.
 class Ruler {

@@ -1,4 +1,5 @@
-// Where the keyboard is when a page opens, and that everything can be done with it alone.
+// Where the keyboard is when a page of the wizard opens, that everything can be done with it alone, and the
+// topic that Help and F1 lead to.
 #include <windows.h>
 
 #include <prsht.h>
@@ -6,8 +7,9 @@
 #include <map>
 #include <set>
 
+#include "harness/HelpViewer.h"
 #include "model/FakeTestObject.h"
-#include "settings/SettingsTest.h"
+#include "support/HelpTopics.h"
 #include "wizard/WizardTest.h"
 
 namespace recoveryui::test {
@@ -15,32 +17,54 @@ namespace {
 
 constexpr int kNext = 0x3024, kEditOfCombo = 1001;
 
-// The first focus of a page, whether a user comes to it or returns; of radio buttons it is the chosen one.
-const std::map<std::wstring, int> kFirstFocus = {
-    {L"Welcome to the Recovery Scenario Wizard", kNext},
-    {L"Select Trigger Event", IDC_SELECT_TRIGGER_POPUP},
-    {L"Specify Pop-up Window Conditions", IDC_POPUP_TITLE},
-    {L"Select Object", IDC_SELECT_OBJECT_HAND},
-    {L"Set Object Properties and Values", IDC_OBJECT_PROPS_TREE},
-    {L"Select Test Run Error", IDC_SELECT_ERROR_LIST},
-    {L"Select Processes", IDC_PROCESSES_RUNNING},
-    {L"Recovery Operations", IDC_OPERATION_LIST_ROWS},
-    {L"Recovery Operation", IDC_SELECT_OPERATION_CLICK},
-    {L"Recovery Operation - Click Button or Press Key", IDC_CLICK_ENTER},
-    {L"Recovery Operation - Close Processes", IDC_PROCESSES_RUNNING},
-    {L"Recovery Operation - Function Call", kEditOfCombo},
-    {L"Post-Recovery Test Run Options", IDC_TEST_FLOW_FIRST},
-    {L"Name and Description", IDC_SCEN_NAME},
-    {L"Completing the Recovery Scenario Wizard", IDC_SUMMARY_TEXT},
+namespace topics = support::topics;
+
+struct PageFacts {
+    int focus;  // whether a user comes to it or returns; of radio buttons it is the chosen one
+    const wchar_t* topic;
 };
+const std::map<std::wstring, PageFacts> kPages = {
+    {L"Welcome to the Recovery Scenario Wizard", {kNext, topics::kWelcome}},
+    {L"Select Trigger Event", {IDC_SELECT_TRIGGER_POPUP, topics::kSelectTrigger}},
+    {L"Specify Pop-up Window Conditions", {IDC_POPUP_TITLE, topics::kPopup}},
+    {L"Select Object", {IDC_SELECT_OBJECT_HAND, topics::kSelectObject}},
+    {L"Set Object Properties and Values", {IDC_OBJECT_PROPS_TREE, topics::kObjectProps}},
+    {L"Select Test Run Error", {IDC_SELECT_ERROR_LIST, topics::kSelectError}},
+    {L"Select Processes", {IDC_PROCESSES_RUNNING, topics::kCrash}},
+    {L"Recovery Operations", {IDC_OPERATION_LIST_ROWS, topics::kOperationList}},
+    {L"Recovery Operation", {IDC_SELECT_OPERATION_CLICK, topics::kSelectOperation}},
+    {L"Recovery Operation - Click Button or Press Key", {IDC_CLICK_ENTER, topics::kOperationClick}},
+    {L"Recovery Operation - Close Processes", {IDC_PROCESSES_RUNNING, topics::kCloseProcesses}},
+    {L"Recovery Operation - Function Call", {kEditOfCombo, topics::kOperationFunc}},
+    {L"Post-Recovery Test Run Options", {IDC_TEST_FLOW_FIRST, topics::kTestFlow}},
+    {L"Name and Description", {IDC_SCEN_NAME, topics::kScenDescription}},
+    {L"Completing the Recovery Scenario Wizard", {IDC_SUMMARY_TEXT, topics::kSummary}},
+};
+
+// The page's font, bold and of ten points.
+void ExpectBoldTitle(UserScreen& screen, HWND wizard) {
+    const auto fontOf = [&](HWND window) {
+        LOGFONTW font{};
+        GetObjectW(reinterpret_cast<HFONT>(screen.Ask(window, WM_GETFONT)), sizeof font, &font);
+        return font;
+    };
+    const LOGFONTW title = fontOf(screen.Control(wizard, IDC_PAGE_TITLE));
+    EXPECT_EQ(title.lfWeight, FW_BOLD);
+    EXPECT_STREQ(title.lfFaceName, fontOf(screen.Page(wizard)).lfFaceName);
+    const HDC device = GetDC(wizard);
+    EXPECT_EQ(title.lfHeight, MulDiv(-10, GetDeviceCaps(device, LOGPIXELSY), 72));
+    ReleaseDC(wizard, device);
+}
 
 class KeyboardTest : public WizardTest {
 protected:
+    KeyboardTest() { rack_.Put(L"HelpViewer", help_.Get()); }
+
     // Presses a key, and looks where the keyboard is on the page that is shown then.
     void Press(UserScreen& screen, HWND wizard, std::initializer_list<WORD> chord) {
         screen.RealKeys(chord);
         title_ = screen.PageTitle(wizard);
-        int expected = kFirstFocus.at(title_);
+        auto [expected, topic] = kPages.at(title_);
         while (screen.Ask(screen.Control(wizard, expected), WM_GETDLGCODE) & DLGC_RADIOBUTTON &&
                !screen.IsChecked(wizard, expected))
             ++expected;
@@ -53,11 +77,16 @@ protected:
             const auto first = reinterpret_cast<HWND>(GetWindowLongPtrW(page, DWLP_MSGRESULT));
             EXPECT_TRUE(!first || first == GetFocus() || IsChild(first, GetFocus())) << Utf8(title_);
         });
+        ExpectBoldTitle(screen, wizard);
+        screen.RealKeys({VK_F1});
+        screen.Do([=] { SendMessageW(wizard, PSM_PRESSBUTTON, PSBTN_HELP, 0); });
+        EXPECT_EQ(help_->Take(), topic + std::wstring(L" ") + topic) << Utf8(title_);
         seen_.insert(title_);
     }
     void Enter(UserScreen& screen, HWND wizard) { Press(screen, wizard, {VK_RETURN}); }
     void AltB(UserScreen& screen, HWND wizard) { Press(screen, wizard, {VK_MENU, 'B'}); }
 
+    com::Ptr<HelpViewer> help_ = HelpViewer::Make();
     std::wstring title_;
     std::set<std::wstring> seen_;
 };
@@ -117,18 +146,7 @@ TEST_F(KeyboardTest, EveryPageBeginsWhereSomethingIsToBeDoneAlsoOnTheWayBack) {
             }),
             finish ? S_OK : S_FALSE);
     }
-    EXPECT_EQ(seen_.size(), kFirstFocus.size());
-}
-
-TEST_F(SettingsTest, EnterAndEscapeInTheDescriptionAreTheFrames) {
-    for (const auto& [key, seen] : {std::pair{VK_RETURN, "OK"}, std::pair{VK_ESCAPE, "Cancel"}}) {
-        const auto all = OpenSettings([key = key](UserScreen& screen, HWND frame) {
-            const HWND description = screen.Control(frame, IDC_RECOVERY_DESCRIPTION);
-            screen.Do([=] { SetFocus(description); });
-            screen.Keys({static_cast<WORD>(key)});
-        });
-        EXPECT_EQ(all, std::vector<std::string>{seen});
-    }
+    EXPECT_EQ(seen_.size(), kPages.size());
 }
 
 }  // namespace

@@ -2,11 +2,14 @@
 #include <gtest/gtest.h>
 #include <windows.h>
 
+#include <commctrl.h>
 #include <objbase.h>
+#include <uxtheme.h>
 
 #include "harness/ProcessWindows.h"
 #include "looks/checks.h"
 #include "resources/ids.h"
+#include "settings/CheckImages.h"
 
 namespace recoveryui::looks {
 namespace {
@@ -66,9 +69,7 @@ constexpr RunTimeText kRunTimeTexts[] = {
 TEST(Looks, TextsThatCodePutsIntoControlsFit) {
     const Module module(L"RecoveryUI.dll");
     for (const RunTimeText& row : kRunTimeTexts) {
-        const HRSRC place = FindResourceW(module.handle, MAKEINTRESOURCEW(row.dialog), RT_DIALOG);
-        Screen screen =
-            FromTemplate(LockResource(LoadResource(module.handle, place)), std::to_wstring(row.dialog));
+        Screen screen = FromTemplate(module.handle, row.dialog);
         const Control* found = screen.Find(row.control);
         ASSERT_NE(found, nullptr) << row.control;
         for (int text = row.first; text <= row.last; ++text) {
@@ -123,7 +124,7 @@ Control Made(Kind kind, int id, RECT place, const wchar_t* text = L"", DWORD sty
     return {id, kind, WS_VISIBLE | look | (kind == Kind::Static ? 0 : WS_TABSTOP) | style, place, text};
 }
 Screen Planted(const std::vector<Control>& controls) {
-    return FromTemplate(MakeTemplate({200, 100}, controls).data(), L"planted");
+    return {L"planted", false, {200, 100}, controls};
 }
 std::wstring AtEveryResolution(const Screen& screen) {
     std::wstring found;
@@ -180,15 +181,16 @@ struct Ole {
 
 TEST(Looks, APlantedWindowIsReadAsAScreenReaderReadsIt) {
     const Ole ole;
-    const auto bytes = MakeTemplate(
-        {200, 100},
-        {Made(Kind::Static, -1, {7, 7, 107, 15}, L"&Name:"), Made(Kind::Edit, 1, {7, 18, 107, 32}),
-         Made(Kind::Static, -1, {7, 35, 107, 43}, L"List:"), Made(Kind::List, 2, {7, 46, 107, 60}),
-         Made(Kind::Combo, 6, {7, 66, 107, 80}), Made(Kind::Push, 3, {143, 79, 193, 93}, L"OK")});
-    const HWND dialog = CreateDialogIndirectParamW(
-        GetModuleHandleW(nullptr), reinterpret_cast<const DLGTEMPLATE*>(bytes.data()), nullptr,
-        [](HWND, UINT, WPARAM, LPARAM) -> INT_PTR { return FALSE; }, 0);
-    ASSERT_NE(dialog, nullptr);
+    const struct {
+        const wchar_t *kind, *text;
+        int id;
+    } controls[] = {{L"Static", L"&Name:", -1}, {L"Edit", L"", 1},     {L"Static", L"List:", -1},
+                    {L"ListBox", L"", 2},       {L"ComboBox", L"", 6}, {L"Button", L"OK", 3}};
+    const HWND dialog =
+        CreateWindowW(L"#32770", L"", WS_POPUP, 0, 0, 400, 300, nullptr, nullptr, nullptr, nullptr);
+    for (const auto& [kind, text, id] : controls)
+        CreateWindowW(kind, text, WS_CHILD | WS_VISIBLE | (id < 0 ? 0 : WS_TABSTOP), 10, 40 * std::abs(id),
+                      100, 30, dialog, reinterpret_cast<HMENU>(static_cast<INT_PTR>(id)), nullptr, nullptr);
     ShowWindow(dialog, SW_SHOW);
     const HWND edit = GetDlgItem(dialog, 1);
     EXPECT_EQ(Utf8(Unspoken(FromWindow(dialog))), "");
@@ -201,6 +203,15 @@ TEST(Looks, APlantedWindowIsReadAsAScreenReaderReadsIt) {
     DestroyWindow(GetWindow(edit, GW_HWNDPREV));
     EXPECT_NE(Unspoken(FromWindow(dialog)).find(L"by a screen reader"), std::wstring::npos);
     DestroyWindow(dialog);
+}
+
+TEST(Looks, CheckBoxesLeaveTheListItsBorder) {
+    const HWND list =
+        CreateWindowW(WC_LISTVIEWW, nullptr, WS_POPUP, 0, 0, 9, 9, nullptr, nullptr, nullptr, nullptr);
+    const HTHEME own = GetWindowTheme(list);
+    ImageList_Destroy(settings::CheckImages(list));
+    EXPECT_EQ(GetWindowTheme(list), own);
+    DestroyWindow(list);
 }
 
 }  // namespace

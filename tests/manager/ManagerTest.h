@@ -2,10 +2,10 @@
 #pragma once
 
 #include "HostInterfaces.h"
-#include "harness/Arrays.h"
 #include "harness/ComTest.h"
 #include "harness/ProcessWindows.h"
 #include "harness/TestSettings.h"
+#include "host/store_samples.h"
 #include "host/temp_folder.h"
 #include "resources/ids.h"
 
@@ -48,26 +48,9 @@ protected:
         EXPECT_EQ(repository->Load(com::Bstr(path).Get(), readOnly ? VARIANT_TRUE : VARIANT_FALSE), S_OK);
         return repository;
     }
-    // A pop-up, answered by ENTER; the test goes on with the next step.
-    static com::Ptr<IRecoveryScenario> Scenario(const std::wstring& description) {
-        const auto scenario = New<IRecoveryScenario>(L"Vantrel.ReplayRecoveryScenario");
-        const auto trigger = New<IPopUpRecoveryTrigger>(L"Vantrel.PopUpRecoveryTrigger");
-        const auto enter = New<IUnknown>(L"Vantrel.KeyBoardSimulatorRecoveryAction");
-        EXPECT_EQ(trigger->SetWindowTitle(com::Bstr(L"Error").Get(), 0), S_OK);
-        EXPECT_EQ(scenario->SetPostRecoveryOption(2), S_OK);
-        EXPECT_EQ(scenario->SetTrigger(trigger.Get()), S_OK);
-        EXPECT_EQ(scenario->SetOperations(ArrayOf<IUnknown*>(std::vector{enter.Get()}).Get()), S_OK);
-        EXPECT_EQ(scenario->SetDescription(com::Bstr(description).Get()), S_OK);
-        return scenario;
-    }
-    // A file of scenarios, each described as "About <name>".
+    // A file of scenarios, each described as "About <name>.".
     std::wstring MakeFile(const wchar_t* file, const Rows& names) const {
-        const auto repository = Load({}, false);
-        for (const std::wstring& name : names) {
-            const auto scenario = Scenario(L"About " + name);
-            EXPECT_EQ(repository->AddScenario(scenario.Get(), com::Bstr(name).Get(), 0), S_OK);
-        }
-        EXPECT_EQ(repository->Save(com::Bstr(Path(file)).Get()), S_OK);
+        tovarin::TempFolder::Write(Path(file), TextOfStore(tovarin::store::PopUps(names)));
         return Path(file);
     }
     Rows NamesIn(const std::wstring& path) const {

@@ -3,10 +3,14 @@
 
 #include <shlobj.h>
 
+#include "harness/HelpViewer.h"
 #include "manager/ManagerTest.h"
+#include "support/HelpTopics.h"
 
 namespace recoveryui::test {
 namespace {
+
+namespace topics = support::topics;
 
 constexpr wchar_t kReplaceQuestion[] =
     L"A scenario by this name already exists in this test.\nDo you want to replace it?";
@@ -28,7 +32,7 @@ TEST_F(ManagerTest, AFileIsOpenedAScenarioTakenToAnotherFileAndBothAreFoundAgain
         EXPECT_EQ(Names(screen, manager), (Rows{L"Popup", L"Crash", L"Error"}));
         EXPECT_EQ(Toolbar(screen, manager), L"Nepcvd") << "no row is selected";
         screen.Choose(manager, IDC_MANAGER_LIST, L"Crash");
-        EXPECT_EQ(screen.Text(manager, IDC_MANAGER_DESCRIPTION), L"About Crash");
+        EXPECT_EQ(screen.Text(manager, IDC_MANAGER_DESCRIPTION), L"About Crash.");
         EXPECT_EQ(Toolbar(screen, manager), L"NEPCvD");
         screen.Press(manager, IDC_MANAGER_COPY);
         EXPECT_EQ(Toolbar(screen, manager), L"NEPCVD");
@@ -84,7 +88,7 @@ TEST_F(ManagerTest, ALockedFileCanOnlyBeLookedAt) {
         EXPECT_EQ(Toolbar(screen, manager), L"nepcvd");
         screen.Choose(manager, IDC_MANAGER_LIST, L"two");
         EXPECT_EQ(Toolbar(screen, manager), L"nePcvd");
-        EXPECT_EQ(screen.Text(manager, IDC_MANAGER_DESCRIPTION), L"About two");
+        EXPECT_EQ(screen.Text(manager, IDC_MANAGER_DESCRIPTION), L"About two.");
         for (const WORD key : {WORD{VK_DELETE}, WORD{VK_F2}}) screen.Keys({key});
         screen.Picture(manager, L"manager-read-only");
 
@@ -174,6 +178,8 @@ TEST_F(ManagerTest, AScenarioIsMadeRenamedTwiceAndAddedToTheTestUnderItsLastName
 }
 
 TEST_F(ManagerTest, KeysMenusAndDroppedFilesDoWhatTheButtonsDo) {
+    const auto help = HelpViewer::Make();
+    rack_.Put(L"HelpViewer", help.Get());
     const std::wstring file = MakeFile(L"work.trs", {L"one", L"two"});
     Manage([&](UserScreen& screen, HWND manager) {
         screen.Do([&] {
@@ -184,7 +190,10 @@ TEST_F(ManagerTest, KeysMenusAndDroppedFilesDoWhatTheButtonsDo) {
             PostMessageW(manager, WM_DROPFILES, reinterpret_cast<WPARAM>(drop), 0);
         });
         WaitForFile(screen, manager, file);
+        screen.Press(manager, IDHELP);
         FocusList(screen, manager);
+        screen.RealKeys({VK_F1});
+        EXPECT_EQ(help->Take(), topics::kManager + std::wstring(L" ") + topics::kManager);
         screen.Type(L"tw");
         EXPECT_EQ(Chosen(screen, manager), L"two");
         screen.RealKeys({VK_MENU, VK_RETURN});

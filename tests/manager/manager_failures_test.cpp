@@ -116,7 +116,7 @@ TEST_F(ManagerTest, AnEditThatCannotBeStoredLeavesTheOldScenario) {
             screen.Finish(wizard);
             screen.WaitUntilClosed(wizard);
             EXPECT_EQ(Names(screen, manager), Rows{L"one"});
-            EXPECT_EQ(screen.Text(manager, IDC_MANAGER_DESCRIPTION), L"About one");
+            EXPECT_EQ(screen.Text(manager, IDC_MANAGER_DESCRIPTION), L"About one.");
         }
         screen.Press(manager, IDC_MANAGER_NEW_SCENARIO);  // a new one needs the record manager
         screen.Press(manager, IDCANCEL);                  // nothing was changed

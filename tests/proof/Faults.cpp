@@ -20,7 +20,7 @@ namespace recoveryui::proof {
 namespace {
 
 constexpr unsigned kWatchdogSeconds = 120;  // a patient user alone takes a minute
-constexpr size_t kBlock = 300;  // playings of one process
+constexpr size_t kBlock = 300;              // playings of one process
 constexpr Outside kKinds[] = {Outside::Memory, Outside::Platform, Outside::Host};
 
 const char* NameOf(Outside outside) {

@@ -24,7 +24,7 @@ void OpenAndClose(Openings& openings, size_t dialog, long rounds, bool plantLeak
         if (!actor.GaveUp().empty()) throw std::runtime_error(actor.GaveUp());
         if (plantLeak) CreateCompatibleDC(nullptr);
     }
-    RunPendingMessages();
+    test::RunPendingMessages();
 }
 
 // Gives what there is more at the end; "" for nothing. What the platform keeps, it keeps once, or for a while

@@ -3,9 +3,9 @@
 #include <array>
 #include <stdexcept>
 
+#include "app/SettingsFrame.h"
 #include "proof/Counts.h"
 #include "proof/OutwardCalls.h"
-#include "settings/SettingsTest.h"
 
 namespace recoveryui::proof {
 namespace {
@@ -58,8 +58,7 @@ HRESULT Openings::Show(size_t dialog) {
     if (dialog == 2) return Start<IRecoveryDlg>(L"Vantrel.RecoveryDlg")->DoModal();
     if (dialog == 3) return Start<IRecoveryAddDlg>(L"Vantrel.RecoveryAddDlg")->DoModal();
     if (dialog == 4) {
-        const auto page = New<IPropertyPage>(L"Vantrel.RecoveryPP");
-        test::TestFrame(page.Get(), rack_.Get(), options_.Get(), false).ShowModal();
+        tovarin::SettingsFrame({rack_.Get(), options_, {CLSID_RecoveryPP}}).ShowModal(nullptr);
         return S_OK;
     }
     const wchar_t* const name = std::array{L"Pop-up", L"State", L"Error", L"Crash"}[dialog - 5];

@@ -94,7 +94,7 @@ Playing Rehearsal::Play(const Fault& fault) {
 Playing Rehearsal::PlayOnce(const Fault& fault, unsigned patience) {
     Playing playing;
     test::RestartWatchdog();
-    RunPendingMessages();
+    test::RunPendingMessages();
     const Counts before = Counts::Take();
     {
         const auto stage = journey_.make();
@@ -123,7 +123,7 @@ Playing Rehearsal::PlayOnce(const Fault& fault, unsigned patience) {
         if (!playing.hasFailed && !playing.isDone)
             playing.problems.push_back("nothing failed, and yet: " + actor.GaveUp());
     }
-    RunPendingMessages();
+    test::RunPendingMessages();
     const Counts after = Counts::Take();
     if (!(after == before)) playing.left = after.Against(before) + OutwardCalls::Leaks() + WindowsLeft();
     return playing;

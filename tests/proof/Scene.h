@@ -19,12 +19,6 @@ namespace recoveryui::proof {
 inline constexpr int kFinish = 0x3025,
                      kEditOfCombo = 1001;  // the platform's numbers in a wizard and a combo box
 
-// Lets the windows do what they have put off.
-inline void RunPendingMessages() {
-    MSG message;
-    while (PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE)) DispatchMessageW(&message);
-}
-
 // A new object of a class. Throws HResultError.
 template <class Interface>
 com::Ptr<Interface> New(const wchar_t* progId) {

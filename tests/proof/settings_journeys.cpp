@@ -4,9 +4,9 @@
 #include <commctrl.h>
 #include <prsht.h>
 
+#include "app/SettingsFrame.h"
 #include "com/Variant.h"
 #include "proof/Scene.h"
-#include "settings/SettingsTest.h"
 #include "support/Text.h"
 
 namespace recoveryui::proof {
@@ -51,14 +51,8 @@ class AddDialog final : public Scene {
 
 class Tab final : public Scene {
     bool Play(Actor& actor) override {
-        const auto page = Start<IPropertyPage>(L"Vantrel.RecoveryPP");
-        test::TestFrame frame(page.Get(), rack_.Get(), options_.Get(), false);
-        actor.During(
-            [&] {
-                frame.ShowModal();
-                return S_OK;
-            },
-            [&](Player& player) { Use(player); });
+        tovarin::SettingsFrame frame({rack_.Get(), options_, {CLSID_RecoveryPP}});
+        actor.During([&] { return frame.ShowModal(nullptr), S_OK; }, [&](Player& player) { Use(player); });
         return actor.GaveUp().empty();
     }
     void Use(Player& player) {

@@ -3,8 +3,8 @@
 
 #include <commctrl.h>
 
+#include "harness/ApplicationWindow.h"
 #include "proof/Scene.h"
-#include "wizard/TargetApplication.h"
 
 namespace recoveryui::proof {
 namespace {
@@ -122,16 +122,19 @@ class PopupWithKeys final : public WizardStage {
 };
 
 class ObjectStateWithButton final : public WizardStage {
+public:
+    ~ObjectStateWithButton() override { DestroyWindow(login_); }
+
+private:
     void Walk(Player& player, HWND wizard) override {
-        const HWND button = FindWindowExW(target_.Login(), nullptr, L"Button", L"Cancel");
         ChooseTrigger(player, wizard, IDC_SELECT_TRIGGER_OBJECT_STATE);
         player.NextTo(wizard, L"Select Object");
-        player.PointAt(wizard, IDC_SELECT_OBJECT_HAND, button);
+        player.PointAt(wizard, IDC_SELECT_OBJECT_HAND, GetDlgItem(login_, kCancel));
         player.Try([&] {
             if (player.RowsOf(wizard, IDC_SELECT_OBJECT_TREE).empty())
                 player.Leave(player.WaitForWindow(L"Object Selection - Object State Trigger"), IDOK);
         });
-        Expect(player, wizard, IDC_SELECT_OBJECT_TREE, {L"#32770 \"Log in\"", L"  Button \"Cancel\""});
+        Expect(player, wizard, IDC_SELECT_OBJECT_TREE, {L"OrderEntry \"Log in\"", L"  Button \"Cancel\""});
         player.NextTo(wizard, L"Set Object Properties and Values");
         player.Try([&] { player.Choose(wizard, IDC_OBJECT_PROPS_TREE, L"Button \"Cancel\""); });
         HWND all = nullptr;
@@ -154,14 +157,17 @@ class ObjectStateWithButton final : public WizardStage {
         AddOperation(player, wizard, IDC_SELECT_OPERATION_CLICK,
                      L"Recovery Operation - Click Button or Press Key");
         player.Try([&] { player.Check(wizard, IDC_CLICK_LABEL); });
-        player.PointAt(wizard, IDC_CLICK_HAND, target_.Login());
+        player.PointAt(wizard, IDC_CLICK_HAND, login_);
         Expect(player, wizard, IDC_CLICK_LABEL_LIST, {L"OK", L"Cancel"});
         player.NextTo(wizard, kOperations);
         Expect(player, wizard, IDC_OPERATION_LIST_ROWS, {L"Keyboard click | Click button with label: OK "});
         Finish(player, wizard, L"State");
     }
 
-    test::TargetApplication target_;
+    static constexpr int kCancel = 2;
+    const HWND login_ = test::MakeApplication(
+        L"Log in", {10, 500, 260, 160},
+        {{L"Button", L"&OK", 1, {5, 60, 70, 20}}, {L"Button", L"Cancel", kCancel, {80, 60, 70, 20}}});
 };
 
 class ErrorWithFunction final : public WizardStage {

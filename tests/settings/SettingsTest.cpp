@@ -4,41 +4,34 @@
 
 #include <algorithm>
 
+#include "app/SettingsFrame.h"
+
 namespace recoveryui::test {
 
 SettingsTest::SettingsTest() {
     const auto locator = New<IFileLocatorFolders>(L"Tovarin.FileLocator");
     EXPECT_EQ(locator->SetTestFolder(com::Bstr(folder_.Path()).Get()), S_OK);
-    rack_.Put(L"TestOptions", settings_.Get()).Put(L"RACK_FILE_LOCATOR", locator.Get());
+    rack_.Put(L"TestOptions", settings_.Get())
+        .Put(L"RACK_FILE_LOCATOR", locator.Get())
+        .Put(L"HelpViewer", help_.Get());
 }
 
 std::wstring SettingsTest::MakeFile(const std::wstring& name, const std::vector<Scenario>& scenarios) const {
-    const auto repository = New<IRecoveryRepository>(L"Vantrel.RecoveryRepository");
-    rack_.GiveTo(repository.Get());
-    EXPECT_EQ(repository->Load(nullptr, VARIANT_FALSE), S_OK);
-    for (const Scenario& made : scenarios) {
-        const auto scenario = New<IRecoveryScenario>(L"Vantrel.ReplayRecoveryScenario");
-        scenario->SetPostRecoveryOption(1);
-        scenario->SetTrigger(New<IUnknown>(made.trigger).Get());
-        scenario->SetOperations(ArrayOf<IUnknown*, IUnknown*>({}).Get());
-        scenario->SetDescription(com::Bstr(made.description).Get());
-        EXPECT_EQ(repository->AddScenario(scenario.Get(), com::Bstr(made.name).Get(), 0), S_OK);
-    }
-    EXPECT_EQ(repository->Save(com::Bstr(folder_ / name).Get()), S_OK);
+    std::vector<tovarin::store::NamedScenario> stored;
+    for (const Scenario& made : scenarios)
+        stored.push_back({made.name, {1, made.trigger, {}, made.description}});
+    tovarin::TempFolder::Write(folder_ / name, TextOfStore(stored));
     return folder_ / name;
 }
 
-std::vector<std::string> SettingsTest::OpenSettings(const std::function<void(UserScreen&, HWND)>& script) {
-    const auto page = New<IPropertyPage>(L"Vantrel.RecoveryPP");
-    TestFrame frame(page.Get(), rack_.Get(), property_, isReadOnly_);
-    frame.keepsOpenOnClose = keepsOpenOnClose_;
-    User user([&](UserScreen& screen) {
-        const HWND window = screen.WaitForWindow(L"Test Settings");
-        script(screen, window);
-        if (IsWindow(window)) screen.Press(window, IDCANCEL);
+void SettingsTest::OpenSettings(const std::function<void(UserScreen&, HWND)>& script) {
+    const User user([&](UserScreen& screen) {
+        const HWND frame =
+            screen.WaitForWindow(isReadOnly_ ? L"Test Settings (read-only)" : L"Test Settings");
+        script(screen, frame);
+        if (IsWindow(frame)) screen.Press(frame, IDCANCEL);
     });
-    frame.ShowModal();
-    return frame.seen;
+    tovarin::SettingsFrame({rack_.Get(), options_, pages_, isReadOnly_}).ShowModal(nullptr);
 }
 
 void SettingsTest::EnterFile(UserScreen& screen, HWND dialog, const std::wstring& file) {

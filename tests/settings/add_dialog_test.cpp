@@ -3,7 +3,9 @@
 
 #include <commctrl.h>
 
+#include "com/SafeArray.h"
 #include "settings/SettingsTest.h"
+#include "support/HelpTopics.h"
 
 namespace recoveryui::test {
 namespace {
@@ -23,18 +25,18 @@ protected:
     }
     // "file: name, name", as the caller of the dialog finds it.
     std::wstring Result() {
-        com::Bstr file, name;
+        com::Bstr file;
         com::Variant names;
         EXPECT_EQ(dialog_->get_FilePath(file.Put()), S_OK);
         EXPECT_EQ(dialog_->get_ScenariosNames(names.Put()), S_OK);
         EXPECT_EQ(names.Type(), VT_ARRAY | VT_BSTR);
-        com::CVtlSafeArray<BSTR> array(names.Detach().parray);
+        const com::CVtlSafeArray<BSTR> array(names.Detach().parray);
         EXPECT_EQ(array.LowerBound(), 0);
         std::wstring text = file.Text() + L":";
-        for (LONG i = 0; i < static_cast<LONG>(array.Count()); ++i) {
-            EXPECT_EQ(array.GetElement(i, &name), S_OK);
-            text += (i ? L", " : L" ") + name.Text();
-        }
+        EXPECT_EQ(array.ForEach([&](const com::Bstr& each) {
+            text += (text.back() == L':' ? L" " : L", ") + each.Text();
+        }),
+                  S_OK);
         return text;
     }
 
@@ -42,11 +44,15 @@ protected:
 };
 
 TEST_F(AddDialogTest, ThreeRowsAreGivenInTheOrderOfTheSortedList) {
+    constexpr auto kTopic = support::topics::kAddScenario;
     const std::wstring file =
         MakeFile(L"f.trs", {{L"delta"}, {L"Charlie"}, {L"alpha"}, {L"Bravo"}, {L"echo"}});
     EXPECT_EQ(Run([&](UserScreen& screen, HWND dialog) {
                   EXPECT_FALSE(screen.IsEnabled(dialog, IDOK));
                   EXPECT_EQ(screen.Tip(dialog, IDC_ADD_SCENARIO_BROWSE), L"Browse");
+                  screen.Press(dialog, IDHELP);
+                  screen.RealKeys({VK_F1});
+                  EXPECT_EQ(help_->Take(), kTopic + std::wstring(L" ") + kTopic);
                   EnterFile(screen, dialog, L"f.trs");  // found in the test's folder
                   EXPECT_EQ(screen.RowsOf(dialog, kList),
                             (Rows{L"alpha", L"Bravo", L"Charlie", L"delta", L"echo"}));

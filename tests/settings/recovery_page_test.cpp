@@ -110,6 +110,7 @@ TEST_F(RecoveryPageTest, ChangesOutliveTheWindowAndTheModuleStaysAsLongAsTheFram
     EXPECT_EQ(Activate(), S_OK);
     EXPECT_EQ(page_->Apply(), S_OK);
     EXPECT_EQ(page_->IsPageDirty(), S_FALSE);
+    EXPECT_EQ(settings_.Global(L"g_bDirty").Get().lVal, 0);
     EXPECT_EQ(settings_.Stored(L"RecoveryScenarios"), L"f.trs;A;0;1*");
     EXPECT_EQ(page_->Deactivate(), S_OK);
 
@@ -117,8 +118,15 @@ TEST_F(RecoveryPageTest, ChangesOutliveTheWindowAndTheModuleStaysAsLongAsTheFram
     const auto canUnload = reinterpret_cast<HRESULT(STDAPICALLTYPE*)()>(
         reinterpret_cast<void*>(GetProcAddress(GetModuleHandleW(L"RecoveryUI.dll"), "DllCanUnloadNow")));
     EXPECT_EQ(canUnload(), S_FALSE);
+    // The frame's end gives back the one reference of its property.
+    const ULONG references = settings_.Get()->AddRef();
+    SetPropW(frame_, L"SettingsObjPtr", settings_.Get());
+    settings_.SetGlobal(L"g_bAlreadyInit", com::Variant(1L));
     DestroyWindow(frame_);
     EXPECT_EQ(canUnload(), S_OK);
+    EXPECT_EQ(settings_.Get()->AddRef(), references);
+    settings_.Get()->Release();
+    EXPECT_EQ(settings_.Global(L"g_bAlreadyInit").Get().lVal, 0);
 }
 
 TEST_F(RecoveryPageTest, AFrameThatGoesUnderTheOpenDialogTakesEverythingAlong) {

@@ -6,6 +6,7 @@
 #include "com/Bstr.h"
 #include "com/Create.h"
 #include "harness/User.h"
+#include "host/store_samples.h"
 
 namespace recoveryui::tour {
 namespace {
@@ -36,17 +37,8 @@ std::wstring WriteText(const wchar_t* file, const std::string& text) {
     return FileIn(file);
 }
 
-std::string RecoveryFileOf(const std::vector<std::string>& names) {
-    std::string text = R"({"formatVersion": 1, "scenarios": [)";
-    for (const std::string& name : names) {
-        text += &name == &names.front() ? "" : ",";
-        text +=
-            R"({"name": ")" + name + R"(", "description": "About )" + name +
-            R"(.", "postRecoveryOption": 2, "trigger": {"kind": "popUp", "windowTitle": {"text": ")" + name +
-            R"(", "regularExpression": 0}, "windowText": {"text": "", "regularExpression": 0}, "option": 0},)" +
-            R"( "operations": [{"kind": "pressKeys", "keys": [65549, 196621]}]})";
-    }
-    return text + "]}";
+std::string RecoveryFileOf(const Rows& names) {
+    return TextOfStore(tovarin::store::PopUps(names));
 }
 
 void Tour::Play(const wchar_t* journal, const Story& story) {

@@ -24,7 +24,7 @@ std::wstring FileIn(const wchar_t* name);
 // Makes a file in the folder; gives its full path.
 std::wstring WriteText(const wchar_t* file, const std::string& text);
 // A recovery file of pop-up scenarios, each described as "About <name>.".
-std::string RecoveryFileOf(const std::vector<std::string>& names);
+std::string RecoveryFileOf(const Rows& names);
 
 class Tour : public testing::Test {
 protected:

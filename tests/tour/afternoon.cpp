@@ -11,9 +11,9 @@ namespace {
 
 constexpr int kManyScenarios = 100'000;
 
-std::vector<std::string> ManyNames() {
-    std::vector<std::string> names;
-    for (int i = 0; i < kManyScenarios; ++i) names.push_back("scenario " + std::to_string(i));
+Rows ManyNames() {
+    Rows names;
+    for (int i = 0; i < kManyScenarios; ++i) names.push_back(L"scenario " + std::to_wstring(i));
     return names;
 }
 
@@ -25,10 +25,10 @@ protected:
     }
 
     Afternoon() {
-        WriteText(L"first.trs", RecoveryFileOf({"Error message", "Crash"}));
-        WriteText(L"second.trs", RecoveryFileOf({"Error message"}));
-        WriteText(L"locked.trs", RecoveryFileOf({"Somebody else's"}));
-        WriteText(L"damaged.trs", RecoveryFileOf({"Cut off"}).substr(0, 150));
+        WriteText(L"first.trs", RecoveryFileOf({L"Error message", L"Crash"}));
+        WriteText(L"second.trs", RecoveryFileOf({L"Error message"}));
+        WriteText(L"locked.trs", RecoveryFileOf({L"Somebody else's"}));
+        WriteText(L"damaged.trs", RecoveryFileOf({L"Cut off"}).substr(0, 150));
         WriteText(L"many.trs", RecoveryFileOf(ManyNames()));
     }
 };

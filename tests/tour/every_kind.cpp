@@ -3,12 +3,47 @@
 
 #include <commctrl.h>
 
-#include "tour/Application.h"
+#include "harness/Pointing.h"
+#include "tour/Tour.h"
 
 namespace recoveryui::tour {
 namespace {
 
 constexpr int kEditOfCombo = 1001;
+
+// The application under test in a process of its own, for the pointing hand to point at.
+class Application {
+public:
+    static constexpr wchar_t kTitle[] = L"Order 4711";
+    static constexpr int kMessage = 10, kTryAgain = 11;
+
+    explicit Application(UserScreen& screen) {
+        std::wstring command = std::wstring(L"target.exe ") + kTitle;
+        STARTUPINFOW start{};
+        start.cb = sizeof start;
+        EXPECT_TRUE(CreateProcessW(nullptr, command.data(), nullptr, nullptr, FALSE, 0, nullptr, nullptr,
+                                   &start, &process_));
+        screen.WaitUntil("the application shows its window", [&] {
+            window_ = FindWindowW(L"OrderEntry", kTitle);
+            return window_ && IsWindowVisible(window_);
+        });
+    }
+    ~Application() {
+        TerminateProcess(process_.hProcess, 0);
+        CloseHandle(process_.hThread);
+        CloseHandle(process_.hProcess);
+    }
+    Application(const Application&) = delete;
+    Application& operator=(const Application&) = delete;
+
+    void PointAt(UserScreen& screen, HWND wizard, int hand, int control) const {
+        test::PointAt(screen, wizard, hand, GetDlgItem(window_, control));
+    }
+
+private:
+    PROCESS_INFORMATION process_{};
+    HWND window_ = nullptr;
+};
 
 class EveryKind : public Tour {
 protected:

@@ -44,8 +44,8 @@ protected:
 
 TEST_F(Settings, ScenariosAreAssociatedMadeTheDefaultAndFoundInTheNextTest) {
     RegDeleteTreeW(HKEY_CURRENT_USER, L"Software\\Tovarin\\Tour");
-    const std::wstring common = WriteText(L"common.trs", RecoveryFileOf({"Crash", "Popup"}));
-    const std::wstring other = WriteText(L"other.trs", RecoveryFileOf({"Popup"}));
+    const std::wstring common = WriteText(L"common.trs", RecoveryFileOf({L"Crash", L"Popup"}));
+    const std::wstring other = WriteText(L"other.trs", RecoveryFileOf({L"Popup"}));
     const Rows ordered = {L"Popup | " + common, L"Crash | " + common, L"Popup | " + other};
     const std::wstring records = common + L";Popup;0;1*" + common + L";Crash;1;1*" + other + L";Popup;1;1*";
 

@@ -1,66 +1,62 @@
-// The pointing hand on its three pages, with the real mouse over a second window.
-#include "model/FakeTestObject.h"
-#include "wizard/TargetApplication.h"
+// The pointing hand on its three pages, with the real mouse over the windows of an application.
+#include <windows.h>
+
+#include <commctrl.h>
+
+#include "harness/ApplicationWindow.h"
+#include "harness/Pointing.h"
+#include "objects/screen/TestObject.h"
 #include "wizard/WizardTest.h"
 
 namespace recoveryui::test {
 namespace {
 
-constexpr int kBesideTheScreen = -3000;
 constexpr const wchar_t* kUnsupported = L"The object you selected does not support this operation.";
 
-com::Variant ValueOf(FakeTestObject* object) {
-    return com::Variant(static_cast<IDispatch*>(object));
-}
-
-// Answers what the test says; what real windows give is the stand-in's own matter.
-class FakeRecorder final : public com::Object<FakeRecorder, IRecordMgr> {
+// The host's recorder, who may find more than there is, or less.
+class Recorder final : public com::Object<Recorder, IRecordMgr> {
 public:
+    explicit Recorder(com::Ptr<IRecordMgr> host) : host_(std::move(host)) {}
+
     HRESULT STDMETHODCALLTYPE IsActive(VARIANT_BOOL*) noexcept override { return E_NOTIMPL; }
     HRESULT STDMETHODCALLTYPE Suspend() noexcept override { return E_NOTIMPL; }
     HRESULT STDMETHODCALLTYPE Resume() noexcept override { return E_NOTIMPL; }
     HRESULT STDMETHODCALLTYPE GetObjectsAtPoint(SAFEARRAY** out, long x, long y) noexcept override {
-        asked = {x, y};
-        *out = SUCCEEDED(result) ? ArrayOf<VARIANT>(objects).Detach() : nullptr;
-        return result;
+        com::CVtlSafeArray<VARIANT> found;
+        const HRESULT hr = host_->GetObjectsAtPoint(found.Put(), x, y);
+        std::vector<com::Variant> all = before;
+        if (SUCCEEDED(hr))
+            EXPECT_EQ(found.ForEach([&](const com::Variant& object) { all.push_back(object); }), S_OK);
+        all.resize(std::min(all.size(), most));
+        *out = SUCCEEDED(hr) ? ArrayOf<VARIANT>(all).Detach() : nullptr;
+        return hr;
     }
 
-    std::vector<com::Variant> objects;
-    HRESULT result = S_OK;
-    POINT asked{};
+    std::vector<com::Variant> before;
+    size_t most = 100;
+
+private:
+    com::Ptr<IRecordMgr> host_;
 };
+
+// A control that answers every question for its text with a failure of its own.
+LRESULT CALLBACK Rude(HWND window, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR, DWORD_PTR) noexcept {
+    return message == WM_GETTEXT ? -1 : DefSubclassProc(window, message, wParam, lParam);
+}
 
 class PointingHandTest : public WizardTest {
 protected:
-    PointingHandTest() { rack_.Put(L"RecordMgr", recorder_.Get()); }
+    static constexpr int kCancel = 13, kSecret = 14, kUnnamed = 15, kRude = 16;
 
-    // Presses the hand's button, and when the hand is out clicks into the window or gives up. The
-    // wizard stands beside the screen meanwhile and is back in its place when this returns.
-    void Point(UserScreen& screen, HWND wizard, int hand, HWND target) {
-        RECT before{}, place{};
-        GetWindowRect(wizard, &before);
-        screen.Press(wizard, hand);
-        screen.WaitUntil("the hand is out", [] {
-            for (const HWND window : TopLevelWindows())
-                if (ClassOf(window) == L"TovarinPointingHand" && IsWindowVisible(window)) return true;
-            return false;
-        });
-        GetWindowRect(wizard, &place);
-        EXPECT_LT(place.left, kBesideTheScreen);
-        if (target) {
-            GetWindowRect(target, &place);
-            SetCursorPos((place.left + place.right) / 2, place.bottom - 8);
-            for (const DWORD event : {MOUSEEVENTF_LEFTDOWN, MOUSEEVENTF_LEFTUP})
-                mouse_event(event, 0, 0, 0, 0);
-        } else {
-            screen.RealKeys({VK_ESCAPE});
-        }
-        screen.WaitUntil("the wizard is back", [&] {
-            GetWindowRect(wizard, &place);
-            return EqualRect(&place, &before) != 0;
-        });
-        screen.Do([] {});
+    PointingHandTest() {
+        rack_.Put(L"RecordMgr", recorder_.Get());
+        ShowWindow(Button(kSecret), SW_HIDE);
+        SetWindowSubclass(Button(kRude), &Rude, 0, 0);
     }
+    ~PointingHandTest() override {
+        for (const HWND window : {login_, bare_}) DestroyWindow(window);
+    }
+    HWND Button(int id) const { return GetDlgItem(login_, id); }
     void OnPage(int radio, const Script& script) {
         Browse([&](UserScreen& screen, HWND wizard) {
             NextUntil(screen, wizard, L"Select Trigger Event");
@@ -70,88 +66,95 @@ protected:
         });
     }
 
-    TargetApplication target_;
-    com::Ptr<FakeRecorder> recorder_ = FakeRecorder::Make();
+    const com::Ptr<Recorder> recorder_ = Recorder::Make(New<IRecordMgr>(L"Tovarin.RecordMgr"));
+    // Neither says anything, nor has a window.
+    const com::Variant stranger_{New<IDispatch>(L"Tovarin.ObjectRack").Get()};
+    const HWND login_ = MakeApplication(L"Log in", {10, 500, 260, 200},
+                                        {{L"Static", L"Name:", 0, {5, 5, 70, 20}},
+                                         {L"Static", L"Password:", 0, {80, 5, 70, 20}},
+                                         {L"Button", L"Remember", 0, {5, 30, 70, 20}, BS_AUTOCHECKBOX},
+                                         {L"Button", L"&OK", 0, {5, 120, 70, 20}, BS_DEFPUSHBUTTON},
+                                         {L"Button", L"Cancel", kCancel, {80, 120, 70, 20}},
+                                         {L"Button", L"Secret", kSecret, {155, 120, 70, 20}},
+                                         {L"Button", L"", kUnnamed, {155, 30, 70, 20}},
+                                         {L"Button", L"", kRude, {80, 30, 70, 20}}}),
+               bare_ = MakeApplication(L"", {300, 500, 260, 160}, {});
 };
 
 TEST_F(PointingHandTest, PointingAtAPopUpFillsTheConditionsWithWhatItSays) {
-    const auto silent = FakeTestObject::Make(L"Frame"), object = FakeTestObject::Make(L"Log in");
-    object->hasText = true;
-    const com::Variant frame = ValueOf(silent.Get()), dialog = ValueOf(object.Get());
-    // What stands at the point, what it says, and what the page shows then.
+    const Rows typed{L"typed", L""};
+    recorder_->before = {com::Variant(7L), com::Variant(static_cast<IDispatch*>(nullptr)), stranger_};
+    // Where the user clicks, what fails meanwhile, and what the page shows then.
     const struct {
         const char* why;
-        bool points;
+        HWND at;
+        const wchar_t *object, *failing, *message;
         HRESULT result;
-        std::vector<com::Variant> objects;
-        const wchar_t *text, *message;
         Rows shown;
     } cases[] = {
-        {"gave up", false, S_OK, {frame, dialog}, L"Name:", nullptr, {L"typed", L""}},
-        {"the recorder fails", true, E_FAIL, {frame, dialog}, L"Name:", nullptr, {L"typed", L""}},
-        {"no text at all", true, S_OK, {frame, dialog}, nullptr, nullptr, {L"typed", L""}},
-        {"nothing that has a text", true, S_OK, {frame}, nullptr, kUnsupported, {L"typed", L""}},
+        {"gave up", nullptr, nullptr, nullptr, nullptr, S_OK, typed},
+        {"the recorder fails", login_, L"RecordMgr", L"GetObjectsAtPoint", nullptr, E_FAIL, typed},
+        {"no text at all", login_, L"TestObject", L"GetText", nullptr, S_FALSE, typed},
+        {"nothing that has a text", bare_, nullptr, nullptr, kUnsupported, S_OK, typed},
         {"the first that has a text",
-         true,
-         S_OK,
-         {com::Variant(7L), ValueOf(nullptr), frame, dialog},
-         L"Name:\nPassword:",
+         Button(kUnnamed),
          nullptr,
-         {L"Log in", L"Name:\r\nPassword:"}},
-        {"only a title", true, S_OK, {frame, dialog}, L"", nullptr, {L"Log in", L""}},
+         nullptr,
+         nullptr,
+         S_OK,
+         {L"Log in", L"Log in\r\nName:\r\nPassword:"}},
     };
     OnPage(IDC_SELECT_TRIGGER_POPUP, [&](UserScreen& screen, HWND wizard) {
         screen.Enter(wizard, IDC_POPUP_TITLE, L"typed");
         screen.Check(wizard, IDC_POPUP_TITLE_REGEX);
         for (const auto& c : cases) {
-            recorder_->objects = c.objects;
-            recorder_->result = c.result;
-            object->text = c.text;
-            Point(screen, wizard, IDC_POPUP_HAND, c.points ? target_.Login() : nullptr);
+            if (c.failing) FailCall(c.object, c.failing, c.result);
+            PointAt(screen, wizard, IDC_POPUP_HAND, c.at);
+            ClearFaults();
             if (c.message) {
                 EXPECT_EQ(screen.AnswerBox(IDOK), c.message);
             }
             EXPECT_EQ((Rows{screen.Text(wizard, IDC_POPUP_TITLE), screen.Text(wizard, IDC_POPUP_TEXT)}),
                       c.shown)
                 << c.why;
-            const bool isTyped = c.shown[0] == L"typed";
-            EXPECT_EQ(screen.IsChecked(wizard, IDC_POPUP_TITLE_REGEX), isTyped) << c.why;
+            EXPECT_EQ(screen.IsChecked(wizard, IDC_POPUP_TITLE_REGEX), c.shown == typed) << c.why;
             EXPECT_EQ(screen.IsChecked(wizard, IDC_POPUP_TEXT_CHECK), !c.shown[1].empty()) << c.why;
         }
-        RECT place{};
-        GetWindowRect(target_.Login(), &place);
-        EXPECT_TRUE(PtInRect(&place, recorder_->asked));
         screen.Picture(wizard, L"hand-popup");
+        // What says nothing any more still has a title to go with.
+        SetWindowTextW(bare_, L"Bare");
+        recorder_->before = {com::Variant(static_cast<IDispatch*>(
+            tovarin::TestObject::Make(bare_, com::Ptr<tovarin::TestObject>()).Get()))};
+        SetWindowTextW(bare_, L"");
+        PointAt(screen, wizard, IDC_POPUP_HAND, login_);
+        EXPECT_EQ(screen.Text(wizard, IDC_POPUP_TITLE), L"Log in");
+        EXPECT_FALSE(screen.IsChecked(wizard, IDC_POPUP_TEXT_CHECK));
         EXPECT_TRUE(CanGoOn(screen, wizard));
     });
 }
 
 TEST_F(PointingHandTest, PointingAtADialogOffersTheLabelsOfItsButtons) {
-    const auto nowhere = FakeTestObject::Make(L"Sprite"), object = FakeTestObject::Make(L"Log in");
-    recorder_->objects = {ValueOf(nowhere.Get()), ValueOf(object.Get())};
+    recorder_->before = {stranger_};
     OnPage(IDC_SELECT_TRIGGER_POPUP, [&](UserScreen& screen, HWND wizard) {
-        const auto pointAt = [&](HWND window, HWND target) {
-            object->window = window;
-            Point(screen, wizard, IDC_CLICK_HAND, target);
-        };
+        const auto pointAt = [&](HWND target) { PointAt(screen, wizard, IDC_CLICK_HAND, target); };
         GoToOperations(screen, wizard);
         AddOperation(screen, wizard, IDC_SELECT_OPERATION_CLICK);
         screen.Check(wizard, IDC_CLICK_LABEL);
         EXPECT_FALSE(CanGoOn(screen, wizard));
         // A click on a button stands for the window that it is in.
-        pointAt(FindWindowExW(target_.Login(), nullptr, L"Button", L"Cancel"), target_.Login());
+        pointAt(Button(kCancel));
         EXPECT_EQ(screen.RowsOf(wizard, IDC_CLICK_LABEL_LIST), (Rows{L"OK", L"Cancel"}));
         EXPECT_TRUE(CanGoOn(screen, wizard));
         screen.Picture(wizard, L"hand-labels");
-        pointAt(nullptr, nullptr);
+        pointAt(nullptr);
         EXPECT_EQ(screen.Chosen(wizard, IDC_CLICK_LABEL_LIST), Rows{L"OK"}) << "gave up";
-        pointAt(target_.Bare(), target_.Bare());
+        pointAt(bare_);
         EXPECT_EQ(screen.AnswerBox(IDOK),
                   L"The dialog box or window you clicked does not contain any buttons");
         EXPECT_TRUE(screen.RowsOf(wizard, IDC_CLICK_LABEL_LIST).empty());
         EXPECT_FALSE(CanGoOn(screen, wizard));
 
-        pointAt(target_.Login(), target_.Login());
+        pointAt(login_);
         screen.Choose(wizard, IDC_CLICK_LABEL_LIST, L"Cancel");
         ForgetCalls();
         screen.Next(wizard);
@@ -164,50 +167,46 @@ TEST_F(PointingHandTest, PointingAtADialogOffersTheLabelsOfItsButtons) {
     });
 }
 
-TEST_F(PointingHandTest, TheOnlyObjectAtThePointIsTakenAndNothingElseIs) {
+TEST_F(PointingHandTest, TheOnlyObjectIsTakenSeveralAreOfferedAndNothingElseIs) {
     constexpr int kTree = IDC_SELECT_OBJECT_TREE;
-    const auto object = FakeTestObject::LoginName();
     OnPage(IDC_SELECT_TRIGGER_OBJECT_STATE, [&](UserScreen& screen, HWND wizard) {
-        const auto point = [&](HWND at) { Point(screen, wizard, IDC_SELECT_OBJECT_HAND, at); };
-        point(target_.Login());
-        EXPECT_EQ(screen.AnswerBox(IDOK), L"Object not found");
-        recorder_->objects = {com::Variant(7L)};
-        point(target_.Login());
-        EXPECT_EQ(screen.AnswerBox(IDOK), kUnsupported);
-        EXPECT_EQ(screen.WizardButtons(wizard), L"B n* f");
+        const auto point = [&](HWND at) { PointAt(screen, wizard, IDC_SELECT_OBJECT_HAND, at); };
+        const auto choose = [&](int button) {
+            screen.Press(screen.WaitForWindow(L"Object Selection - Object State Trigger"), button);
+            return screen.RowsOf(wizard, kTree);
+        };
+        const auto pointInVain = [&](std::vector<com::Variant> found, const wchar_t* message) {
+            recorder_->before = std::move(found);
+            recorder_->most = recorder_->before.size();
+            point(login_);
+            EXPECT_EQ(screen.AnswerBox(IDOK), message);
+            EXPECT_EQ(screen.WizardButtons(wizard), L"B n* f");
+        };
+        pointInVain({}, L"Object not found");
+        pointInVain({com::Variant(7L)}, kUnsupported);
+        recorder_->before.clear();
 
-        recorder_->objects = {ValueOf(object.Get())};
-        point(target_.Login());
-        const Rows tree{L"Login", L"  Name"};
-        EXPECT_EQ(screen.RowsOf(wizard, kTree), tree);
-        EXPECT_EQ(screen.Chosen(wizard, kTree), Rows{L"  Name"});
+        recorder_->most = 100;
+        point(Button(kCancel));
+        EXPECT_EQ(choose(IDCANCEL), Rows{});
+        point(Button(kCancel));
+        const Rows tree{L"OrderEntry \"Log in\"", L"  Button \"Cancel\""};
+        EXPECT_EQ(choose(IDOK), tree);
+        EXPECT_EQ(screen.Chosen(wizard, kTree), Rows{tree.back()});
+        EXPECT_TRUE(Called(L"ObjectSelection.SetHelpTopic(\"OS_Object_State.htm\")"));
         screen.Next(wizard);
         EXPECT_EQ(screen.RowsOf(wizard, IDC_OBJECT_PROPS_TREE), tree);
 
         // Another pick is another hierarchy on both pages; giving up is none.
         screen.Back(wizard);
-        recorder_->objects = {ValueOf(object->Parent())};
         point(nullptr);
         EXPECT_EQ(screen.RowsOf(wizard, kTree), tree);
-        point(target_.Login());
-        EXPECT_EQ(screen.RowsOf(wizard, kTree), Rows{L"Login"});
+        point(login_);
+        EXPECT_EQ(screen.RowsOf(wizard, kTree), Rows{tree.front()});
         screen.Next(wizard);
-        EXPECT_EQ(screen.RowsOf(wizard, IDC_OBJECT_PROPS_TREE), Rows{L"Login"});
-        EXPECT_EQ(screen.RowsOf(wizard, IDC_OBJECT_PROPS_GRID), Rows{L"text | Log in"});
-    });
-}
-
-TEST_F(PointingHandTest, SeveralObjectsAtThePointAreOfferedForAChoice) {
-    constexpr const wchar_t* kSelection = L"Object Selection - Object State Trigger";
-    rack_.Put(L"RecordMgr", L"Tovarin.RecordMgr");
-    OnPage(IDC_SELECT_TRIGGER_OBJECT_STATE, [&](UserScreen& screen, HWND wizard) {
-        for (const auto& [button, objects] : {std::pair(IDCANCEL, 0u), {IDOK, 2u}}) {
-            Point(screen, wizard, IDC_SELECT_OBJECT_HAND,
-                  FindWindowExW(target_.Login(), nullptr, L"Button", L"Cancel"));
-            screen.Press(screen.WaitForWindow(kSelection), static_cast<int>(button));
-            EXPECT_EQ(screen.RowsOf(wizard, IDC_SELECT_OBJECT_TREE).size(), objects);
-        }
-        EXPECT_TRUE(Called(L"ObjectSelection.SetHelpTopic(\"OS_Object_State.htm\")"));
+        EXPECT_EQ(screen.RowsOf(wizard, IDC_OBJECT_PROPS_TREE), Rows{tree.front()});
+        EXPECT_EQ(screen.RowsOf(wizard, IDC_OBJECT_PROPS_GRID),
+                  (Rows{L"class | OrderEntry", L"text | Log in"}));
         NextUntil(screen, wizard, L"Recovery Operations");
     });
 }
