@@ -12,12 +12,6 @@ HMODULE Load(const wchar_t* dll) {
     return module;
 }
 
-HRESULT CanUnload(HMODULE module) {
-    const auto answer = reinterpret_cast<HRESULT(STDAPICALLTYPE*)()>(
-        reinterpret_cast<void*>(GetProcAddress(module, "DllCanUnloadNow")));
-    return answer ? answer() : E_FAIL;
-}
-
 // The platform's file dialog leaves COM initialised once more for every time that it was shown.
 void LeaveApartment() {
     APTTYPE kind{};
@@ -28,6 +22,12 @@ void LeaveApartment() {
 }
 
 }  // namespace
+
+HRESULT CallEntryPoint(HMODULE module, const char* name) {
+    const auto function =
+        reinterpret_cast<HRESULT(STDAPICALLTYPE*)()>(reinterpret_cast<void*>(GetProcAddress(module, name)));
+    return function ? function() : E_FAIL;
+}
 
 ComTest::ComTest() {
     EXPECT_EQ(CoInitializeEx(nullptr, COINIT_APARTMENTTHREADED), S_OK);
@@ -43,8 +43,8 @@ ComTest::~ComTest() {
     }
     journal_.Reset();
     RunPendingMessages();
-    EXPECT_EQ(CanUnload(component_), S_OK) << "objects of the component are alive";
-    EXPECT_EQ(CanUnload(standIns_), S_OK) << "stand-ins are alive";
+    EXPECT_EQ(CallEntryPoint(component_, "DllCanUnloadNow"), S_OK) << "objects of the component are alive";
+    EXPECT_EQ(CallEntryPoint(standIns_, "DllCanUnloadNow"), S_OK) << "stand-ins are alive";
     for (const HWND window : TopLevelWindows()) {
         const std::wstring name = ClassOf(window);
         if (name == L"IME" || name == L"MSCTFIME UI") continue;  // the system's own
@@ -57,6 +57,15 @@ ComTest::~ComTest() {
 
 void ComTest::Create(const wchar_t* progId, REFIID iid, void** object) {
     EXPECT_EQ(com::CreateByProgId(progId, iid, object), S_OK) << Utf8(progId);
+}
+
+HRESULT ComTest::Use(const wchar_t* title, const std::function<HRESULT()>& call, const Story& story) {
+    const User user([&](UserScreen& screen) {
+        const HWND window = screen.WaitForWindow(title);
+        story(screen, window);
+        if (IsWindow(window)) screen.Press(window, IDCANCEL);
+    });
+    return call();
 }
 
 void ComTest::FailCall(const wchar_t* object, const wchar_t* operation, HRESULT code, long nth, long times) {

@@ -5,6 +5,7 @@
 #include <gtest/gtest.h>
 #include <windows.h>
 
+#include <functional>
 #include <string>
 
 #include "HostObjects.h"
@@ -16,8 +17,13 @@
 
 namespace recoveryui::test {
 
+// What a function of a module answers that takes nothing, "DllCanUnloadNow"; E_FAIL when there is none.
+HRESULT CallEntryPoint(HMODULE module, const char* name);
+
 class ComTest : public testing::Test {
 protected:
+    using Story = std::function<void(UserScreen&, HWND window)>;
+
     ComTest();
     // After the members of the test's own fixture: what lives here still has leaked.
     ~ComTest() override;
@@ -29,6 +35,9 @@ protected:
         Create(progId, __uuidof(Interface), reinterpret_cast<void**>(object.GetAddressOf()));
         return object;
     }
+
+    // Makes a modal call while the story uses its window, which is cancelled when it is still open then.
+    static HRESULT Use(const wchar_t* title, const std::function<HRESULT()>& call, const Story& story);
 
     // The nth matching call on a stand-in from now on answers the code, and `times` calls in all (0: every
     // later one too). Failed creation: the ProgID, and "Create".

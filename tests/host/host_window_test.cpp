@@ -23,7 +23,6 @@ class HostTest : public ComTest {
 protected:
     ~HostTest() override { RegDeleteTreeW(HKEY_CURRENT_USER, kSettingsPath); }
 
-    using Story = std::function<void(UserScreen&, HWND window)>;
     // Runs the host for a user, who closes it in the end.
     void Run(const Story& story, const tovarin::HostOptions& options = {}) {
         User user([&](UserScreen& screen) {

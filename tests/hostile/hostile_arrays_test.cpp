@@ -96,8 +96,9 @@ protected:
         const auto sheet = New<IScenarioProperties>(L"Vantrel.ScenarioProperties");
         rack_.GiveTo(sheet.Get());
         Rows operations;
-        User user([&](UserScreen& screen) {
-            const HWND window = screen.WaitForWindow(L"Recovery Scenario Properties");
+        const com::Bstr name(kWithNul);
+        const auto show = [&] { return sheet->DoModal(scenario->KeepAlive().Get(), name.Get(), name.Get()); };
+        const auto read = [&](UserScreen& screen, HWND window) {
             const auto turn = [&](int page) {
                 screen.Do([=] { SendMessageW(window, PSM_SETCURSEL, static_cast<WPARAM>(page), 0); });
             };
@@ -106,14 +107,11 @@ protected:
             turn(1);
             if (processes) *processes = screen.RowsOf(window, IDC_PROPERTIES_PROCESSES);
             turn(2);
-            const HWND page = screen.Page(window);
-            if (GetDlgItem(page, IDC_PROPERTIES_OPERATIONS))
+            if (GetDlgItem(screen.Page(window), IDC_PROPERTIES_OPERATIONS))
                 operations = screen.RowsOf(window, IDC_PROPERTIES_OPERATIONS);
             screen.Press(window, IDOK);
-        });
-        EXPECT_EQ(
-            sheet->DoModal(scenario->KeepAlive().Get(), com::Bstr(kWithNul).Get(), com::Bstr(kWithNul).Get()),
-            S_OK);
+        };
+        EXPECT_EQ(Use(L"Recovery Scenario Properties", show, read), S_OK);
         return operations;
     }
 };

@@ -21,17 +21,13 @@ protected:
         recorder_->SetActive(VARIANT_TRUE);
     }
 
-    using Story = std::function<void(UserScreen&, HWND manager)>;
     // Shows the Manager to a user, who closes it in the end.
     void Manage(const Story& story) {
         const auto manager = New<IRecoveryDlg>(L"Vantrel.RecoveryDlg");
         rack_.GiveTo(manager.Get());
-        User user([&](UserScreen& screen) {
-            const HWND window = screen.WaitForWindow(L"Recovery Scenario Manager");
-            story(screen, window);
-            if (IsWindow(window)) screen.Press(window, IDCANCEL);
-        });
-        EXPECT_EQ(manager->DoModal(), S_OK);
+        EXPECT_EQ(Use(
+                      L"Recovery Scenario Manager", [&] { return manager->DoModal(); }, story),
+                  S_OK);
     }
 
     std::wstring Path(const wchar_t* name) const { return folder_ / name; }

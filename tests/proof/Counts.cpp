@@ -6,6 +6,7 @@
 #include <atomic>
 
 #include "com/Object.h"
+#include "harness/ComTest.h"
 #include "harness/ProcessWindows.h"
 #include "proof/OutwardCalls.h"
 
@@ -103,10 +104,7 @@ long CountWindows() {
 
 long Lives(const wchar_t* module) {
     const HMODULE loaded = GetModuleHandleW(module);
-    if (!loaded) return 0;
-    const auto canUnload = reinterpret_cast<HRESULT(STDAPICALLTYPE*)()>(
-        reinterpret_cast<void*>(GetProcAddress(loaded, "DllCanUnloadNow")));
-    return canUnload() != S_OK;
+    return loaded && test::CallEntryPoint(loaded, "DllCanUnloadNow") != S_OK;
 }
 
 }  // namespace

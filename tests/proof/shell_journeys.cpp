@@ -47,8 +47,7 @@ private:
     }
     HRESULT Call(const char* entryPoint) const {
         RegOverridePredefKey(HKEY_CLASSES_ROOT, key_);
-        const HRESULT hr = reinterpret_cast<HRESULT(STDAPICALLTYPE*)()>(
-            reinterpret_cast<void*>(GetProcAddress(GetModuleHandleW(L"RecoveryUI.dll"), entryPoint)))();
+        const HRESULT hr = test::CallEntryPoint(GetModuleHandleW(L"RecoveryUI.dll"), entryPoint);
         RegOverridePredefKey(HKEY_CLASSES_ROOT, nullptr);
         return hr;
     }

@@ -24,14 +24,11 @@ std::wstring SettingsTest::MakeFile(const std::wstring& name, const std::vector<
     return folder_ / name;
 }
 
-void SettingsTest::OpenSettings(const std::function<void(UserScreen&, HWND)>& script) {
-    const User user([&](UserScreen& screen) {
-        const HWND frame =
-            screen.WaitForWindow(isReadOnly_ ? L"Test Settings (read-only)" : L"Test Settings");
-        script(screen, frame);
-        if (IsWindow(frame)) screen.Press(frame, IDCANCEL);
-    });
-    tovarin::SettingsFrame({rack_.Get(), options_, pages_, isReadOnly_}).ShowModal(nullptr);
+void SettingsTest::OpenSettings(const Story& story) {
+    tovarin::SettingsFrame frame({rack_.Get(), options_, pages_, isReadOnly_});
+    Use(
+        isReadOnly_ ? L"Test Settings (read-only)" : L"Test Settings",
+        [&] { return frame.ShowModal(nullptr), S_OK; }, story);
 }
 
 void SettingsTest::EnterFile(UserScreen& screen, HWND dialog, const std::wstring& file) {

@@ -2,8 +2,6 @@
 // host behind it, and recovery files in a folder of their own.
 #pragma once
 
-#include <functional>
-
 #include "HostInterfaces.h"
 #include "harness/ComTest.h"
 #include "harness/HelpViewer.h"
@@ -30,8 +28,8 @@ protected:
     // A recovery file; gives its full path.
     std::wstring MakeFile(const std::wstring& name, const std::vector<Scenario>& scenarios) const;
 
-    // Opens the settings and runs the script on the frame's window, which is cancelled when it is still open.
-    void OpenSettings(const std::function<void(UserScreen&, HWND frame)>& script);
+    // Opens the settings and runs the story on the frame's window, which is cancelled when it is still open.
+    void OpenSettings(const Story& story);
     // Presses Add and chooses scenarios of a file in the dialog.
     static void Add(UserScreen& screen, HWND frame, const std::wstring& file, const Rows& names);
 

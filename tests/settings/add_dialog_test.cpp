@@ -15,13 +15,9 @@ protected:
     static constexpr int kList = IDC_ADD_SCENARIO_LIST, kFile = IDC_ADD_SCENARIO_FILE;
     AddDialogTest() { rack_.GiveTo(dialog_.Get()); }
 
-    HRESULT Run(const std::function<void(UserScreen&, HWND dialog)>& script) {
-        User user([&](UserScreen& screen) {
-            const HWND window = screen.WaitForWindow(L"Add Recovery Scenario");
-            script(screen, window);
-            if (IsWindow(window)) screen.Press(window, IDCANCEL);
-        });
-        return dialog_->DoModal();
+    HRESULT Run(const Story& story) {
+        return Use(
+            L"Add Recovery Scenario", [&] { return dialog_->DoModal(); }, story);
     }
     // "file: name, name", as the caller of the dialog finds it.
     std::wstring Result() {

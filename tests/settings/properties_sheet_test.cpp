@@ -62,16 +62,18 @@ protected:
         EXPECT_EQ(scenario_->SetOperations(ArrayOf<IUnknown*>(elements).Get()), S_OK);
     }
     // A reader opens the sheet at one of its pages.
-    void Read(int page, const std::function<void(UserScreen&, HWND)>& script) {
-        User user([&](UserScreen& screen) {
-            const HWND sheet = screen.WaitForWindow(L"Recovery Scenario Properties");
-            Turn(screen, sheet, page);
-            EXPECT_EQ(screen.FocusId(), kTabs) << "no text is selected";
-            script(screen, sheet);
-            screen.Press(sheet, IDOK);
-        });
-        EXPECT_EQ(properties_->DoModal(scenario_.Get(), com::Bstr(L"C:\\Tests\\Login.trs").Get(),
-                                       com::Bstr(L"Unexpected log-in").Get()),
+    void Read(int page, const Story& story) {
+        const auto show = [&] {
+            return properties_->DoModal(scenario_.Get(), com::Bstr(L"C:\\Tests\\Login.trs").Get(),
+                                        com::Bstr(L"Unexpected log-in").Get());
+        };
+        EXPECT_EQ(Use(L"Recovery Scenario Properties", show,
+                      [&](UserScreen& screen, HWND sheet) {
+                          Turn(screen, sheet, page);
+                          EXPECT_EQ(screen.FocusId(), kTabs) << "no text is selected";
+                          story(screen, sheet);
+                          screen.Press(sheet, IDOK);
+                      }),
                   S_OK);
     }
 

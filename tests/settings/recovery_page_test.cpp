@@ -115,8 +115,9 @@ TEST_F(RecoveryPageTest, ChangesOutliveTheWindowAndTheModuleStaysAsLongAsTheFram
     EXPECT_EQ(page_->Deactivate(), S_OK);
 
     page_.Reset();
-    const auto canUnload = reinterpret_cast<HRESULT(STDAPICALLTYPE*)()>(
-        reinterpret_cast<void*>(GetProcAddress(GetModuleHandleW(L"RecoveryUI.dll"), "DllCanUnloadNow")));
+    const auto canUnload = [] {
+        return CallEntryPoint(GetModuleHandleW(L"RecoveryUI.dll"), "DllCanUnloadNow");
+    };
     EXPECT_EQ(canUnload(), S_FALSE);
     // The frame's end gives back the one reference of its property.
     const ULONG references = settings_.Get()->AddRef();

@@ -34,15 +34,10 @@ const std::vector<IID> kInterfaces = {IID_IUnknown,
 
 using CitizenTest = ComTest;
 
-template <class Function>
-Function* EntryPoint(const char* name) {
-    return reinterpret_cast<Function*>(
-        reinterpret_cast<void*>(GetProcAddress(GetModuleHandleW(L"RecoveryUI.dll"), name)));
-}
-
 HRESULT GetClass(const CLSID& clsid, REFIID iid, void** object) {
-    return EntryPoint<HRESULT STDAPICALLTYPE(REFCLSID, REFIID, void**)>("DllGetClassObject")(clsid, iid,
-                                                                                             object);
+    const auto getClass = reinterpret_cast<HRESULT(STDAPICALLTYPE*)(REFCLSID, REFIID, void**)>(
+        reinterpret_cast<void*>(GetProcAddress(GetModuleHandleW(L"RecoveryUI.dll"), "DllGetClassObject")));
+    return getClass(clsid, iid, object);
 }
 
 com::Ptr<IClassFactory> Factory(const CLSID& clsid) {
@@ -87,7 +82,9 @@ TEST_F(CitizenTest, EveryClassKeepsItsIdentityWhateverIsAskedOfIt) {
 }
 
 TEST_F(CitizenTest, FactoriesRefuseAggregationAndHoldTheModule) {
-    auto* const canUnload = EntryPoint<HRESULT STDAPICALLTYPE()>("DllCanUnloadNow");
+    const auto canUnload = [] {
+        return CallEntryPoint(GetModuleHandleW(L"RecoveryUI.dll"), "DllCanUnloadNow");
+    };
     void* object = this;
     EXPECT_EQ(GetClass(CLSID_NULL, IID_IClassFactory, &object), CLASS_E_CLASSNOTAVAILABLE);
     EXPECT_EQ(object, nullptr);

@@ -31,9 +31,7 @@ protected:
     }
 
     static HRESULT Call(const char* entryPoint) {
-        const HMODULE module = GetModuleHandleW(L"RecoveryUI.dll");
-        return reinterpret_cast<HRESULT(STDAPICALLTYPE*)()>(
-            reinterpret_cast<void*>(GetProcAddress(module, entryPoint)))();
+        return CallEntryPoint(GetModuleHandleW(L"RecoveryUI.dll"), entryPoint);
     }
     static HRESULT Register() { return Call("DllRegisterServer"); }
     static HRESULT Unregister() { return Call("DllUnregisterServer"); }

@@ -25,17 +25,10 @@ com::Ptr<IPopUpRecoveryTrigger> WizardTest::PopUp(const wchar_t* title, long tit
     return trigger;
 }
 
-HRESULT WizardTest::Run(const Script& script) {
-    User user([&](UserScreen& screen) { script(screen, screen.WaitForWindow(L"Recovery Scenario Wizard")); });
-    return com::Query<IRecoveryDlg>(wizard_.Get())->DoModal();
-}
-
-void WizardTest::Browse(const Script& script) {
-    EXPECT_EQ(Run([&](UserScreen& screen, HWND wizard) {
-                  script(screen, wizard);
-                  if (IsWindow(wizard)) screen.Cancel(wizard);
-              }),
-              S_FALSE);
+HRESULT WizardTest::Run(const Story& story) {
+    const auto dialog = com::Query<IRecoveryDlg>(wizard_.Get());
+    return Use(
+        L"Recovery Scenario Wizard", [&] { return dialog->DoModal(); }, story);
 }
 
 void WizardTest::NextUntil(UserScreen& screen, HWND wizard, const wchar_t* title) {

@@ -11,18 +11,17 @@ namespace recoveryui::test {
 
 class WizardTest : public ComTest {
 protected:
-    using Script = std::function<void(UserScreen&, HWND wizard)>;
-
     WizardTest();
 
     // The wizard is to edit a scenario with this trigger.
     void Edit(IUnknown* trigger);
     static com::Ptr<IPopUpRecoveryTrigger> PopUp(const wchar_t* title, long titleIsRegex = 0,
                                                  const wchar_t* text = L"", long textIsRegex = 0);
-    // Runs the wizard; gives what DoModal answers. The script gets the wizard on its first page.
-    HRESULT Run(const Script& script);
-    // The same for a user who cancels in the end.
-    void Browse(const Script& script);
+    // Runs the wizard, which is cancelled when it is still open in the end; gives what DoModal answers. The
+    // story gets the wizard on its first page.
+    HRESULT Run(const Story& story);
+    // The same for a user who does not finish.
+    void Browse(const Story& story) { EXPECT_EQ(Run(story), S_FALSE); }
 
     // Presses Next on the first page until the page of that title is shown.
     static void NextUntil(UserScreen& screen, HWND wizard, const wchar_t* title);

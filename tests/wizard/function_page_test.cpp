@@ -30,10 +30,10 @@ protected:
         EXPECT_EQ(screen.PageTitle(wizard), kPage);
     }
     // The same for a user who cancels in the end.
-    void BrowsePage(const Script& script) {
+    void BrowsePage(const Story& story) {
         Browse([&](UserScreen& screen, HWND wizard) {
             OpenPage(screen, wizard);
-            script(screen, wizard);
+            story(screen, wizard);
         });
     }
     static void TypePath(UserScreen& screen, HWND wizard, const std::wstring& path) {

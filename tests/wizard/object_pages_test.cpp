@@ -34,10 +34,10 @@ protected:
         ForgetCalls();
     }
     // The script gets the wizard on the page of properties.
-    void OnProperties(const Script& script) {
+    void OnProperties(const Story& story) {
         Browse([&](UserScreen& screen, HWND wizard) {
             NextUntil(screen, wizard, kPropsTitle);
-            script(screen, wizard);
+            story(screen, wizard);
         });
     }
     static void EnterValue(UserScreen& screen, HWND wizard, const wchar_t* row, const wchar_t* value) {

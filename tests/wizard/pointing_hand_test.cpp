@@ -57,12 +57,12 @@ protected:
         for (const HWND window : {login_, bare_}) DestroyWindow(window);
     }
     HWND Button(int id) const { return GetDlgItem(login_, id); }
-    void OnPage(int radio, const Script& script) {
+    void OnPage(int radio, const Story& story) {
         Browse([&](UserScreen& screen, HWND wizard) {
             NextUntil(screen, wizard, L"Select Trigger Event");
             screen.Check(wizard, radio);
             screen.Next(wizard);
-            script(screen, wizard);
+            story(screen, wizard);
         });
     }
 
