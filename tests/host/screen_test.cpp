@@ -60,12 +60,11 @@ protected:
         EXPECT_EQ(recorder_->GetObjectsAtPoint(list.Put(), point.x, point.y), S_OK);
         EXPECT_EQ(list.Verify(), S_OK);
         std::vector<com::Ptr<IDispatch>> objects;
-        for (LONG index = 0; index <= list.UpperBound(); ++index) {
-            Variant element;
-            EXPECT_EQ(list.GetElement(index, &element), S_OK);
+        EXPECT_EQ(list.ForEach([&](const Variant& element) {
             EXPECT_EQ(element.Type(), VT_DISPATCH);
             objects.push_back(com::Query<IDispatch>(element.Object()));
-        }
+        }),
+                  S_OK);
         return objects;
     }
     static Variant Get(IDispatch* object, const wchar_t* name) {

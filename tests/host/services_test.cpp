@@ -169,13 +169,12 @@ protected:
         if (FAILED(hr)) return DescribeResult(hr);
         EXPECT_EQ(parser_->GetFunctions(list.Put()), S_OK);
         std::wstring names;
-        for (LONG index = 0; index <= list.UpperBound(); ++index) {
-            Variant function;
+        EXPECT_EQ(list.ForEach([&](const Variant& function) {
             Bstr name;
-            EXPECT_EQ(list.GetElement(index, &function), S_OK);
             EXPECT_EQ(com::Query<IScriptFunction>(function.Object())->GetName(name.Put()), S_OK);
             names += name.Text() + L";";
-        }
+        }),
+                  S_OK);
         return names;
     }
     static std::string Wide(std::wstring_view text, bool swap) {

@@ -4,6 +4,7 @@
 #include <commctrl.h>
 
 #include "harness/Pointing.h"
+#include "host/temp_folder.h"
 #include "tour/Tour.h"
 
 namespace recoveryui::tour {
@@ -203,12 +204,7 @@ TEST_F(EveryKind, IsMadeStoredAndReadBack) {
         screen.WaitUntilClosed(manager);
     });
 
-    std::string library(512, '\0');
-    FILE* const file = _wfopen(library_.c_str(), L"rb");
-    ASSERT_NE(file, nullptr);
-    library.resize(fread(library.data(), 1, library.size(), file));
-    fclose(file);
-    EXPECT_EQ(library,
+    EXPECT_EQ(tovarin::TempFolder::Read(library_),
               "Function Log(Object)\r\nEnd Function\r\n\r\n"
               "Function Restore(Object, Method, Arguments, retVal)\r\n\r\nEnd Function");
 }

@@ -25,8 +25,9 @@ public:
         com::CVtlSafeArray<VARIANT> found;
         const HRESULT hr = host_->GetObjectsAtPoint(found.Put(), x, y);
         std::vector<com::Variant> all = before;
-        if (SUCCEEDED(hr))
+        if (SUCCEEDED(hr)) {
             EXPECT_EQ(found.ForEach([&](const com::Variant& object) { all.push_back(object); }), S_OK);
+        }
         all.resize(std::min(all.size(), most));
         *out = SUCCEEDED(hr) ? ArrayOf<VARIANT>(all).Detach() : nullptr;
         return hr;

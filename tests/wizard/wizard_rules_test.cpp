@@ -12,6 +12,7 @@
 #include "wizard/PageFlow.h"
 #include "wizard/PopupConditions.h"
 #include "wizard/Summary.h"
+#include "wizard/WizardButtons.h"
 
 namespace recoveryui::wizard {
 namespace {
@@ -20,6 +21,14 @@ TEST(PageFlowTest, OnlyAListThatHoldsSomethingIsLeftForTheOptions) {
     for (const auto& [empty, another] : {std::pair(true, true), {true, false}, {false, true}})
         EXPECT_EQ(PageAfterOperationList(empty, another), IDD_SELECT_OPERATION) << empty << another;
     EXPECT_EQ(PageAfterOperationList(false, false), IDD_TEST_FLOW);
+}
+
+TEST(WizardButtonsTest, PositionAndReadinessDecideTheButtons) {
+    const unsigned buttons[3][2] = {{0x08, 0x0A}, {0x09, 0x0B}, {0x09, 0x05}};
+    for (int position = 0; position < 3; ++position)
+        for (const bool ready : {false, true})
+            EXPECT_EQ(WizardButtons(static_cast<Position>(position), ready), buttons[position][ready])
+                << position << ready;
 }
 
 TEST(PopupConditionsTest, NextNeedsACheckedConditionAndAValueInEveryCheckedOne) {
