@@ -22,7 +22,6 @@ public:
     long kind = 0;  // of the trigger or of the operation
     long option = 1;
     com::Ptr<IUnknown> trigger;  // instead of itself
-    HRESULT texts = S_OK;        // what asking for one answers
     MakeArray operations, parts;
     std::wstring text;
 
@@ -69,7 +68,7 @@ public:
     HRESULT STDMETHODCALLTYPE SetPrototypeMode(long) noexcept override { return E_NOTIMPL; }
 
 private:
-    HRESULT Give(BSTR* out) const noexcept { return FAILED(texts) ? texts : com::CopyTo(out, text); }
+    HRESULT Give(BSTR* out) const noexcept { return com::CopyTo(out, text); }
     HRESULT Part(VARTYPE type, SAFEARRAY** out) const noexcept {
         return *out = parts ? parts(type) : nullptr, S_OK;
     }

@@ -216,7 +216,6 @@ TEST_F(WizardPagesTest, AForeignScenarioIsReadAsFarAsItGoesAndItsUnknownOperatio
     newer->kind = 4;  // an operation that a later host invented
     scenario->option = 9;
     scenario->trigger = PopUp(L"Error").Get();
-    scenario->texts = E_FAIL;
     scenario->operations = [&](VARTYPE) {
         return ArrayOf<VARIANT>(std::vector{com::Variant(keys.Get()), com::Variant(newer->KeepAlive().Get()),
                                             com::Variant(processes.Get()), com::Variant(),

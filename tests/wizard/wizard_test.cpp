@@ -173,8 +173,10 @@ TEST_F(WizardWalkTest, FailsBeforeShowingAnythingWithoutWhatItNeeds) {
     wizard_->put_Scenario(scenario.Get());
     EXPECT_EQ(wizard_->DoModal(), E_FAIL) << "no trigger";
     scenario->SetTrigger(New<IRecoveryTrigger>(L"Vantrel.PopUpRecoveryTrigger").Get());
-    FailCall(L"RecoveryScenario", L"GetPostRecoveryOption");
-    EXPECT_EQ(wizard_->DoModal(), E_FAIL) << "no option";
+    for (const wchar_t* unreadable : {L"GetPostRecoveryOption", L"GetDescription"}) {
+        FailCall(L"RecoveryScenario", unreadable);
+        EXPECT_EQ(wizard_->DoModal(), E_FAIL) << Utf8(unreadable);
+    }
     EXPECT_EQ(wizard_->get_Scenario(nullptr), E_POINTER);
 }
 
