@@ -129,7 +129,7 @@ private:
     void Walk(Player& player, HWND wizard) override {
         ChooseTrigger(player, wizard, IDC_SELECT_TRIGGER_OBJECT_STATE);
         player.NextTo(wizard, L"Select Object");
-        player.PointAt(wizard, IDC_SELECT_OBJECT_HAND, GetDlgItem(login_, kCancel));
+        player.PointAt(wizard, IDC_SELECT_OBJECT_HAND, FindWindowExW(login_, nullptr, L"Button", L"Cancel"));
         player.Try([&] {
             if (player.RowsOf(wizard, IDC_SELECT_OBJECT_TREE).empty())
                 player.Leave(player.WaitForWindow(L"Object Selection - Object State Trigger"), IDOK);
@@ -164,10 +164,10 @@ private:
         Finish(player, wizard, L"State");
     }
 
-    static constexpr int kCancel = 2;
+    // Without numbers of their own the buttons are known by their texts.
     const HWND login_ = test::MakeApplication(
         L"Log in", {10, 500, 260, 160},
-        {{L"Button", L"&OK", 1, {5, 60, 70, 20}}, {L"Button", L"Cancel", kCancel, {80, 60, 70, 20}}});
+        {{L"Button", L"&OK", 0, {5, 60, 70, 20}}, {L"Button", L"Cancel", 0, {80, 60, 70, 20}}});
 };
 
 class ErrorWithFunction final : public WizardStage {
