@@ -1,8 +1,11 @@
 #include "model/RecordString.h"
 
 #include <algorithm>
+#include <array>
+#include <cstddef>
 #include <cstring>
 #include <limits>
+#include <utility>
 
 namespace recoveryui::model {
 namespace {
@@ -10,7 +13,7 @@ namespace {
 constexpr wchar_t kBetweenFields = L';';
 constexpr wchar_t kAfterRecord = L'*';
 constexpr std::size_t kShortestRecord = 8;
-constexpr std::size_t kLongestRest = 13;  // ";" three times, enabled, eight digits, "*"
+constexpr std::size_t kLongestRest = 16;  // ";" three times, enabled, eight digits, "*"; made even
 
 // strtok's rule with a separator of its own for each token: only a leading run of the current
 // separator is skipped, so a stray "*" after a record becomes part of the next file.
@@ -74,19 +77,57 @@ std::uint32_t NumericPrefix(std::wstring_view text, unsigned base) {
     return negative ? 0u - number : number;
 }
 
+// Texts are short: going for the library's function would take as long as what it does.
 wchar_t* Put(wchar_t* to, std::wstring_view text) {
-    std::memcpy(to, text.data(), text.size() * sizeof(wchar_t));
-    return to + text.size();
+    constexpr std::size_t kBlock = 8;
+    const wchar_t* from = text.data();
+    std::size_t left = text.size();
+    if (left < kBlock) return std::copy_n(from, left, to);
+    for (; left > kBlock; left -= kBlock, from += kBlock, to += kBlock)
+        std::memcpy(to, from, kBlock * sizeof(wchar_t));
+    to += left;
+    std::memcpy(to - kBlock, from + left - kBlock, kBlock * sizeof(wchar_t));
+    return to;
 }
 
-// What follows the name.
-wchar_t* PutRest(wchar_t* to, bool enabled, std::uint32_t mode) {
-    for (const wchar_t character : {kBetweenFields, enabled ? L'1' : L'0', kBetweenFields}) *to++ = character;
-    int shift = 28;
-    while (shift > 0 && (mode >> shift) == 0) shift -= 4;
-    for (; shift >= 0; shift -= 4) *to++ = L"0123456789abcdef"[(mode >> shift) & 0xF];
-    *to++ = kAfterRecord;
-    return to;
+// What follows the name. It is put in one piece of a fixed length, and mostly it is that of the record
+// before.
+class Rest {
+public:
+    wchar_t* Put(wchar_t* to, bool enabled, std::uint32_t mode) {
+        if (length_ == 0 || enabled != enabled_ || mode != mode_) Make(enabled, mode);
+        std::memcpy(to, text_.data(), sizeof text_);
+        return to + length_;
+    }
+
+private:
+    void Make(bool enabled, std::uint32_t mode) {
+        wchar_t* to = text_.data();
+        for (const wchar_t character : {kBetweenFields, enabled ? L'1' : L'0', kBetweenFields})
+            *to++ = character;
+        int shift = 28;
+        while (shift > 0 && (mode >> shift) == 0) shift -= 4;
+        for (; shift >= 0; shift -= 4) *to++ = L"0123456789abcdef"[(mode >> shift) & 0xF];
+        *to++ = kAfterRecord;
+        length_ = to - text_.data();
+        enabled_ = enabled;
+        mode_ = mode;
+    }
+
+    std::array<wchar_t, kLongestRest> text_{};
+    std::ptrdiff_t length_ = 0;
+    bool enabled_ = false;
+    std::uint32_t mode_ = 0;
+};
+
+bool Same(std::wstring_view a, std::wstring_view b) {
+    return a.size() == b.size() && (a.data() == b.data() || a == b);
+}
+
+// The path as it is where it cannot be converted.
+std::wstring_view Converted(std::wstring_view path, const PathConversion& conversion, Texts& converted) {
+    std::wstring text = conversion ? conversion(std::wstring(path)) : std::wstring();
+    return text.empty() ? path : converted.emplace_front(std::move(text));
 }
 
 // Remembers the last path: the records of a test come in runs of one file.
@@ -97,12 +138,7 @@ public:
 
     std::wstring_view From() const { return from_; }
     std::wstring_view operator()(std::wstring_view path) {
-        const bool same = path.size() == from_.size() && (path.data() == from_.data() || path == from_);
-        if (!same) {
-            from_ = to_ = path;
-            std::wstring converted = conversion_ ? conversion_(std::wstring(path)) : std::wstring();
-            if (!converted.empty()) to_ = converted_.emplace_front(std::move(converted));
-        }
+        if (!Same(path, from_)) to_ = Converted(from_ = path, conversion_, converted_);
         return to_;
     }
 
@@ -140,26 +176,47 @@ std::vector<ScenarioAssociation> ReadRecords(std::wstring_view text, const PathC
     return records;
 }
 
+// Fresh memory is most of what writing a long list takes. It is touched once only, and what the processor
+// has forgotten when the platform has handed out a page is asked for ahead.
 std::wstring WriteRecords(std::span<const ScenarioAssociation> records, std::optional<std::int32_t> mode,
                           const PathConversion& toStored) {
-    std::size_t expected = 0;  // where no path becomes longer
-    for (const ScenarioAssociation& record : records)
-        expected += record.file.size() + record.name.size() + kLongestRest;
-    std::wstring text(expected, L'\0');
-    std::size_t length = 0;
+    constexpr std::ptrdiff_t kAhead = 16;
+    struct Run {  // of records of one file
+        std::wstring_view path;
+        std::size_t records;
+    };
+    std::vector<Run> runs;
     Texts paths;
-    Converter storedPath(toStored, paths);
-    for (const ScenarioAssociation& record : records) {
-        const std::wstring_view path = storedPath(record.file);
-        const std::size_t most = length + path.size() + record.name.size() + kLongestRest;
-        if (most > text.size()) text.resize(2 * most);
-        wchar_t* to = Put(text.data() + length, path);
-        *to++ = kBetweenFields;
-        to = Put(to, record.name);
-        to = PutRest(to, record.enabled, static_cast<std::uint32_t>(mode.value_or(record.ActivationMode)));
-        length = static_cast<std::size_t>(to - text.data());
+    std::size_t room = 0;
+    for (const ScenarioAssociation *record = records.data(), *const end = record + records.size();
+         record != end;) {
+        const ScenarioAssociation* const first = record;
+        std::size_t names = 0;
+        for (; record != end && Same(record->file, first->file); ++record) names += record->name.size();
+        const Run run{Converted(first->file, toStored, paths), static_cast<std::size_t>(record - first)};
+        runs.push_back(run);
+        room += names + run.records * (run.path.size() + kLongestRest);
     }
-    text.resize(length);
+    std::wstring text;
+    text.resize_and_overwrite(room, [&](wchar_t* const start, std::size_t) noexcept {
+        Rest rest;
+        wchar_t* to = start;
+        const ScenarioAssociation *record = records.data(), *const end = record + records.size();
+        for (const Run& run : runs) {
+            for (std::size_t left = run.records; left > 0; --left, ++record) {
+                if (end - record > 2 * kAhead) {
+                    __builtin_prefetch(record + 2 * kAhead);
+                    __builtin_prefetch(record[kAhead].name.data());
+                }
+                to = Put(to, run.path);
+                *to++ = kBetweenFields;
+                to = Put(to, record->name);
+                to = rest.Put(to, record->enabled,
+                              static_cast<std::uint32_t>(mode.value_or(record->ActivationMode)));
+            }
+        }
+        return static_cast<std::size_t>(to - start);
+    });
     return text;
 }
 

@@ -94,6 +94,23 @@ TEST(RecordString, WritesLowerCaseHexadecimalAndOneModeForAll) {
     EXPECT_EQ(ReadRecords(WriteRecords(two)), two);
 }
 
+TEST(RecordString, TextsOfEveryLengthAndChangingModesAreWrittenWhole) {
+    std::vector<std::wstring> texts;
+    for (std::size_t length = 1; length < 40; ++length) texts.emplace_back(length, L'a' + length % 26);
+    Records records;
+    std::wstring expected;
+    for (const std::wstring& file : texts) {
+        for (const std::wstring& name : texts) {
+            const bool enabled = name.size() % 3 == 0;
+            const auto mode = static_cast<std::int32_t>(name.size() / 8);
+            records.push_back({file, name, enabled, mode});
+            expected += file + L";" + name + (enabled ? L";1;" : L";0;") + std::to_wstring(mode) + L"*";
+        }
+    }
+    EXPECT_TRUE(WriteRecords(records) == expected);
+    EXPECT_TRUE(ReadRecords(expected) == records);
+}
+
 TEST(RecordString, ConvertsPathsBothWaysAndKeepsThemWhereThatFails) {
     const PathConversion toFull = [](const std::wstring& path) {
         return path.starts_with(L"lost") ? std::wstring() : L"C:\\" + path;
