@@ -75,7 +75,7 @@ void ManagerDlg::PrepareButtons() {
     for (size_t i = 0; i < buttons_.size(); ++i) {
         const ButtonRow& row = kButtons[i];
         buttons_[i].Attach(Item(row.control), row.icon, row.kind);
-        tips_.Add(Window(), Item(row.control), row.tip);
+        AddTip(row.control, row.tip);
     }
 }
 

@@ -15,7 +15,6 @@
 #include "ui/Anchors.h"
 #include "ui/Dialog.h"
 #include "ui/IconButton.h"
-#include "ui/ToolTips.h"
 
 namespace recoveryui::manager {
 
@@ -90,7 +89,6 @@ private:
 
     ScenarioList list_;
     std::array<ui::IconButton, 9> buttons_;
-    ui::ToolTips tips_;
     ui::Anchors anchors_;
     ui::Icon icon_;
 };

@@ -40,7 +40,7 @@ void AddScenarioDlg::OnInit() {
     if (const auto key = model::RecentListsKey(rack_.Get()))
         isBound_ =
             file_.LoadMRU(HKEY_CURRENT_USER, *key, model::options::kSettingsRecent, model::kRecentMaximum);
-    tips_.Add(Window(), Item(IDC_ADD_SCENARIO_BROWSE), IDS_TIP_BROWSE);
+    AddTip(IDC_ADD_SCENARIO_BROWSE, IDS_TIP_BROWSE);
     list_ = ui::ListView(Item(IDC_ADD_SCENARIO_LIST));
     list_.SetExtendedStyle(LVS_EX_FULLROWSELECT | LVS_EX_DOUBLEBUFFER | LVS_EX_LABELTIP);
     list_.AddColumn({});

@@ -10,7 +10,6 @@
 #include "settings/ScenarioCalls.h"
 #include "ui/Dialog.h"
 #include "ui/ListView.h"
-#include "ui/ToolTips.h"
 
 namespace recoveryui::settings {
 
@@ -44,7 +43,6 @@ private:
     bool isBound_ = false;  // to the list that is remembered
     bool isPickPending_ = false;
     ui::ListView list_{nullptr};
-    ui::ToolTips tips_;
     std::vector<std::wstring> names_;  // of the list, row by row
     std::wstring loadedPath_;          // their file, as typed or picked
     std::wstring triedPath_;           // the file that was last asked for

@@ -51,7 +51,7 @@ void RecoveryTab::PrepareButtons() {
     static_assert(std::size(kButtons) == std::tuple_size_v<decltype(buttons_)>);
     for (size_t i = 0; i < buttons_.size(); ++i) {
         buttons_[i].Attach(Item(kButtons[i].control), kButtons[i].icon);
-        tips_.Add(Window(), Item(kButtons[i].control), kButtons[i].tip);
+        AddTip(kButtons[i].control, kButtons[i].tip);
     }
 }
 

@@ -9,7 +9,6 @@
 #include "ui/Anchors.h"
 #include "ui/ChildDialog.h"
 #include "ui/IconButton.h"
-#include "ui/ToolTips.h"
 
 namespace recoveryui::settings {
 
@@ -59,7 +58,6 @@ private:
     ScenarioLooks looks_;
     AssociationView view_;
     std::array<ui::IconButton, 5> buttons_;
-    ui::ToolTips tips_;
     ui::Anchors anchors_;
 };
 

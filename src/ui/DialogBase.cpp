@@ -73,7 +73,11 @@ bool DialogBase::Handle(UINT message, WPARAM wParam, LPARAM lParam, LRESULT& ans
             PostMessageW(window_, kDpiChanged, 0, 0);
             return false;
         case kDpiChanged: FollowDpi(); return true;
-        case WM_NCDESTROY: ForgetDpi(window_); return OnMessage(message, wParam, lParam, answer);
+        case WM_NCDESTROY:
+            ForgetDpi(window_);
+            tips_.Forget();
+            return OnMessage(message, wParam, lParam, answer);
+        case WM_SETCURSOR: tips_.Show(window_); return OnMessage(message, wParam, lParam, answer);
         case WM_DRAWITEM: return IconButton::DrawItem(*reinterpret_cast<const DRAWITEMSTRUCT*>(lParam));
         case WM_HELP: OnHelp(); return true;
         default: return OnMessage(message, wParam, lParam, answer);

@@ -5,6 +5,7 @@
 #include <windows.h>
 
 #include "com/Module.h"
+#include "ui/ToolTips.h"
 
 namespace recoveryui::ui {
 
@@ -27,6 +28,8 @@ protected:
     HWND Window() const noexcept { return window_; }
     int Dpi() const noexcept { return dpi_; }
     HWND Item(int id) const noexcept { return GetDlgItem(window_, id); }
+    // A text of the string table that tells what a control is for when the mouse rests on it.
+    void AddTip(int control, int stringId) noexcept { tips_.Add(control, stringId); }
 
     // Once, when the controls exist. Notifications are muted meanwhile.
     virtual void OnInit() {}
@@ -66,6 +69,7 @@ private:
     int muted_ = 0;
     int dpi_ = 0;
     HWND window_ = nullptr;
+    ToolTips tips_;
     com::LiveObject live_;
 };
 

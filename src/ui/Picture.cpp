@@ -20,7 +20,7 @@ com::Ptr<IWICBitmapSource> Convert(IWICImagingFactory& factory, IWICBitmapSource
     return converter.Get();
 }
 
-com::Ptr<IWICBitmapSource> Decode(IWICImagingFactory& factory, int id) {
+com::Ptr<IWICBitmapSource> Decode(IWICImagingFactory& factory, IClassFactory& decoders, int id) {
     com::Ptr<IWICBitmapSource> nothing;
     const HINSTANCE module = com::Module::Instance();
     const HRSRC found = FindResourceW(module, MAKEINTRESOURCEW(id), L"PNG");
@@ -33,8 +33,8 @@ com::Ptr<IWICBitmapSource> Decode(IWICImagingFactory& factory, int id) {
     if (FAILED(factory.CreateStream(stream.GetAddressOf())) ||
         FAILED(stream->InitializeFromMemory(static_cast<BYTE*>(LockResource(loaded)),
                                             SizeofResource(module, found))) ||
-        FAILED(CoCreateInstance(CLSID_WICPngDecoder, nullptr, CLSCTX_INPROC_SERVER, IID_IWICBitmapDecoder,
-                                reinterpret_cast<void**>(decoder.GetAddressOf()))) ||
+        FAILED(decoders.CreateInstance(nullptr, IID_IWICBitmapDecoder,
+                                       reinterpret_cast<void**>(decoder.GetAddressOf()))) ||
         FAILED(decoder->Initialize(stream.Get(), WICDecodeMetadataCacheOnDemand)) ||
         FAILED(decoder->GetFrame(0, frame.GetAddressOf())))
         return nothing;
@@ -78,13 +78,17 @@ Bitmap Stretch(HBITMAP source, SIZE from, SIZE to) {
 
 }  // namespace
 
-Bitmap LoadPicture(int id, SIZE size) {
-    com::Ptr<IWICImagingFactory> factory;
-    if (FAILED(CoCreateInstance(CLSID_WICImagingFactory, nullptr, CLSCTX_INPROC_SERVER,
-                                IID_IWICImagingFactory, reinterpret_cast<void**>(factory.GetAddressOf()))))
+Bitmap Pictures::Load(int id, SIZE size) {
+    if (!factory_ &&
+        FAILED(CoCreateInstance(CLSID_WICImagingFactory, nullptr, CLSCTX_INPROC_SERVER,
+                                IID_IWICImagingFactory, reinterpret_cast<void**>(factory_.GetAddressOf()))))
+        return {};
+    if (!decoders_ &&
+        FAILED(CoGetClassObject(CLSID_WICPngDecoder, CLSCTX_INPROC_SERVER, nullptr, IID_IClassFactory,
+                                reinterpret_cast<void**>(decoders_.GetAddressOf()))))
         return {};
     for (const int variant : {id, id + 1000, id + 2000}) {
-        const com::Ptr<IWICBitmapSource> source = Decode(*factory.Get(), variant);
+        const com::Ptr<IWICBitmapSource> source = Decode(*factory_.Get(), *decoders_.Get(), variant);
         UINT width = 0, height = 0;
         if (!source || FAILED(source->GetSize(&width, &height))) return {};
         const bool last = variant == id + 2000;
@@ -96,6 +100,9 @@ Bitmap LoadPicture(int id, SIZE size) {
     }
     return {};
 }
+
+Pictures::Pictures() noexcept = default;
+Pictures::~Pictures() = default;
 
 Icon LoadIconOfSize(int id, int pixels) {
     return Icon(static_cast<HICON>(LoadImageW(com::Module::Instance(), MAKEINTRESOURCEW(id), IMAGE_ICON,

@@ -7,13 +7,29 @@
 
 #include <span>
 
+#include "com/Ptr.h"
 #include "ui/Handles.h"
+
+struct IWICImagingFactory;
 
 namespace recoveryui::ui {
 
-// A PNG resource as a bitmap of exactly the given size, made from the best of its three resolutions
-// (id, id + 1000, id + 2000). Empty on failure.
-Bitmap LoadPicture(int id, SIZE size);
+// Reads PNG resources; what decodes them is looked up once.
+class Pictures {
+public:
+    Pictures() noexcept;
+    ~Pictures();
+    Pictures(const Pictures&) = delete;
+    Pictures& operator=(const Pictures&) = delete;
+
+    // A bitmap of exactly the given size, made from the best of the resource's three resolutions (id,
+    // id + 1000, id + 2000). Empty on failure.
+    Bitmap Load(int id, SIZE size);
+
+private:
+    com::Ptr<IWICImagingFactory> factory_;
+    com::Ptr<IClassFactory> decoders_;
+};
 
 // An icon resource in the given pixel size (square).
 Icon LoadIconOfSize(int id, int pixels);

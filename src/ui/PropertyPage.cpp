@@ -31,6 +31,7 @@ bool PropertyPage::OnNotify(NMHDR& header, LRESULT& answer) {
     switch (header.code) {
         case PSN_SETACTIVE:
             answer = OnSetActive();
+            KeepEnter();
             PostMessageW(Window(), kKeepFocus, kShown, 0);
             return true;
         case PSN_WIZNEXT:
@@ -61,17 +62,21 @@ HWND PropertyPage::NextFocus() const {
     return first ? first : FirstControl();
 }
 
+// Before the sheet enables and disables its buttons, so that it draws each of them once.
+void PropertyPage::KeepEnter() const {
+    if (const int enter = EnterButton())
+        SendMessageW(Sheet(), DM_SETDEFID, static_cast<WPARAM>(enter), kSaidByPage);
+}
+
 void PropertyPage::KeepFocus(bool shown) const {
-    const int enter = EnterButton();
-    if (enter && LOWORD(SendMessageW(Sheet(), DM_GETDEFID, 0, 0)) != enter)
-        SendMessageW(Sheet(), DM_SETDEFID, static_cast<WPARAM>(enter), 0);
+    if (LOWORD(SendMessageW(Sheet(), DM_GETDEFID, 0, 0)) != EnterButton()) KeepEnter();
     GUITHREADINFO thread{};
     thread.cbSize = sizeof thread;
     GetGUIThreadInfo(GetCurrentThreadId(), &thread);
     if (thread.hwndActive != Sheet()) return;
     const HWND focus = thread.hwndFocus, wanted = shown ? FirstFocus() : nullptr;
     // Some sheets begin on a page's first control without asking.
-    const bool elsewhere = wanted && focus != wanted && focus == FirstControl();
+    const bool elsewhere = wanted && focus != wanted && IsChild(Window(), focus) && !IsChild(wanted, focus);
     if (!elsewhere && TakesKeys(focus, thread.hwndActive)) return;
     SendMessageW(Sheet(), WM_NEXTDLGCTL, reinterpret_cast<WPARAM>(elsewhere ? wanted : NextFocus()), TRUE);
 }

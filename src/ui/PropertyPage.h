@@ -13,6 +13,9 @@ namespace recoveryui::ui {
 
 class PropertyPage : public DialogBase {
 public:
+    // Goes with a page's DM_SETDEFID to its sheet, for the sheet sends itself the same message.
+    static constexpr LPARAM kSaidByPage = 1;
+
     // The page's description for a sheet. The title may be empty: the template's caption is used.
     HPROPSHEETPAGE CreateHandle();
 
@@ -47,6 +50,7 @@ private:
     HWND FirstControl() const { return GetNextDlgTabItem(Window(), nullptr, FALSE); }
     static constexpr UINT kKeepFocus = WM_APP;
     static constexpr WPARAM kShown = 1;
+    void KeepEnter() const;
     void KeepFocus(bool shown) const;
     static INT_PTR CALLBACK Procedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam) noexcept;
 

@@ -16,8 +16,16 @@ LRESULT CALLBACK SheetProcedure(HWND sheet, UINT message, WPARAM wParam, LPARAM 
     return TRUE;
 }
 
+// Its pages say which button Enter presses. Where Next is disabled a wizard would take Back, which leaves the
+// page; and it would draw two buttons anew each time that it enables them.
+LRESULT CALLBACK WizardProcedure(HWND sheet, UINT message, WPARAM wParam, LPARAM lParam) noexcept {
+    const bool isDefault = message == DM_SETDEFID && lParam != PropertyPage::kSaidByPage;
+    return isDefault ? TRUE : SheetProcedure(sheet, message, wParam, lParam);
+}
+
+template <WNDPROC procedure>
 int CALLBACK OnSheet(HWND sheet, UINT event, LPARAM) noexcept {
-    if (event == PSCB_INITIALIZED) PutBefore(sheet, &SheetProcedure);
+    if (event == PSCB_INITIALIZED) PutBefore(sheet, procedure);
     return 0;
 }
 
@@ -38,7 +46,7 @@ bool PropertySheet::ShowModal(HWND owner) {
     PROPSHEETHEADERW header{};
     header.dwSize = sizeof header;
     header.dwFlags = PSH_HASHELP | PSH_NOCONTEXTHELP | PSH_USECALLBACK;
-    header.pfnCallback = &OnSheet;
+    header.pfnCallback = kind_ == Kind::Wizard ? &OnSheet<&WizardProcedure> : &OnSheet<&SheetProcedure>;
     // With HASFINISH the three buttons stay visible and each can be disabled on its own.
     header.dwFlags |= kind_ == Kind::Wizard ? PSH_WIZARD | PSH_WIZARDHASFINISH : PSH_NOAPPLYNOW;
     header.hwndParent = owner;

@@ -1,18 +1,28 @@
-// One tooltip window for the buttons of a dialog.
+// The tips of a dialog's buttons.
 #pragma once
 
 #include <windows.h>
 
+#include <vector>
+
 namespace recoveryui::ui {
 
+// A tooltip window stands before its controls and looks at every message of theirs, so it is made when the
+// mouse first comes over the dialog.
 class ToolTips {
 public:
-    // Attaches a text of the string table to a control. The tooltip window dies with the dialog.
-    void Add(HWND dialog, HWND control, int stringId);
-    void Remove(HWND dialog, HWND control);
+    // The text of the string table that a control of the dialog is to show.
+    void Add(int control, int stringId) noexcept;
+    // The mouse is over a control of the dialog. The tooltip window dies with the dialog.
+    void Show(HWND dialog) noexcept;
+    void Forget() noexcept { waiting_.clear(); }
 
 private:
-    HWND window_ = nullptr;
+    struct Tip {
+        int control;
+        int stringId;
+    };
+    std::vector<Tip> waiting_;
 };
 
 }  // namespace recoveryui::ui

@@ -47,7 +47,7 @@ OperationClickPP::OperationClickPP(WizardPS& sheet) : WizardPPBase(sheet, IDD_OP
 void OperationClickPP::OnInit() {
     WizardPPBase::OnInit();
     SetButtonIcon(IDC_CLICK_HAND, IDI_POINTING_HAND, kHandIconSize);
-    tips_.Add(Window(), Item(IDC_CLICK_HAND), IDS_TIP_POINTING_HAND);
+    AddTip(IDC_CLICK_HAND, IDS_TIP_POINTING_HAND);
     CheckDlgButton(Window(), IDC_CLICK_ENTER, BST_CHECKED);
     Refresh();
 }

@@ -1,6 +1,5 @@
 #pragma once
 
-#include "ui/ToolTips.h"
 #include "wizard/ClickChoice.h"
 #include "wizard/PointingHand.h"
 #include "wizard/WizardPPBase.h"
@@ -25,7 +24,6 @@ private:
     Leave AddButtonClick();
 
     PointingHand hand_;
-    ui::ToolTips tips_;
 };
 
 }  // namespace recoveryui::wizard

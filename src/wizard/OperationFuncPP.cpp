@@ -29,7 +29,7 @@ void OperationFuncPP::OnInit() {
     const HWND combo = Item(IDC_FUNC_LIBRARY);
     recent_.Attach(combo);
     ui::CatchEnter(combo, kLoad);
-    tips_.Add(Window(), Item(IDC_FUNC_BROWSE), IDS_TIP_BROWSE);
+    AddTip(IDC_FUNC_BROWSE, IDS_TIP_BROWSE);
     SendMessageW(Item(IDC_FUNC_TEXT), EM_SETLIMITTEXT, 0, 0);
     CheckDlgButton(Window(), IDC_FUNC_SELECT, BST_CHECKED);
     if (library_.CreateParser()) BindRecentLibraries();

@@ -3,7 +3,6 @@
 #include <string>
 
 #include "model/CMRUComboBox.h"
-#include "ui/ToolTips.h"
 #include "wizard/FunctionControls.h"
 #include "wizard/FunctionLibrary.h"
 #include "wizard/FunctionText.h"
@@ -44,7 +43,6 @@ private:
     bool AcceptName(NewFunction& function);
 
     model::CMRUComboBox recent_;
-    ui::ToolTips tips_;
     FunctionLibrary library_;
     std::wstring attempted_;  // the path that was loaded last, or could not be
     std::wstring fullPath_;   // the same library where it was found

@@ -18,9 +18,9 @@ void OperationListPP::OnInit() {
     SetButtonIcon(IDC_OPERATION_LIST_UP, IDI_MOVE_UP, kButtonIconSize);
     SetButtonIcon(IDC_OPERATION_LIST_DOWN, IDI_MOVE_DOWN, kButtonIconSize);
     SetButtonIcon(IDC_OPERATION_LIST_DELETE, IDI_DELETE, kButtonIconSize);
-    tips_.Add(Window(), Item(IDC_OPERATION_LIST_UP), IDS_TIP_MOVE_UP);
-    tips_.Add(Window(), Item(IDC_OPERATION_LIST_DOWN), IDS_TIP_MOVE_DOWN);
-    tips_.Add(Window(), Item(IDC_OPERATION_LIST_DELETE), IDS_TIP_DELETE);
+    AddTip(IDC_OPERATION_LIST_UP, IDS_TIP_MOVE_UP);
+    AddTip(IDC_OPERATION_LIST_DOWN, IDS_TIP_MOVE_DOWN);
+    AddTip(IDC_OPERATION_LIST_DELETE, IDS_TIP_DELETE);
     model::SetUpOperationsList(Rows());
 }
 

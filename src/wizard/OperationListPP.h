@@ -3,7 +3,6 @@
 #include "model/OperationOrder.h"
 #include "resources/ids.h"
 #include "ui/ListView.h"
-#include "ui/ToolTips.h"
 #include "wizard/WizardPPBase.h"
 
 namespace recoveryui::wizard {
@@ -29,7 +28,6 @@ private:
     void Delete();
     void ForgetNewFunction(IRecoveryAction* operation);
 
-    ui::ToolTips tips_;
 };
 
 }  // namespace recoveryui::wizard

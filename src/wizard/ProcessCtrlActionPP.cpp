@@ -26,8 +26,8 @@ void ProcessCtrlActionPP::SetUpPair() {
 }
 
 void ProcessCtrlActionPP::AddTips() {
-    tips_.Add(Window(), Item(IDC_PROCESSES_NEW), IDS_TIP_ADD_PROCESS);
-    tips_.Add(Window(), Item(IDC_PROCESSES_REMOVE), IDS_TIP_REMOVE_PROCESS);
+    AddTip(IDC_PROCESSES_NEW, IDS_TIP_ADD_PROCESS);
+    AddTip(IDC_PROCESSES_REMOVE, IDS_TIP_REMOVE_PROCESS);
 }
 
 void ProcessCtrlActionPP::OnActivate() {

@@ -1,7 +1,6 @@
 #pragma once
 
 #include "process/ProcessPair.h"
-#include "ui/ToolTips.h"
 #include "wizard/WizardPPBase.h"
 
 namespace recoveryui::wizard {
@@ -28,7 +27,6 @@ private:
     bool OnMessage(UINT message, WPARAM wParam, LPARAM lParam, LRESULT& answer) override;
 
     process::ProcessPair pair_;
-    ui::ToolTips tips_;
 };
 
 }  // namespace recoveryui::wizard

@@ -18,7 +18,7 @@ SelectObjectPP::SelectObjectPP(WizardPS& sheet) : WizardPPBase(sheet, IDD_SELECT
 void SelectObjectPP::OnInit() {
     WizardPPBase::OnInit();
     SetButtonIcon(IDC_SELECT_OBJECT_HAND, IDI_POINTING_HAND, kHandIconSize);
-    tips_.Add(Window(), Item(IDC_SELECT_OBJECT_HAND), IDS_TIP_POINTING_HAND);
+    AddTip(IDC_SELECT_OBJECT_HAND, IDS_TIP_POINTING_HAND);
     const auto object = ObjectOfTrigger();
     if (!object) return;
     const auto chain = model::ChainOf(object.Get());

@@ -1,7 +1,6 @@
 #pragma once
 
 #include "model/TestObjects.h"
-#include "ui/ToolTips.h"
 #include "wizard/PointingHand.h"
 #include "wizard/WizardPPBase.h"
 
@@ -25,7 +24,6 @@ private:
     void Take(const model::ObjectChain& chain);
 
     PointingHand hand_;
-    ui::ToolTips tips_;
 };
 
 }  // namespace recoveryui::wizard

@@ -10,23 +10,14 @@ namespace {
 
 constexpr int kHandIconSize = 32;
 
-struct Controls {
-    int check;
-    int value;
-    int regex;
-};
-constexpr Controls kTitle{IDC_POPUP_TITLE_CHECK, IDC_POPUP_TITLE, IDC_POPUP_TITLE_REGEX};
-constexpr Controls kText{IDC_POPUP_TEXT_CHECK, IDC_POPUP_TEXT, IDC_POPUP_TEXT_REGEX};
-
-PopupCondition ReadCondition(HWND page, const Controls& controls) {
-    return {ui::IsChecked(GetDlgItem(page, controls.check)), ui::TextOf(GetDlgItem(page, controls.value)),
-            ui::IsChecked(GetDlgItem(page, controls.regex))};
+PopupCondition ReadCondition(const ConditionControls& controls) {
+    return {ui::IsChecked(controls.check), ui::TextOf(controls.value), ui::IsChecked(controls.regex)};
 }
 
-void ShowCondition(HWND page, const Controls& controls, const PopupCondition& condition) {
-    ui::SetChecked(GetDlgItem(page, controls.check), condition.checked);
-    ui::SetText(GetDlgItem(page, controls.value), condition.value);
-    ui::SetChecked(GetDlgItem(page, controls.regex), condition.isRegex);
+void ShowCondition(const ConditionControls& controls, const PopupCondition& condition) {
+    ui::SetChecked(controls.check, condition.checked);
+    ui::SetText(controls.value, condition.value);
+    ui::SetChecked(controls.regex, condition.isRegex);
 }
 
 com::Ptr<IWindowTextSource> TextSourceAmong(const std::vector<com::Ptr<IDispatch>>& objects) {
@@ -36,9 +27,9 @@ com::Ptr<IWindowTextSource> TextSourceAmong(const std::vector<com::Ptr<IDispatch
     return nullptr;
 }
 
-void Enable(HWND page, const Controls& controls, bool enabled) {
-    ui::Enable(GetDlgItem(page, controls.value), enabled);
-    ui::Enable(GetDlgItem(page, controls.regex), enabled);
+void Enable(const ConditionControls& controls, bool enabled) {
+    ui::Enable(controls.value, enabled);
+    ui::Enable(controls.regex, enabled);
 }
 
 }  // namespace
@@ -47,8 +38,10 @@ SelectPopupPP::SelectPopupPP(WizardPS& sheet) : WizardPPBase(sheet, IDD_POPUP) {
 
 void SelectPopupPP::OnInit() {
     WizardPPBase::OnInit();
+    title_ = {Item(IDC_POPUP_TITLE_CHECK), Item(IDC_POPUP_TITLE), Item(IDC_POPUP_TITLE_REGEX)};
+    text_ = {Item(IDC_POPUP_TEXT_CHECK), Item(IDC_POPUP_TEXT), Item(IDC_POPUP_TEXT_REGEX)};
     SetButtonIcon(IDC_POPUP_HAND, IDI_POINTING_HAND, kHandIconSize);
-    tips_.Add(Window(), Item(IDC_POPUP_HAND), IDS_TIP_POINTING_HAND);
+    AddTip(IDC_POPUP_HAND, IDS_TIP_POINTING_HAND);
 
     long kind = 0;
     if (State().trigger) com::Check(State().trigger->GetTriggerKind(&kind));
@@ -72,15 +65,15 @@ PopupConditions SelectPopupPP::ReadTrigger(IPopUpRecoveryTrigger& trigger) const
 }
 
 PopupConditions SelectPopupPP::Read() const {
-    return {ReadCondition(Window(), kTitle), ReadCondition(Window(), kText)};
+    return {ReadCondition(title_), ReadCondition(text_)};
 }
 
 void SelectPopupPP::Show(const PopupConditions& conditions) {
     Muted muted(*this);
-    ShowCondition(Window(), kTitle, conditions.title);
-    ShowCondition(Window(), kText, conditions.text);
-    Enable(Window(), kTitle, conditions.title.checked);
-    Enable(Window(), kText, conditions.text.checked);
+    ShowCondition(title_, conditions.title);
+    ShowCondition(text_, conditions.text);
+    Enable(title_, conditions.title.checked);
+    Enable(text_, conditions.text.checked);
     Validate();
 }
 
@@ -90,15 +83,16 @@ void SelectPopupPP::Validate() {
 
 // Only a click enables or disables: nobody is to lose the box he types in.
 void SelectPopupPP::OnChecked(int check) {
-    Enable(Window(), check == kTitle.check ? kTitle : kText, ui::IsChecked(Item(check)));
+    const ConditionControls& controls = check == IDC_POPUP_TITLE_CHECK ? title_ : text_;
+    Enable(controls, ui::IsChecked(controls.check));
     Validate();
 }
 
 HWND SelectPopupPP::FirstFocus() const {
-    for (const int value : {kTitle.value, kText.value}) {
-        if (IsWindowEnabled(Item(value))) return Item(value);
+    for (const HWND value : {title_.value, text_.value}) {
+        if (IsWindowEnabled(value)) return value;
     }
-    return Item(kTitle.check);
+    return title_.check;
 }
 
 bool SelectPopupPP::OnCommand(const ui::Command& command) {

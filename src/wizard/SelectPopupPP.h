@@ -1,11 +1,17 @@
 #pragma once
 
-#include "ui/ToolTips.h"
 #include "wizard/PointingHand.h"
 #include "wizard/PopupConditions.h"
 #include "wizard/WizardPPBase.h"
 
 namespace recoveryui::wizard {
+
+// The controls of one of the page's conditions.
+struct ConditionControls {
+    HWND check = nullptr;
+    HWND value = nullptr;
+    HWND regex = nullptr;
+};
 
 // Asks what the pop-up looks like. The rule for Next is PopupConditions::Complete.
 class SelectPopupPP final : public WizardPPBase {
@@ -25,8 +31,9 @@ private:
     void OnChecked(int check);
     void OnPointingHand();
 
+    ConditionControls title_;
+    ConditionControls text_;
     PointingHand hand_;
-    ui::ToolTips tips_;
 };
 
 }  // namespace recoveryui::wizard

@@ -70,7 +70,7 @@ HFONT WizardPS::TitleFont(HWND page, int dpi) {
 
 HBITMAP WizardPS::Picture(int id, SIZE size) {
     ui::Bitmap& picture = pictures_[{id, size.cy}];
-    if (!picture) picture = ui::LoadPicture(id, size);
+    if (!picture) picture = loader_.Load(id, size);
     return picture.Get();
 }
 

@@ -27,7 +27,8 @@ public:
 
 private:
     WizardState state_;
-    std::map<int, ui::Font> titleFonts_;                   // by DPI
+    std::map<int, ui::Font> titleFonts_;  // by DPI
+    ui::Pictures loader_;
     std::map<std::pair<int, LONG>, ui::Bitmap> pictures_;  // by number and height
 };
 

@@ -211,6 +211,8 @@ void UserScreen::Enter(HWND window, int id, const std::wstring& text) {
 
 std::wstring UserScreen::Tip(HWND window, int id) {
     const HWND control = Control(window, id);
+    // Tips are made when the mouse comes.
+    Ask(control, WM_SETCURSOR, reinterpret_cast<WPARAM>(control), MAKELPARAM(HTCLIENT, WM_MOUSEMOVE));
     for (const HWND tip : TopLevelWindows()) {
         if (ClassOf(tip) != TOOLTIPS_CLASSW) continue;
         wchar_t text[512] = L"";
