@@ -65,6 +65,7 @@ void OperationClickPP::Refresh() {
     ui::Enable(Item(IDC_CLICK_LABEL_LIST), controls.labelList);
     ui::Enable(Item(IDC_CLICK_HAND), controls.pointingHand);
     ui::Enable(Item(IDC_CLICK_HOTKEY), controls.hotKey);
+    InvalidateRect(Item(IDC_CLICK_HOTKEY), nullptr, TRUE);  // some versions of the control stay grey
     ui::Enable(Item(IDC_CLICK_HINT), controls.hotKey);
     SetCanAdvance(controls.canAdvance);
 }
@@ -82,6 +83,11 @@ bool OperationClickPP::OnCommand(const ui::Command& command) {
             return true;
         default: return WizardPPBase::OnCommand(command);
     }
+}
+
+// In the field for keys F1 is the key that is meant.
+void OperationClickPP::OnHelp() {
+    if (GetFocus() != Item(IDC_CLICK_HOTKEY)) WizardPPBase::OnHelp();
 }
 
 void OperationClickPP::OnPointingHand() {

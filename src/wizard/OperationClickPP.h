@@ -15,6 +15,7 @@ private:
     void OnInit() override;
     bool OnCommand(const ui::Command& command) override;
     Leave OnNext() override;
+    void OnHelp() override;
 
     ClickChoice Choice() const;
     void Refresh();  // enabling and Next follow the choice
