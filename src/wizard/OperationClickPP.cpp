@@ -8,6 +8,7 @@
 #include "resources/ids.h"
 #include "ui/Messages.h"
 #include "ui/Radio.h"
+#include "ui/Subclass.h"
 #include "ui/Window.h"
 #include "wizard/WindowButtons.h"
 
@@ -40,6 +41,14 @@ com::CVtlSafeArray<VARIANT> ClickArguments(const std::wstring& label) {
     return arguments;
 }
 
+// A letter with Alt is a key of the field; it is not also to press the button that has it as its access key.
+LRESULT CALLBACK KeysProcedure(HWND field, UINT message, WPARAM wParam, LPARAM lParam) noexcept {
+    const LRESULT answer = ui::CallOwn(field, message, wParam, lParam);
+    MSG letter{};
+    if (message == WM_SYSKEYDOWN) PeekMessageW(&letter, field, WM_SYSCHAR, WM_SYSCHAR, PM_REMOVE);
+    return answer;
+}
+
 }  // namespace
 
 OperationClickPP::OperationClickPP(WizardPS& sheet) : WizardPPBase(sheet, IDD_OPERATION_CLICK) {}
@@ -48,6 +57,7 @@ void OperationClickPP::OnInit() {
     WizardPPBase::OnInit();
     SetButtonIcon(IDC_CLICK_HAND, IDI_POINTING_HAND, kHandIconSize);
     AddTip(IDC_CLICK_HAND, IDS_TIP_POINTING_HAND);
+    ui::PutBefore(Item(IDC_CLICK_HOTKEY), &KeysProcedure);
     CheckDlgButton(Window(), IDC_CLICK_ENTER, BST_CHECKED);
     Refresh();
 }
