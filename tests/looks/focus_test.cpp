@@ -2,6 +2,7 @@
 // topic that Help and F1 lead to.
 #include <windows.h>
 
+#include <commctrl.h>
 #include <prsht.h>
 
 #include <map>
@@ -147,6 +148,25 @@ TEST_F(KeyboardTest, EveryPageBeginsWhereSomethingIsToBeDoneAlsoOnTheWayBack) {
             finish ? S_OK : S_FALSE);
     }
     EXPECT_EQ(seen_.size(), kPages.size());
+}
+
+TEST_F(KeyboardTest, TheFieldForKeysTakesF1AndLettersWithAltAsKeys) {
+    Browse([&](UserScreen& screen, HWND wizard) {
+        GoToOperations(screen, wizard);
+        AddOperation(screen, wizard, IDC_SELECT_OPERATION_CLICK);
+        screen.Check(wizard, IDC_CLICK_KEYS);
+        const HWND field = screen.Control(wizard, IDC_CLICK_HOTKEY);
+        screen.Do([=] { SetFocus(field); });
+        screen.RealKeys({VK_F1});
+        EXPECT_EQ(screen.Ask(field, HKM_GETHOTKEY), VK_F1);
+        EXPECT_EQ(help_->Take(), L"");
+        screen.RealKeys({VK_MENU, 'N'});
+        EXPECT_EQ(screen.Ask(field, HKM_GETHOTKEY), MAKEWORD('N', HOTKEYF_ALT));
+        EXPECT_EQ(screen.PageTitle(wizard), L"Recovery Operation - Click Button or Press Key");
+        screen.Press(wizard, IDHELP);
+        EXPECT_EQ(help_->Take(), L"Recovery_Scenario_Wizard_Click_Button.htm");
+        screen.Cancel(wizard);
+    });
 }
 
 }  // namespace
