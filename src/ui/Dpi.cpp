@@ -1,9 +1,12 @@
 #include "ui/Dpi.h"
 
+#include <atomic>
+
 namespace recoveryui::ui {
 namespace {
 
 constexpr wchar_t kProperty[] = L"RecoveryUI.Dpi";
+std::atomic<bool> anyTold = false;  // while none was, there is no property to look up
 
 int AskSystem(HWND window) {
     using GetDpi = UINT(WINAPI*)(HWND);
@@ -19,16 +22,18 @@ int AskSystem(HWND window) {
 }  // namespace
 
 int DpiOf(HWND window) {
-    const auto told = reinterpret_cast<INT_PTR>(GetPropW(GetAncestor(window, GA_ROOT), kProperty));
+    const auto told =
+        anyTold ? reinterpret_cast<INT_PTR>(GetPropW(GetAncestor(window, GA_ROOT), kProperty)) : 0;
     return told ? static_cast<int>(told) : AskSystem(window);
 }
 
 void RememberDpi(HWND window, int dpi) {
+    anyTold = true;
     SetPropW(window, kProperty, reinterpret_cast<HANDLE>(static_cast<INT_PTR>(dpi)));
 }
 
 void ForgetDpi(HWND window) {
-    RemovePropW(window, kProperty);
+    if (anyTold) RemovePropW(window, kProperty);
 }
 
 int ScaleForWindow(HWND window, int pixels) {

@@ -3,6 +3,8 @@
 
 #include <windows.h>
 
+#include "ui/Window.h"
+
 namespace recoveryui::ui {
 
 struct RadioGroup {
@@ -18,8 +20,13 @@ struct RadioGroup {
     }
     // Clears all others; -1 clears all.
     void Choose(HWND dialog, int place) const {
-        for (int id = first; id <= last; ++id)
-            CheckDlgButton(dialog, id, id - first == place ? BST_CHECKED : BST_UNCHECKED);
+        for (int id = first; id <= last; ++id) {
+            const HWND button = GetDlgItem(dialog, id);
+            const bool chosen = id - first == place;
+            // The chosen one is the group's tab stop; what is neither chosen nor a stop is left alone.
+            const bool isStop = (GetWindowLongPtrW(button, GWL_STYLE) & WS_TABSTOP) != 0;
+            if (chosen || isStop || IsChecked(button)) SetChecked(button, chosen);
+        }
     }
 };
 
