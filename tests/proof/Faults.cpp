@@ -10,8 +10,8 @@
 #include <sstream>
 #include <stdexcept>
 
+#include "harness/Children.h"
 #include "harness/ProcessWindows.h"
-#include "proof/Children.h"
 #include "proof/Openings.h"
 #include "proof/Options.h"
 #include "proof/Playing.h"
@@ -94,8 +94,8 @@ public:
             std::string list;
             for (size_t i = next; i < end; ++i) list += (i > next ? "," : "") + faults[i];
             size_t ended = 0;
-            const DWORD code = RunChild(L"play --journey " + Wide(journey_) + L" --calls " + Wide(list),
-                                        [&](const std::string& line) { ended += Hear(line); });
+            const DWORD code = test::RunChild(L"play --journey " + Wide(journey_) + L" --calls " + Wide(list),
+                                              [&](const std::string& line) { ended += Hear(line); });
             if (code != 0) {
                 // It died of one; the next process goes on behind it.
                 said_ += "\n    the process ended with " + std::to_string(code);
@@ -144,7 +144,7 @@ private:
     // What the platform keeps of its own drawing, and when, is no fault of the call.
     bool ShowsAgain(const std::string& fault) const {
         bool isClean = true;
-        const DWORD code = RunChild(
+        const DWORD code = test::RunChild(
             L"play --journey " + Wide(journey_) + L" --calls " + Wide(fault + "," + fault + "," + fault),
             [&](const std::string& line) {
                 if (line.rfind("over ", 0) == 0) isClean &= line.ends_with(" 0");
@@ -165,18 +165,19 @@ struct Survey {
 // "calls memory 135" and "place memory 7".
 std::map<std::string, Survey> SurveyOf(const Journey& journey) {
     std::map<std::string, Survey> surveys;
-    const DWORD code = RunChild(L"survey --journey " + Wide(journey.name), [&](const std::string& line) {
-        std::stringstream stream(line);
-        std::string what, kind;
-        long number = 0;
-        if (stream >> what >> kind >> number && what == "calls") {
-            surveys[kind].calls = number;
-        } else if (what == "place") {
-            surveys[kind].places.push_back(number);
-        } else {
-            std::printf("%s\n", line.c_str());
-        }
-    });
+    const DWORD code =
+        test::RunChild(L"survey --journey " + Wide(journey.name), [&](const std::string& line) {
+            std::stringstream stream(line);
+            std::string what, kind;
+            long number = 0;
+            if (stream >> what >> kind >> number && what == "calls") {
+                surveys[kind].calls = number;
+            } else if (what == "place") {
+                surveys[kind].places.push_back(number);
+            } else {
+                std::printf("%s\n", line.c_str());
+            }
+        });
     if (code != 0) throw std::runtime_error(std::string(journey.name) + " cannot be surveyed");
     return surveys;
 }

@@ -9,8 +9,8 @@
 #include <random>
 #include <vector>
 
+#include "harness/Children.h"
 #include "objects/store/StoreFile.h"
-#include "proof/Children.h"
 #include "proof/Options.h"
 #include "proof/Version.h"
 
@@ -42,12 +42,12 @@ public:
         for (const bool exists : {true, false}) {
             long places = 0;
             Prepare(L"place.trs", exists);
-            RunChild(
+            test::RunChild(
                 Die(0), [&](const std::string& line) { places = std::stol(line.substr(line.find(' '))); },
                 kSaver);
             for (long place = 1; place <= places; ++place) {
                 Prepare(L"place.trs", exists);
-                const DWORD code = RunChild(
+                const DWORD code = test::RunChild(
                     Die(place), [](const std::string&) {}, kSaver);
                 const int version = VersionIn(L"place.trs");
                 const bool isOld = exists ? version == 1 : !fs::exists(folder_ / L"place.trs");
@@ -73,7 +73,7 @@ public:
         for (size_t i = 0; i < kAtOnce; ++i) {
             Prepare(NameOf(i), true);
             versions[i] = 1;
-            savers[i] = StartChild(Loop(way, i), nullptr, kSaver);
+            savers[i] = test::StartChild(Loop(way, i), nullptr, kSaver);
         }
         for (long round = 0; round < rounds; ++round) {
             const size_t i = static_cast<size_t>(round) % kAtOnce;
@@ -94,7 +94,7 @@ public:
                 Prepare(name, true);
             }
             versions[i] = std::max(version, 1);
-            savers[i] = StartChild(Loop(way, i), nullptr, kSaver);
+            savers[i] = test::StartChild(Loop(way, i), nullptr, kSaver);
         }
         for (const PROCESS_INFORMATION& saver : savers) {
             TerminateProcess(saver.hProcess, 1);
@@ -111,8 +111,8 @@ public:
         const std::wstring arguments =
             L"race \"" + (folder_ / L"race.trs").wstring() + L"\" " + std::to_wstring(rounds);
         std::vector<int> replaced;
-        const PROCESS_INFORMATION rival = StartChild(arguments, nullptr, kSaver);
-        RunChild(
+        const PROCESS_INFORMATION rival = test::StartChild(arguments, nullptr, kSaver);
+        test::RunChild(
             arguments,
             [&](const std::string& line) { replaced.push_back(std::stoi(line.substr(line.find(' ')))); },
             kSaver);

@@ -4,8 +4,8 @@
 #include <cstdio>
 #include <stdexcept>
 
+#include "harness/Children.h"
 #include "harness/ProcessWindows.h"
-#include "proof/Children.h"
 #include "proof/Counts.h"
 #include "proof/Openings.h"
 #include "proof/Options.h"
@@ -102,7 +102,7 @@ int LongUse(const Options& options) {
     const auto isFlat = [](const std::wstring& arguments, std::string& said) {
         said.clear();
         const DWORD code =
-            RunChild(L"open " + arguments, [&](const std::string& line) { said += line + " "; });
+            test::RunChild(L"open " + arguments, [&](const std::string& line) { said += line + " "; });
         return code == 0 && said.rfind("flat", 0) == 0;
     };
     std::string said;

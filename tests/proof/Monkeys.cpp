@@ -9,8 +9,8 @@
 #include <random>
 #include <vector>
 
+#include "harness/Children.h"
 #include "harness/ProcessWindows.h"
-#include "proof/Children.h"
 #include "proof/Counts.h"
 #include "proof/Openings.h"
 #include "proof/Options.h"
@@ -229,7 +229,7 @@ int Monkeys(const Options& options) {
                                        std::to_wstring(inputs) + L" --seed " + std::to_wstring(own) +
                                        L" --plant " + std::to_wstring(plant);
         std::string said;
-        const DWORD code = RunChild(arguments, [&](const std::string& line) {
+        const DWORD code = test::RunChild(arguments, [&](const std::string& line) {
             if (line.rfind("made ", 0) == 0) made += std::stol(line.substr(5));
             // Of the openings, the last one is told.
             if (line.find(" after ") == line.npos) {

@@ -4,10 +4,13 @@
 #include <commctrl.h>
 #include <prsht.h>
 
+#include <atomic>
 #include <functional>
 #include <string>
+#include <thread>
 
 #include "HostInterfaces.h"
+#include "harness/Children.h"
 #include "harness/ComTest.h"
 #include "harness/ProcessWindows.h"
 #include "host/temp_folder.h"
@@ -24,73 +27,16 @@ constexpr char kFile[] = R"({"formatVersion": 1, "scenarios": [
    "operations": [{"kind": "closeProcesses", "processes": ["demo.exe"]}]},
   {"name": "Other", "description": "", "postRecoveryOption": 5, "trigger": null, "operations": []}]})";
 
-// A program beside the test program's files, with what it writes.
-class Program {
-public:
-    explicit Program(std::wstring command) {
-        SECURITY_ATTRIBUTES inherited{sizeof inherited, nullptr, TRUE};
-        HANDLE write = nullptr;
-        CreatePipe(&read_, &write, &inherited, 1 << 16);
-        STARTUPINFOW start{};
-        start.cb = sizeof start;
-        start.dwFlags = STARTF_USESTDHANDLES;
-        start.hStdOutput = start.hStdError = write;
-        EXPECT_TRUE(CreateProcessW(nullptr, command.data(), nullptr, nullptr, TRUE, CREATE_NO_WINDOW, nullptr,
-                                   Folder().c_str(), &start, &process_))
-            << Utf8(command);
-        CloseHandle(write);
-        // It does not outlive this program, whatever ends it.
-        JOBOBJECT_EXTENDED_LIMIT_INFORMATION limit{};
-        limit.BasicLimitInformation.LimitFlags = JOB_OBJECT_LIMIT_KILL_ON_JOB_CLOSE;
-        SetInformationJobObject(job_, JobObjectExtendedLimitInformation, &limit, sizeof limit);
-        AssignProcessToJobObject(job_, process_.hProcess);
-    }
-    ~Program() {
-        CloseHandle(job_);
-        CloseHandle(process_.hProcess);
-        CloseHandle(process_.hThread);
-        CloseHandle(read_);
-    }
-    static std::wstring Folder() {
-        wchar_t path[MAX_PATH];
-        const std::wstring_view program(path, GetModuleFileNameW(nullptr, path, MAX_PATH));
-        return std::wstring(program.substr(0, program.rfind(L'\\')));
-    }
-
-    bool IsRunning() const { return WaitForSingleObject(process_.hProcess, 10) == WAIT_TIMEOUT; }
-    // Null when there is none.
-    HWND Window(const wchar_t* title) const {
-        for (HWND window = nullptr; (window = FindWindowExW(nullptr, window, nullptr, title));) {
-            DWORD process = 0;
-            GetWindowThreadProcessId(window, &process);
-            if (process == process_.dwProcessId) return window;
-        }
-        return nullptr;
-    }
-    // Waits for the end of the program.
-    std::string Output() {
-        std::string all;
-        char part[4096];
-        for (DWORD size = 0; ReadFile(read_, part, sizeof part, &size, nullptr) && size > 0;)
-            all.append(part, size);
-        std::erase(all, '\r');
-        return all;
-    }
-    DWORD ExitCode() const {
-        DWORD code = 99;
-        WaitForSingleObject(process_.hProcess, INFINITE);
-        GetExitCodeProcess(process_.hProcess, &code);
-        return code;
-    }
-
-private:
-    HANDLE read_ = nullptr;
-    const HANDLE job_ = CreateJobObjectW(nullptr, nullptr);
-    PROCESS_INFORMATION process_{};
-};
+// Runs a program of the platform; gives its exit code and what it says.
+DWORD RunTool(const std::wstring& name, const std::wstring& arguments, std::string* said = nullptr) {
+    const auto hear = [&](const std::string& line) {
+        if (said) *said += line + "\n";
+    };
+    return RunChild(arguments, hear, (L"C:\\windows\\system32\\" + name).c_str());
+}
 
 DWORD Regsvr32(const std::wstring& arguments) {
-    return Program(L"regsvr32 /s " + arguments).ExitCode();
+    return RunTool(L"regsvr32.exe", L"/s " + arguments);
 }
 
 // Into another process, which SetWindowText does not reach.
@@ -105,6 +51,7 @@ bool CanPress(HWND wizard, int button) {
 class ScriptingTest : public ComTest {
 protected:
     ScriptingTest() {
+        SetCurrentDirectoryW(ProgramFolder().c_str());
         EXPECT_EQ(Regsvr32(L"RecoveryUI.dll"), 0u);
         EXPECT_EQ(Regsvr32(L"TovarinObjects.dll"), 0u);
         tovarin::TempFolder::Write(file_, kFile);
@@ -120,9 +67,15 @@ protected:
 
     // What the script says while somebody answers each page of its wizard with a button.
     std::string RunSample(const std::function<WPARAM(HWND wizard, HWND page)>& answer) {
-        Program script(L"cscript //nologo edit_scenario.vbs \"" + file_ + L"\" \"Close the box\"");
-        while (script.IsRunning()) {
-            const HWND wizard = script.Window(L"Recovery Scenario Wizard");
+        std::string said;
+        std::atomic<bool> isOver = false;
+        std::thread script([&] {
+            RunTool(L"cscript.exe", L"//nologo edit_scenario.vbs \"" + file_ + L"\" \"Close the box\"",
+                    &said);
+            isOver = true;
+        });
+        for (; !isOver; Sleep(10)) {
+            const HWND wizard = FindWindowW(nullptr, L"Recovery Scenario Wizard");
             const HWND page = reinterpret_cast<HWND>(SendMessageW(wizard, PSM_GETCURRENTPAGEHWND, 0, 0));
             // A wizard that is just being shown has not set its buttons yet.
             if (!IsWindowVisible(page) || CanPress(wizard, kNextButton) == CanPress(wizard, kFinishButton))
@@ -130,7 +83,8 @@ protected:
             SendMessageW(wizard, PSM_PRESSBUTTON, answer(wizard, page), 0);
             PostMessageW(wizard, WM_NULL, 0, 0);  // its loop sees the end with the next message
         }
-        return script.Output();
+        script.join();
+        return said;
     }
 
     tovarin::TempFolder folder_;

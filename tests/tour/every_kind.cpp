@@ -3,6 +3,7 @@
 
 #include <commctrl.h>
 
+#include "harness/Children.h"
 #include "harness/Pointing.h"
 #include "host/temp_folder.h"
 #include "tour/Tour.h"
@@ -18,12 +19,7 @@ public:
     static constexpr wchar_t kTitle[] = L"Order 4711";
     static constexpr int kMessage = 10, kTryAgain = 11;
 
-    explicit Application(UserScreen& screen) {
-        std::wstring command = std::wstring(L"target.exe ") + kTitle;
-        STARTUPINFOW start{};
-        start.cb = sizeof start;
-        EXPECT_TRUE(CreateProcessW(nullptr, command.data(), nullptr, nullptr, FALSE, 0, nullptr, nullptr,
-                                   &start, &process_));
+    explicit Application(UserScreen& screen) : process_(test::StartChild(kTitle, nullptr, L"target.exe")) {
         screen.WaitUntil("the application shows its window", [&] {
             window_ = FindWindowW(L"OrderEntry", kTitle);
             return window_ && IsWindowVisible(window_);
@@ -31,7 +27,6 @@ public:
     }
     ~Application() {
         TerminateProcess(process_.hProcess, 0);
-        CloseHandle(process_.hThread);
         CloseHandle(process_.hProcess);
     }
     Application(const Application&) = delete;
@@ -42,7 +37,7 @@ public:
     }
 
 private:
-    PROCESS_INFORMATION process_{};
+    const PROCESS_INFORMATION process_;
     HWND window_ = nullptr;
 };
 

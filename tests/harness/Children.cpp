@@ -1,11 +1,39 @@
-#include "proof/Children.h"
+#include "harness/Children.h"
 
-namespace recoveryui::proof {
+namespace recoveryui::test {
 
-PROCESS_INFORMATION StartChild(const std::wstring& arguments, HANDLE output, const wchar_t* other) {
+namespace {
+
+std::wstring Program() {
     std::wstring program(32768, L'\0');
     program.resize(GetModuleFileNameW(nullptr, program.data(), static_cast<DWORD>(program.size())));
-    if (other) program.replace(program.rfind(L'\\') + 1, program.npos, other);
+    return program;
+}
+
+// What is in it ends with this process.
+HANDLE JobOfChildren() {
+    static const HANDLE job = [] {
+        JOBOBJECT_EXTENDED_LIMIT_INFORMATION limit{};
+        limit.BasicLimitInformation.LimitFlags = JOB_OBJECT_LIMIT_KILL_ON_JOB_CLOSE;
+        const HANDLE made = CreateJobObjectW(nullptr, nullptr);
+        SetInformationJobObject(made, JobObjectExtendedLimitInformation, &limit, sizeof limit);
+        return made;
+    }();
+    return job;
+}
+
+}  // namespace
+
+std::wstring ProgramFolder() {
+    const std::wstring program = Program();
+    return program.substr(0, program.rfind(L'\\') + 1);
+}
+
+PROCESS_INFORMATION StartChild(const std::wstring& arguments, HANDLE output, const wchar_t* other) {
+    const std::wstring name = other ? other : L"";
+    const std::wstring program = !other                          ? Program()
+                                 : name.find(L'\\') == name.npos ? ProgramFolder() + name
+                                                                 : name;
     std::wstring command = L"\"" + program + L"\" " + arguments;
     STARTUPINFOW start{};
     start.cb = sizeof start;
@@ -16,6 +44,7 @@ PROCESS_INFORMATION StartChild(const std::wstring& arguments, HANDLE output, con
     PROCESS_INFORMATION child{};
     CreateProcessW(program.c_str(), command.data(), nullptr, nullptr, output != nullptr, DETACHED_PROCESS,
                    nullptr, nullptr, &start, &child);
+    AssignProcessToJobObject(JobOfChildren(), child.hProcess);
     CloseHandle(child.hThread);
     return child;
 }
@@ -43,4 +72,4 @@ DWORD RunChild(const std::wstring& arguments, const std::function<void(const std
     return code;
 }
 
-}  // namespace recoveryui::proof
+}  // namespace recoveryui::test

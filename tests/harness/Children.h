@@ -6,9 +6,13 @@
 #include <functional>
 #include <string>
 
-namespace recoveryui::proof {
+namespace recoveryui::test {
 
-// Starts a program of this one's folder, or this one itself; the process handle is the caller's.
+// The folder of this program, ending in a backslash.
+std::wstring ProgramFolder();
+
+// Starts this program itself, another one of its folder, or the one of a full path, which does not outlive
+// this one; the process handle is the caller's.
 PROCESS_INFORMATION StartChild(const std::wstring& arguments, HANDLE output = nullptr,
                                const wchar_t* program = nullptr);
 
@@ -16,4 +20,4 @@ PROCESS_INFORMATION StartChild(const std::wstring& arguments, HANDLE output = nu
 DWORD RunChild(const std::wstring& arguments, const std::function<void(const std::string& line)>& onLine,
                const wchar_t* program = nullptr);
 
-}  // namespace recoveryui::proof
+}  // namespace recoveryui::test
