@@ -1,5 +1,6 @@
 #include "harness/ComTest.h"
 
+#include "HostInterfaces.h"
 #include "com/Create.h"
 #include "harness/ProcessWindows.h"
 
@@ -85,6 +86,18 @@ std::wstring ComTest::Calls() {
 
 void ComTest::ForgetCalls() {
     EXPECT_EQ(journal_->Clear(), S_OK);
+}
+
+Rows NamesInFile(const std::wstring& path) {
+    Rows names;
+    com::Ptr<IRecoveryRepository> repository;
+    com::Ptr<IScenarioEnumerator> enumerator;
+    EXPECT_EQ(com::Create(L"Vantrel.RecoveryRepository", repository), S_OK);
+    EXPECT_EQ(repository->Load(com::Bstr(path).Get(), VARIANT_TRUE), S_OK);
+    EXPECT_EQ(repository->GetScenarioEnumerator(enumerator.GetAddressOf()), S_OK);
+    com::Bstr name;
+    while (enumerator->Next(name.Put()) == S_OK) names.push_back(name.Text());
+    return names;
 }
 
 Rack::Rack() {

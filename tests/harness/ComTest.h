@@ -56,6 +56,9 @@ private:
     com::Ptr<ICallJournal> journal_;
 };
 
+// What another program reads from a recovery file: the names of its scenarios.
+Rows NamesInFile(const std::wstring& path);
+
 // An object rack of the host's kind, filled by the test.
 class Rack {
 public:

@@ -232,6 +232,10 @@ int UserScreen::FocusId() {
     return focus ? GetDlgCtrlID(focus) : 0;
 }
 
+void UserScreen::Focus(HWND window, int id) {
+    Do([control = Control(window, id)] { SetFocus(control); });
+}
+
 void UserScreen::Keys(std::initializer_list<WORD> virtualKeys) {
     const HWND focus = InfoOf(ui_.Id()).hwndFocus;
     for (const WORD key : virtualKeys) {
@@ -298,6 +302,10 @@ void UserScreen::ChooseMenu(const std::wstring& item) {
     if (!ui_.Ended()) Do([] {});
 }
 
+void UserScreen::Turn(HWND sheet, int page) {
+    Do([=] { SendMessageW(sheet, PSM_SETCURSEL, static_cast<WPARAM>(page), 0); });
+}
+
 HWND UserScreen::Page(HWND wizard) {
     return reinterpret_cast<HWND>(Ask(wizard, PSM_GETCURRENTPAGEHWND));
 }
@@ -309,7 +317,7 @@ std::wstring UserScreen::WizardButtons(HWND wizard) {
     std::wstring state;
     const wchar_t letters[] = L"BNF";
     for (int i = 0; i < 3; ++i) {
-        const HWND button = Control(wizard, 0x3023 + i);
+        const HWND button = Control(wizard, kBack + i);
         if (i > 0) state += L' ';
         state += !IsWindowVisible(button)  ? L'-'
                  : IsWindowEnabled(button) ? letters[i]

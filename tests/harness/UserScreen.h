@@ -19,6 +19,9 @@ namespace recoveryui::test {
 
 using Rows = std::vector<std::wstring>;
 
+// The platform's numbers in a wizard and in a combo box.
+inline constexpr int kBack = 0x3023, kNext = 0x3024, kFinish = 0x3025, kEditOfCombo = 1001;
+
 class UserScreen {
 public:
     UserScreen(const UiThread& ui, ULONGLONG deadline) : ui_(ui), deadline_(deadline) {}
@@ -56,6 +59,7 @@ public:
     std::wstring Tip(HWND window, int id);
     // The control with the keyboard focus.
     int FocusId();
+    void Focus(HWND window, int id);
 
     // ---- List views ("first column | second"), list boxes, combo boxes, trees (two blanks per level)
     Rows RowsOf(HWND window, int id);
@@ -81,14 +85,15 @@ public:
     // Chooses an item of the pop-up menu, or leaves it with Escape.
     void ChooseMenu(const std::wstring& item);
 
-    // ---- Wizards
+    // ---- Wizards and sheets
+    void Turn(HWND sheet, int page);
     HWND Page(HWND wizard);
     std::wstring PageTitle(HWND wizard);
     // "B N F": upper case enabled, lower case disabled, "-" hidden; "*" follows the default button.
     std::wstring WizardButtons(HWND wizard);
-    void Back(HWND wizard) { Press(wizard, 0x3023); }
-    void Next(HWND wizard) { Press(wizard, 0x3024); }
-    void Finish(HWND wizard) { Press(wizard, 0x3025); }
+    void Back(HWND wizard) { Press(wizard, kBack); }
+    void Next(HWND wizard) { Press(wizard, kNext); }
+    void Finish(HWND wizard) { Press(wizard, kFinish); }
     void Cancel(HWND wizard) { Press(wizard, IDCANCEL); }
 
     // Runs on the windows' thread, from its message loop.

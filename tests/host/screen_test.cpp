@@ -203,7 +203,7 @@ TEST_F(HostSelection, TheUserChoosesAnObjectFromTheTree) {
             EXPECT_EQ(screen.FocusId(), kTree);
             screen.Press(window, IDC_OBJECT_SELECTION_HELP);
             EXPECT_EQ(viewer->Take(), L"OS_Object_State.htm");
-            screen.Do([&] { SetFocus(screen.Control(window, kTree)); });
+            screen.Focus(window, kTree);
             EXPECT_EQ(screen.RowsOf(window, kTree),
                       (Rows{L"OrderEntry \"Main Window\"", L"  Static \"Panel\"", L"    Button \"OK\""}));
             EXPECT_EQ(screen.Chosen(window, kTree), Rows{L"    Button \"OK\""});

@@ -99,14 +99,11 @@ protected:
         const com::Bstr name(kWithNul);
         const auto show = [&] { return sheet->DoModal(scenario->KeepAlive().Get(), name.Get(), name.Get()); };
         const auto read = [&](UserScreen& screen, HWND window) {
-            const auto turn = [&](int page) {
-                screen.Do([=] { SendMessageW(window, PSM_SETCURSEL, static_cast<WPARAM>(page), 0); });
-            };
             EXPECT_EQ(screen.Text(window, IDC_GENERAL_NAME), L"a");
             EXPECT_EQ(screen.Text(window, IDC_GENERAL_DESCRIPTION), L"a");
-            turn(1);
+            screen.Turn(window, 1);
             if (processes) *processes = screen.RowsOf(window, IDC_PROPERTIES_PROCESSES);
-            turn(2);
+            screen.Turn(window, 2);
             if (GetDlgItem(screen.Page(window), IDC_PROPERTIES_OPERATIONS))
                 operations = screen.RowsOf(window, IDC_PROPERTIES_OPERATIONS);
             screen.Press(window, IDOK);

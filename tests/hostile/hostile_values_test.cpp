@@ -123,7 +123,7 @@ TEST_F(HostileFilesTest, NamesWithNulsAreDifferentScenarios) {
         screen.Press(manager, IDCANCEL);
         EXPECT_EQ(screen.AnswerBox(IDYES), kSaveQuestion);
     });
-    EXPECT_EQ(NamesIn(file), (Rows{second, L"n"}));
+    EXPECT_EQ(NamesInFile(file), (Rows{second, L"n"}));
 }
 
 TEST_F(HostileFilesTest, AForeignOrHugeFileIsRefusedAndLeftAsItIs) {

@@ -16,8 +16,6 @@
 namespace recoveryui::test {
 namespace {
 
-constexpr int kNext = 0x3024, kEditOfCombo = 1001;
-
 namespace topics = support::topics;
 
 struct PageFacts {

@@ -49,15 +49,6 @@ protected:
         tovarin::TempFolder::Write(Path(file), TextOfStore(tovarin::store::PopUps(names)));
         return Path(file);
     }
-    Rows NamesIn(const std::wstring& path) const {
-        Rows names;
-        com::Ptr<IScenarioEnumerator> enumerator;
-        EXPECT_EQ(Load(path, true)->GetScenarioEnumerator(enumerator.GetAddressOf()), S_OK);
-        for (com::Bstr name; enumerator && enumerator->Next(name.Put()) == S_OK;)
-            names.push_back(name.Text());
-        return names;
-    }
-
     // The user's steps.
     static void WaitForFile(UserScreen& screen, HWND manager, const std::wstring& path) {
         screen.WaitUntil("the file is open", [&] { return screen.Text(manager, IDC_MANAGER_FILE) == path; });
@@ -67,11 +58,8 @@ protected:
         screen.GiveFile(L"Open Recovery File", path);
         WaitForFile(screen, manager, path);
     }
-    static void FocusList(UserScreen& screen, HWND manager) {
-        screen.Do([=] { SetFocus(GetDlgItem(manager, IDC_MANAGER_LIST)); });
-    }
     static void DropMenu(UserScreen& screen, HWND manager, int button) {
-        screen.Do([=] { SetFocus(GetDlgItem(manager, button)); });
+        screen.Focus(manager, button);
         screen.Keys({VK_F4});
     }
     static void SaveAs(UserScreen& screen, HWND manager, const std::wstring& path) {

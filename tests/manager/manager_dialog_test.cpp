@@ -53,7 +53,7 @@ TEST_F(ManagerTest, AFileIsOpenedAScenarioTakenToAnotherFileAndBothAreFoundAgain
         screen.ChooseMenu(first);
         EXPECT_EQ(screen.Text(manager, IDC_MANAGER_FILE), first);
     });
-    EXPECT_EQ(NamesIn(second), Rows{L"Crash"});
+    EXPECT_EQ(NamesInFile(second), Rows{L"Crash"});
     EXPECT_EQ(settings_.Stored(L"RecoveryManagerMRU"), first + L";" + second + L";C:\\a.trs;C:\\b.trs");
     EXPECT_EQ(settings_.Stored(L"RecoveryScenarios"), L"-") << "no scenario was to be added to a test";
 }
@@ -73,7 +73,7 @@ TEST_F(ManagerTest, DeletingSelectsTheRowThatTookThePlace) {
         screen.Press(manager, IDC_MANAGER_SAVE);
         EXPECT_EQ(Calls(), L"") << "an unchanged file is not written";
     });
-    EXPECT_EQ(NamesIn(file), Rows{});
+    EXPECT_EQ(NamesInFile(file), Rows{});
 }
 
 TEST_F(ManagerTest, ALockedFileCanOnlyBeLookedAt) {
@@ -98,7 +98,7 @@ TEST_F(ManagerTest, ALockedFileCanOnlyBeLookedAt) {
         screen.Press(manager, IDC_MANAGER_NEW);
         EXPECT_EQ(Toolbar(screen, manager), L"Nepcvd");
     });
-    EXPECT_EQ(NamesIn(Path(L"copy.trs")), (Rows{L"one", L"two"}));
+    EXPECT_EQ(NamesInFile(Path(L"copy.trs")), (Rows{L"one", L"two"}));
 }
 
 TEST_F(ManagerTest, PastingOverAnExistingNameAsksFirst) {
@@ -141,7 +141,6 @@ TEST_F(ManagerTest, AScenarioIsMadeRenamedTwiceAndAddedToTheTestUnderItsLastName
             screen.WaitUntilClosed(wizard);
             EXPECT_EQ(Suspensions(), 0);
         };
-        constexpr int kFinish = 0x3025;
         OpenFile(screen, manager, file);
         screen.Choose(manager, IDC_MANAGER_LIST, L"one");
         screen.Press(manager, IDC_MANAGER_EDIT);
@@ -160,7 +159,7 @@ TEST_F(ManagerTest, AScenarioIsMadeRenamedTwiceAndAddedToTheTestUnderItsLastName
         EXPECT_EQ(Chosen(screen, manager), L"new one");
 
         for (const wchar_t* name : {L"New One", L"newest"}) {
-            FocusList(screen, manager);
+            screen.Focus(manager, IDC_MANAGER_LIST);
             screen.Keys({VK_RETURN});
             wizard = openWizard();
             WalkThroughWizard(screen, wizard, name);
@@ -172,7 +171,7 @@ TEST_F(ManagerTest, AScenarioIsMadeRenamedTwiceAndAddedToTheTestUnderItsLastName
         EXPECT_EQ(screen.AnswerBox(IDYES), kSaveQuestion);
         screen.WaitUntilClosed(manager);
     });
-    EXPECT_EQ(NamesIn(file), (Rows{L"one", L"two", L"newest"}));
+    EXPECT_EQ(NamesInFile(file), (Rows{L"one", L"two", L"newest"}));
     EXPECT_EQ(settings_.Stored(L"RecoveryScenarios"), L"C:\\x.trs;Other;1;1*" + file + L";newest;1;1*");
     EXPECT_EQ(settings_.Stored(L"RecoveryDefScenarios"), L"-");
 }
@@ -191,7 +190,7 @@ TEST_F(ManagerTest, KeysMenusAndDroppedFilesDoWhatTheButtonsDo) {
         });
         WaitForFile(screen, manager, file);
         screen.Press(manager, IDHELP);
-        FocusList(screen, manager);
+        screen.Focus(manager, IDC_MANAGER_LIST);
         screen.RealKeys({VK_F1});
         EXPECT_EQ(help->Take(), topics::kManager + std::wstring(L" ") + topics::kManager);
         screen.Type(L"tw");
@@ -223,7 +222,7 @@ TEST_F(ManagerTest, KeysMenusAndDroppedFilesDoWhatTheButtonsDo) {
         screen.Keys({VK_ESCAPE});
         screen.WaitUntilClosed(manager);
     });
-    EXPECT_EQ(NamesIn(file), Rows{L"one"});
+    EXPECT_EQ(NamesInFile(file), Rows{L"one"});
 }
 
 TEST_F(ManagerTest, TheWindowGrowsButDoesNotShrink) {

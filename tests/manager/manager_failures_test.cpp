@@ -64,7 +64,7 @@ TEST_F(ManagerTest, WhatCannotBeOpenedOrSavedChangesNothing) {
         EXPECT_EQ(screen.AnswerBox(IDNO), kSaveQuestion);
         screen.WaitUntilClosed(manager);
     });
-    EXPECT_EQ(NamesIn(file), (Rows{L"one", L"two"}));
+    EXPECT_EQ(NamesInFile(file), (Rows{L"one", L"two"}));
 }
 
 TEST_F(ManagerTest, FailingHostObjectsLeaveListSelectionAndFileAlone) {

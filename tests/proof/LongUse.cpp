@@ -106,11 +106,11 @@ int LongUse(const Options& options) {
         return code == 0 && said.rfind("flat", 0) == 0;
     };
     std::string said;
-    const auto names = Openings::Names();
-    for (int dialog = -1; dialog < static_cast<int>(names.size()); ++dialog) {
+    const auto dialogs = Openings::Dialogs();
+    for (int dialog = -1; dialog < static_cast<int>(dialogs.size()); ++dialog) {
         const bool flat = isFlat(L"--dialog " + std::to_wstring(dialog) + L" --rounds " + rounds, said);
         std::printf("%s long use, %s, %s rounds: %s\n", flat ? "PROOF" : "  PROBLEM",
-                    dialog < 0 ? "loading and unloading" : names[static_cast<size_t>(dialog)],
+                    dialog < 0 ? "loading and unloading" : dialogs[static_cast<size_t>(dialog)].name,
                     test::Utf8(rounds).c_str(), said.c_str());
         problems += !flat;
     }

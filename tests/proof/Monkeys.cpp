@@ -185,7 +185,7 @@ int PlayMonkey(const Options& options) {
     const long wanted = options.Number(L"--inputs", 1000);
     const auto seed = static_cast<unsigned>(options.Number(L"--seed", 1));
     Monkey monkey(seed, options.Number(L"--raw", 0) != 0);
-    const size_t dialogs = Openings::Names().size();
+    const size_t dialogs = Openings::Dialogs().size();
     long inputs = 0;
     int problems = 0;
     for (size_t opening = seed; inputs < wanted; ++opening) {
@@ -193,7 +193,7 @@ int PlayMonkey(const Options& options) {
         {
             Openings openings;
             SetCurrentDirectoryW(openings.Folder().c_str());
-            std::printf("%s after %ld inputs\n", Openings::Names()[opening % dialogs], inputs);
+            std::printf("%s after %ld inputs\n", Openings::Dialogs()[opening % dialogs].name, inputs);
             test::RestartWatchdog();
             Actor actor(kPatience, [] {});
             openings.Open(opening % dialogs, actor, [&](Player& player, HWND window) {

@@ -11,24 +11,17 @@ namespace recoveryui::proof {
 namespace {
 
 constexpr wchar_t kWizard[] = L"Recovery Scenario Wizard", kProperties[] = L"Recovery Scenario Properties";
-constexpr const char* kNames[] = {"wizard",
-                                  "wizard, editing",
-                                  "manager",
-                                  "add dialog",
-                                  "tab",
-                                  "properties of a pop-up",
-                                  "properties of a state",
-                                  "properties of an error",
-                                  "properties of a crash"};
-constexpr const wchar_t* kTitles[] = {kWizard,
-                                      kWizard,
-                                      L"Recovery Scenario Manager",
-                                      L"Add Recovery Scenario",
-                                      L"Test Settings",
-                                      kProperties,
-                                      kProperties,
-                                      kProperties,
-                                      kProperties};
+constexpr Openings::Dialog kDialogs[] = {
+    {"wizard", kWizard},
+    {"wizard, editing", kWizard},
+    {"manager", L"Recovery Scenario Manager"},
+    {"add dialog", L"Add Recovery Scenario"},
+    {"tab", L"Test Settings"},
+    {"properties of a pop-up", kProperties},
+    {"properties of a state", kProperties},
+    {"properties of an error", kProperties},
+    {"properties of a crash", kProperties},
+};
 
 }  // namespace
 
@@ -36,13 +29,13 @@ Openings::Openings() {
     rack_.Put(L"HelpViewer", help_.Get());
 }
 
-std::span<const char* const> Openings::Names() {
-    return kNames;
+std::span<const Openings::Dialog> Openings::Dialogs() {
+    return kDialogs;
 }
 
 void Openings::Open(size_t dialog, Actor& actor, const Script& script) {
     actor.During([&] { return Show(dialog); },
-                 [&](Player& player) { script(player, player.First(kTitles[dialog])); });
+                 [&](Player& player) { script(player, player.First(kDialogs[dialog].title)); });
 }
 
 HRESULT Openings::Show(size_t dialog) {

@@ -14,8 +14,13 @@ class Openings : public Scene {
 public:
     using Script = std::function<void(Player& player, HWND window)>;
 
+    struct Dialog {
+        const char* name;
+        const wchar_t* title;
+    };
+
     Openings();
-    static std::span<const char* const> Names();
+    static std::span<const Dialog> Dialogs();
     // Opens the dialog of that place and lets the user have it.
     void Open(size_t dialog, Actor& actor, const Script& script);
 

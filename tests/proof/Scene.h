@@ -16,8 +16,7 @@
 
 namespace recoveryui::proof {
 
-inline constexpr int kFinish = 0x3025,
-                     kEditOfCombo = 1001;  // the platform's numbers in a wizard and a combo box
+using test::kEditOfCombo, test::kFinish;
 
 // A new object of a class. Throws HResultError.
 template <class Interface>

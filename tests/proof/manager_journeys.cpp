@@ -60,7 +60,7 @@ protected:
     void SaveAs(Player& player, HWND manager) {
         player.Try([&] {
             if (Read(second_) != L"no file") return;
-            player.Do([=] { SetFocus(GetDlgItem(manager, IDC_MANAGER_SAVE)); });
+            player.Focus(manager, IDC_MANAGER_SAVE);
             player.Keys({VK_F4});
             player.ChooseMenu(L"Save As");
             player.GiveFile(kSave, second_);

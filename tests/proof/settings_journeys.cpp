@@ -94,8 +94,7 @@ private:
         return SUCCEEDED(actor.During([&] { return sheet->DoModal(scenario_.Get(), file.Get(), name.Get()); },
                                       [&](Player& player) {
                                           const HWND window = player.First(L"Recovery Scenario Properties");
-                                          for (WPARAM tab : {1, 2, 3, 0})
-                                              player.Do([=] { SendMessageW(window, PSM_SETCURSEL, tab, 0); });
+                                          for (const int tab : {1, 2, 3, 0}) player.Turn(window, tab);
                                           player.Leave(window, IDOK);
                                       }));
     }

@@ -32,7 +32,6 @@ void SettingsTest::OpenSettings(const Story& story) {
 }
 
 void SettingsTest::EnterFile(UserScreen& screen, HWND dialog, const std::wstring& file) {
-    constexpr int kEditOfCombo = 1001;
     screen.Enter(dialog, kEditOfCombo, file);
     screen.Keys({VK_RETURN});
 }

@@ -78,7 +78,7 @@ TEST_F(AddDialogTest, AFileThatCannotBeOpenedLeavesTheListAndTakesTheButton) {
     MakeFile(L"empty.trs", {});
     const HRESULT result = Run([&](UserScreen& screen, HWND dialog) {
         const auto focus = [&](int control) {
-            screen.Do([=] { SetFocus(GetDlgItem(dialog, control)); });
+            screen.Focus(dialog, control);
             return screen.RowsOf(dialog, kList);
         };
         EnterFile(screen, dialog, L"");
@@ -94,17 +94,17 @@ TEST_F(AddDialogTest, AFileThatCannotBeOpenedLeavesTheListAndTakesTheButton) {
         EXPECT_EQ(screen.RowsOf(dialog, kList), Rows{});
         EXPECT_FALSE(screen.IsEnabled(dialog, IDOK));
         // Going on to the list means the file that was typed.
-        screen.Enter(dialog, 1001, L"f.trs");
+        screen.Enter(dialog, kEditOfCombo, L"f.trs");
         EXPECT_EQ(focus(kList), Rows{L"A"});
         // So does the Tab key, and the list after a look at the button between.
-        screen.Enter(dialog, 1001, L"empty.trs");
+        screen.Enter(dialog, kEditOfCombo, L"empty.trs");
         screen.RealKeys({VK_TAB});
         EXPECT_EQ(screen.RowsOf(dialog, kList), Rows{});
-        screen.Enter(dialog, 1001, L"f.trs");
+        screen.Enter(dialog, kEditOfCombo, L"f.trs");
         EXPECT_EQ(focus(IDC_ADD_SCENARIO_BROWSE), Rows{});
         EXPECT_EQ(focus(kList), Rows{L"A"});
         // Cancelling does not.
-        screen.Enter(dialog, 1001, L"nowhere.trs");
+        screen.Enter(dialog, kEditOfCombo, L"nowhere.trs");
         focus(IDCANCEL);
     });
     EXPECT_EQ(result, S_FALSE);

@@ -27,10 +27,6 @@ Rows Tabs(UserScreen& screen, HWND sheet) {
 
 constexpr int kTabs = 0x3020;
 
-void Turn(UserScreen& screen, HWND sheet, int page) {
-    screen.Do([=] { SendMessageW(sheet, PSM_SETCURSEL, static_cast<WPARAM>(page), 0); });
-}
-
 // Nothing on the page can be typed into, ticked or pressed.
 void ExpectReadOnly(UserScreen& screen, HWND sheet) {
     for (const HWND control : Descendants(screen.Page(sheet))) {
@@ -69,7 +65,7 @@ protected:
         };
         EXPECT_EQ(Use(L"Recovery Scenario Properties", show,
                       [&](UserScreen& screen, HWND sheet) {
-                          Turn(screen, sheet, page);
+                          screen.Turn(sheet, page);
                           EXPECT_EQ(screen.FocusId(), kTabs) << "no text is selected";
                           story(screen, sheet);
                           screen.Press(sheet, IDOK);
@@ -97,7 +93,7 @@ TEST_F(PropertiesSheetTest, AReaderLeafsThroughAPopUpScenarioAndChangesNothing) 
         EXPECT_EQ(screen.Text(sheet, IDC_GENERAL_DESCRIPTION), L"Somebody logged us out.\r\nLog in again.");
         screen.Picture(sheet, L"properties-general");
         ExpectReadOnly(screen, sheet);
-        Turn(screen, sheet, 1);
+        screen.Turn(sheet, 1);
         EXPECT_TRUE(screen.IsChecked(sheet, IDC_PROPERTIES_TITLE_CHECK));
         EXPECT_EQ(screen.Text(sheet, IDC_PROPERTIES_TITLE), L"Log.*");
         EXPECT_TRUE(screen.IsChecked(sheet, IDC_PROPERTIES_TITLE_REGEX));
@@ -108,7 +104,7 @@ TEST_F(PropertiesSheetTest, AReaderLeafsThroughAPopUpScenarioAndChangesNothing) 
         ExpectReadOnly(screen, sheet);
         constexpr wchar_t kTopic[] = L"Und_Recovery_Scenario_Properties_Dialog_Box.htm";
         for (int page = 0; page < 4; ++page) {
-            Turn(screen, sheet, page);
+            screen.Turn(sheet, page);
             screen.Press(sheet, IDHELP);
             screen.RealKeys({VK_F1});
             EXPECT_EQ(help_->Take(), kTopic + std::wstring(L" ") + kTopic);
@@ -202,7 +198,7 @@ TEST_F(PropertiesSheetTest, OperationsAndTheRestartAreListedAndForeignOnesPassed
             if (row.restart) operations.push_back(L"Restart Microsoft Windows | ");
             EXPECT_EQ(screen.RowsOf(sheet, IDC_PROPERTIES_OPERATIONS), operations);
             screen.Picture(sheet, L"properties-operations-" + std::to_wstring(row.option));
-            Turn(screen, sheet, 3);
+            screen.Turn(sheet, 3);
             EXPECT_EQ(screen.Text(sheet, IDC_PROPERTIES_OPTION), row.text);
             screen.Picture(sheet, L"properties-option-" + std::to_wstring(row.option));
             ExpectReadOnly(screen, sheet);

@@ -101,7 +101,7 @@ TEST_F(RecoveryTabTest, ScenariosOfTwoFilesAreAddedOrderedSwitchedOffAndFoundAga
         EXPECT_FALSE(screen.IsRowChecked(frame, kList, otherPopup));
         EXPECT_EQ(screen.Chosen(frame, IDC_RECOVERY_ACTIVATION), Rows{L"On every step"});
         for (const int id : {IDC_RECOVERY_ACTIVATION, kList}) {
-            screen.Do([control = screen.Control(frame, id)] { SetFocus(control); });
+            screen.Focus(frame, id);
             screen.RealKeys({VK_F1});
             EXPECT_EQ(help_->Take(), support::topics::kRecoveryTab) << id;
         }
@@ -153,7 +153,7 @@ TEST_F(RecoveryTabTest, AScenarioIsLookedForByItsLettersAndShownInItsSheet) {
     const std::wstring file = MakeFile(L"f.trs", {{L"Popup"}, {L"State of it"}, {L"Stop"}});
     settings_.Store(L"RecoveryScenarios", Variant(L"f.trs;Popup;1;1*f.trs;State of it;1;1*f.trs;Stop;1;1*"));
     OpenSettings([&](UserScreen& screen, HWND frame) {
-        screen.Do([list = screen.Control(frame, kList)] { SetFocus(list); });
+        screen.Focus(frame, kList);
         screen.Type(L"sto");
         EXPECT_EQ(screen.Chosen(frame, kList), Rows{L"Stop | " + file});
         screen.Press(frame, IDC_RECOVERY_DOWN);  // nowhere to go: nothing is changed

@@ -100,8 +100,7 @@ TEST_F(SettingsFrameTest, TheKeyboardReachesEveryTabAndEveryControl) {
     for (const auto& [key, stored] : {std::pair{VK_ESCAPE, kUnchanged}, std::pair{VK_RETURN, kChanged}}) {
         OpenSettings([key = key](UserScreen& screen, HWND frame) {
             Change(screen, frame);
-            screen.Do(
-                [description = screen.Control(frame, IDC_RECOVERY_DESCRIPTION)] { SetFocus(description); });
+            screen.Focus(frame, IDC_RECOVERY_DESCRIPTION);
             screen.Keys({static_cast<WORD>(key)});
             screen.WaitUntilClosed(frame);
         });

@@ -19,7 +19,6 @@
 namespace recoveryui::test {
 namespace {
 
-constexpr int kNextButton = 0x3024, kFinishButton = 0x3025;
 constexpr char kFile[] = R"({"formatVersion": 1, "scenarios": [
   {"name": "Close the box", "description": "before", "postRecoveryOption": 2,
    "trigger": {"kind": "popUp", "windowTitle": {"text": "Error", "regularExpression": 0},
@@ -78,8 +77,7 @@ protected:
             const HWND wizard = FindWindowW(nullptr, L"Recovery Scenario Wizard");
             const HWND page = reinterpret_cast<HWND>(SendMessageW(wizard, PSM_GETCURRENTPAGEHWND, 0, 0));
             // A wizard that is just being shown has not set its buttons yet.
-            if (!IsWindowVisible(page) || CanPress(wizard, kNextButton) == CanPress(wizard, kFinishButton))
-                continue;
+            if (!IsWindowVisible(page) || CanPress(wizard, kNext) == CanPress(wizard, kFinish)) continue;
             SendMessageW(wizard, PSM_PRESSBUTTON, answer(wizard, page), 0);
             PostMessageW(wizard, WM_NULL, 0, 0);  // its loop sees the end with the next message
         }
@@ -106,7 +104,7 @@ TEST_F(ScriptingTest, TheSampleEditsAScenarioAndReadsTheResults) {
         if (const HWND text = GetDlgItem(page, IDC_SCEN_DESCRIPTION)) SetText(text, L"after");
         if (const HWND another = GetDlgItem(page, IDC_OPERATION_LIST_ANOTHER))
             SendMessageW(another, BM_SETCHECK, BST_UNCHECKED, 0);
-        return CanPress(wizard, kFinishButton) ? PSBTN_FINISH : PSBTN_NEXT;
+        return CanPress(wizard, kFinish) ? PSBTN_FINISH : PSBTN_NEXT;
     };
     EXPECT_EQ(RunSample(walk), begin +
                                    "after: Renamed: trigger 1, 1 operations, option 2, \"after\"\n"

@@ -76,18 +76,6 @@ HWND Tour::OpenManager(UserScreen& screen, HWND host, const wchar_t* picture) {
     return screen.WaitForWindow(L"Recovery Scenario Manager");
 }
 
-Rows Tour::NamesInFile(const std::wstring& path) {
-    Rows names;
-    com::Ptr<IRecoveryRepository> repository;
-    com::Ptr<IScenarioEnumerator> enumerator;
-    EXPECT_EQ(com::Create(L"Vantrel.RecoveryRepository", repository), S_OK);
-    EXPECT_EQ(repository->Load(com::Bstr(path).Get(), VARIANT_TRUE), S_OK);
-    EXPECT_EQ(repository->GetScenarioEnumerator(enumerator.GetAddressOf()), S_OK);
-    com::Bstr name;
-    while (enumerator->Next(name.Put()) == S_OK) names.push_back(name.Text());
-    return names;
-}
-
 HRESULT Tour::OpenForEditing(const std::wstring& path) {
     com::Ptr<IRecoveryRepository> repository;
     EXPECT_EQ(com::Create(L"Vantrel.RecoveryRepository", repository), S_OK);

@@ -9,11 +9,13 @@
 
 #include "HostInterfaces.h"
 #include "com/Ptr.h"
+#include "harness/ComTest.h"
 #include "harness/UserScreen.h"
 #include "resources/ids.h"
 
 namespace recoveryui::tour {
 
+using test::NamesInFile;
 using test::Rows;
 using test::UserScreen;
 
@@ -37,8 +39,7 @@ protected:
     static void ChooseFromMenuBar(UserScreen& screen, HWND host, wchar_t letter, const std::wstring& item,
                                   const wchar_t* picture = nullptr);
     static HWND OpenManager(UserScreen& screen, HWND host, const wchar_t* picture = nullptr);
-    // What another program reads from a recovery file: the names of its scenarios.
-    static Rows NamesInFile(const std::wstring& path);
+    // What another program meets that wants the file for itself.
     static HRESULT OpenForEditing(const std::wstring& path);
 };
 

@@ -98,7 +98,7 @@ TEST_F(Afternoon, NothingIsLostBetweenFilesRivalsDamageAndAFullDisk) {
         // A hundred thousand scenarios.
         Open(screen, manager, L"many.trs");
         screen.WaitForWindow(L"Recovery Scenario Manager - many.trs");
-        screen.Do([manager] { SetFocus(GetDlgItem(manager, IDC_MANAGER_LIST)); });
+        screen.Focus(manager, IDC_MANAGER_LIST);
         screen.Keys({VK_END});
         EXPECT_EQ(screen.Text(manager, IDC_MANAGER_DESCRIPTION), L"About scenario 99999.");
         screen.Keys({VK_DELETE});

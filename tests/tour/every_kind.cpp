@@ -11,7 +11,7 @@
 namespace recoveryui::tour {
 namespace {
 
-constexpr int kEditOfCombo = 1001;
+using test::kEditOfCombo;
 
 // The application under test in a process of its own, for the pointing hand to point at.
 class Application {
@@ -84,7 +84,7 @@ protected:
                                   int page = 1) {
         screen.Press(manager, IDC_MANAGER_PROPERTIES);
         const HWND sheet = screen.WaitForWindow(L"Recovery Scenario Properties");
-        screen.Do([=] { PostMessageW(sheet, PSM_SETCURSEL, static_cast<WPARAM>(page), 0); });
+        screen.Turn(sheet, page);
         screen.Picture(sheet, picture);
         screen.Press(sheet, IDCANCEL);
         screen.WaitUntilClosed(sheet);

@@ -8,7 +8,7 @@
 namespace recoveryui::tour {
 namespace {
 
-constexpr int kEditOfCombo = 1001;
+using test::kEditOfCombo;
 // The host's settings frame and its demonstration tab; their header shares names with the component's.
 constexpr int kTabs = 0x3020, kApply = 0x3021, kSorRequire = 2200, kSorConfigured = 2201;
 

@@ -25,7 +25,7 @@ protected:
 
     // Presses Next on the first page until the page of that title is shown.
     static void NextUntil(UserScreen& screen, HWND wizard, const wchar_t* title);
-    static bool CanGoOn(UserScreen& screen, HWND wizard) { return screen.IsEnabled(wizard, 0x3024); }
+    static bool CanGoOn(UserScreen& screen, HWND wizard) { return screen.IsEnabled(wizard, kNext); }
     // From the list of operations to the page of an operation type.
     static void AddOperation(UserScreen& screen, HWND wizard, int radio);
     // From the welcome page to the list of operations with a pop-up trigger.

@@ -9,7 +9,6 @@ namespace recoveryui::test {
 namespace {
 
 constexpr const wchar_t* kPage = L"Recovery Operation - Function Call";
-constexpr int kComboEdit = 1001;  // the edit box inside every combo box
 constexpr const char* kLibrary =
     "Function Alpha(Object)\r\n  Log Object\r\nEnd Function\r\n\r\nSub Beta(a)\nEnd Sub\r\n";
 
@@ -37,7 +36,7 @@ protected:
         });
     }
     static void TypePath(UserScreen& screen, HWND wizard, const std::wstring& path) {
-        screen.Enter(screen.Control(wizard, IDC_FUNC_LIBRARY), kComboEdit, path);
+        screen.Enter(screen.Control(wizard, IDC_FUNC_LIBRARY), kEditOfCombo, path);
     }
     static void Load(UserScreen& screen, HWND wizard, const std::wstring& path) {
         TypePath(screen, wizard, path);
@@ -183,7 +182,7 @@ TEST_F(FunctionPageTest, KeysStayInTheTextAndLeaveItToTheWizard) {
         screen.Enter(wizard, IDC_FUNC_TEXT, L"");
         EXPECT_FALSE(CanGoOn(screen, wizard));
         screen.Keys({VK_TAB});
-        EXPECT_EQ(screen.FocusId(), 0x3023);
+        EXPECT_EQ(screen.FocusId(), kBack);
         screen.Enter(wizard, IDC_FUNC_TEXT, L"z");
         screen.Keys({VK_ESCAPE});
     });

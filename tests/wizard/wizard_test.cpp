@@ -115,18 +115,18 @@ TEST_F(WizardWalkTest, StaysOnThePageWhenAHostCallFails) {
     const HRESULT result = Run([&](UserScreen& screen, HWND wizard) {
         NextUntil(screen, wizard, L"Specify Pop-up Window Conditions");
         screen.Enter(wizard, IDC_POPUP_TITLE, L"Error");
-        stayOnce(screen, wizard, 0x3024,
+        stayOnce(screen, wizard, kNext,
                  {{L"Vantrel.PopUpRecoveryTrigger", L"Create"},
                   {L"PopUpRecoveryTrigger", L"SetWindowTitle"},
                   {L"PopUpRecoveryTrigger", L"SetPopUpOption"}});
         AddOperation(screen, wizard, IDC_SELECT_OPERATION_CLICK);
-        stayOnce(screen, wizard, 0x3024,
+        stayOnce(screen, wizard, kNext,
                  {{L"Vantrel.KeyBoardSimulatorRecoveryAction", L"Create"},
                   {L"KeyBoardSimulatorRecoveryAction", L"SetKeySequence"}});
         EXPECT_EQ(screen.RowsOf(wizard, IDC_OPERATION_LIST_ROWS).size(), 1u) << "failed attempts add nothing";
         screen.Check(wizard, IDC_OPERATION_LIST_ANOTHER, false);
         GoToSummary(screen, wizard, L"Popup");
-        stayOnce(screen, wizard, 0x3025,
+        stayOnce(screen, wizard, kFinish,
                  {{L"Vantrel.ReplayRecoveryScenario", L"Create"},
                   {L"RecoveryScenario", L"SetPostRecoveryOption"},
                   {L"RecoveryScenario", L"SetTrigger"},
