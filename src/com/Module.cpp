@@ -32,9 +32,6 @@ void Module::AddObject() noexcept {
 void Module::RemoveObject() noexcept {
     --objects;
 }
-LONG Module::ObjectCount() noexcept {
-    return objects;
-}
 void Module::Lock(bool lock) noexcept {
     lock ? ++locks : --locks;
 }

@@ -17,7 +17,6 @@ public:
     // Live COM objects and windows of this module.
     static void AddObject() noexcept;
     static void RemoveObject() noexcept;
-    static LONG ObjectCount() noexcept;
     static void Lock(bool lock) noexcept;
     // True when nothing lives and nobody holds a lock.
     static bool CanUnload() noexcept;

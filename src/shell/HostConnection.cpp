@@ -9,10 +9,6 @@
 
 namespace recoveryui::shell {
 
-HostConnection::HostConnection(HostConnection&& other) noexcept {
-    *this = std::move(other);
-}
-
 HostConnection& HostConnection::operator=(HostConnection&& other) noexcept {
     if (this == &other) return *this;
     Close();

@@ -12,7 +12,6 @@ namespace recoveryui::shell {
 class HostConnection {
 public:
     HostConnection() noexcept = default;
-    HostConnection(HostConnection&& other) noexcept;
     HostConnection& operator=(HostConnection&& other) noexcept;
     HostConnection(const HostConnection&) = delete;
     HostConnection& operator=(const HostConnection&) = delete;

@@ -108,14 +108,6 @@ void ListView::ClearSelection() const {
     }
 }
 
-int ListView::Find(const std::wstring& text, int after) const {
-    LVFINDINFOW find{};
-    find.flags = LVFI_STRING;
-    find.psz = text.c_str();
-    return static_cast<int>(
-        SendMessageW(window_, LVM_FINDITEMW, static_cast<WPARAM>(after), reinterpret_cast<LPARAM>(&find)));
-}
-
 void ListView::FitColumnToContents(int column) const {
     ListView_SetColumnWidth(window_, column, LVSCW_AUTOSIZE);
 }

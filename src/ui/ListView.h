@@ -34,8 +34,6 @@ public:
     // Makes it the only selected row, focused and in view; -1 clears the selection.
     void Select(int row) const;
     void ClearSelection() const;
-    // The first row with this text in its first column, ignoring case, after `after`; -1 for none.
-    int Find(const std::wstring& text, int after = -1) const;
 
     void FitColumnToContents(int column) const;
     void FitColumnToHeader(int column) const;

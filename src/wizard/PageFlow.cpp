@@ -38,10 +38,6 @@ constexpr Page kPages[] = {
 
 }  // namespace
 
-std::span<const Page> Pages() {
-    return kPages;
-}
-
 const Page& PageOf(int templateId) {
     for (const Page& page : kPages) {
         if (page.templateId == templateId) return page;

@@ -1,8 +1,6 @@
 // The pages of the wizard and the ways between them. A page is known by its dialog template.
 #pragma once
 
-#include <span>
-
 #include "model/Kinds.h"
 
 namespace recoveryui::wizard {
@@ -23,9 +21,6 @@ struct Page {
 
 // The operation types, in the order of their radio buttons.
 enum class OperationChoice { KeyboardOrMouse = 0, CloseProcess = 1, FunctionCall = 2, RestartWindows = 3 };
-
-// All pages in the order in which the sheet takes them.
-std::span<const Page> Pages();
 
 // One page; the template must be one of a page.
 const Page& PageOf(int templateId);

@@ -161,8 +161,11 @@ TEST_F(PropertiesSheetTest, ListsAndTreesAreShownInOrderAndCanBeCopied) {
         screen.Picture(sheet, L"properties-object-state");
         screen.Choose(sheet, IDC_PROPERTIES_TREE, L"Login");
         EXPECT_EQ(screen.RowsOf(sheet, IDC_PROPERTIES_GRID), Rows{L"text | Log in"});
-        screen.Choose(sheet, IDC_PROPERTIES_GRID, L"text");
         screen.RealKeys({VK_CONTROL, 'C'});
+        screen.WaitUntil("the object is copied", [] { return ClipboardText() == L"Login"; });
+        screen.Choose(sheet, IDC_PROPERTIES_GRID, L"text");
+        screen.RealKeys({VK_SHIFT, VK_F10});
+        screen.ChooseMenu(L"Copy");
         screen.WaitUntil("the row is copied", [] { return ClipboardText() == L"text\tLog in"; });
     });
     EXPECT_EQ(state->SetTestObject(FakeTestObject::Nested(40).Get()), S_OK);

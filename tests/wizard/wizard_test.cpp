@@ -60,7 +60,7 @@ TEST_F(WizardWalkTest, MakesAScenarioFromAPopUpAndTwoOperations) {
 
         screen.Choose(wizard, IDC_OPERATION_LIST_ROWS, L"Keyboard click | Control + Alt + D");
         screen.Press(wizard, IDC_OPERATION_LIST_DOWN);
-        screen.Press(wizard, IDC_OPERATION_LIST_UP);
+        screen.RealKeys({VK_MENU, VK_UP});
         EXPECT_EQ(screen.RowsOf(wizard, IDC_OPERATION_LIST_ROWS),
                   (Rows{L"Keyboard click | Control + Alt + D", L"Keyboard click | Enter",
                         L"Restart Microsoft Windows | "}));
@@ -72,7 +72,7 @@ TEST_F(WizardWalkTest, MakesAScenarioFromAPopUpAndTwoOperations) {
         screen.Picture(wizard, L"wizard-options-restart");
         screen.Back(wizard);
         screen.Choose(wizard, IDC_OPERATION_LIST_ROWS, L"Restart Microsoft Windows");
-        screen.Press(wizard, IDC_OPERATION_LIST_DELETE);
+        screen.RealKeys({VK_DELETE});
         screen.Next(wizard);
         screen.Check(wizard, IDC_TEST_FLOW_FIRST + 1);
         screen.Next(wizard);
