@@ -51,7 +51,17 @@ LONG WINAPI OnCrash(EXCEPTION_POINTERS* crash) {
         DWORD64 base = 0, establisher = 0;
         void* handlerData = nullptr;
         const PRUNTIME_FUNCTION function = RtlLookupFunctionEntry(frame.Rip, &base, nullptr);
-        if (!function) break;
+        if (!function) {
+            // A jump into nowhere: what is left on the stack tells where from.
+            const auto* const stack = reinterpret_cast<const DWORD64*>(frame.Rsp);
+            for (int i = 0; i < 400; ++i) {
+                DWORD64 at = 0;
+                if (!RtlLookupFunctionEntry(stack[i], &at, nullptr)) continue;
+                std::printf("%4d", i);
+                PrintPlace(stack[i]);
+            }
+            break;
+        }
         RtlVirtualUnwind(UNW_FLAG_NHANDLER, base, frame.Rip, function, &frame, &handlerData, &establisher,
                          nullptr);
     }

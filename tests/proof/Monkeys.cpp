@@ -55,12 +55,12 @@ private:
         return window && GetWindowLongPtrW(window, GWLP_HINSTANCE) ==
                              reinterpret_cast<LONG_PTR>(GetModuleHandleW(L"comdlg32.dll"));
     }
-    HWND ControlOf(HWND window) {
+    HWND ControlOf(HWND window, bool foreign) {
         for (int tries = 0; tries < 20 && !controls_.empty(); ++tries) {
             const HWND control = controls_[Below(static_cast<unsigned>(controls_.size()))];
             const int id = GetDlgCtrlID(control);
             // What ends a window is spared mostly, so that something happens before.
-            if ((id == IDCANCEL || id == IDOK) && Below(8)) continue;
+            if ((id == IDCANCEL || id == IDOK) && (Below(8) || foreign)) continue;
             if (IsWindowVisible(control) && IsWindowEnabled(control)) return control;
         }
         return window;
@@ -76,12 +76,14 @@ private:
         // What the platform itself shows is soon left again.
         const bool foreign =
             kind == L"#32768" || IsFileDialog(window) || IsFileDialog(GetWindow(window, GW_OWNER));
-        if (foreign && Below(4) == 0) return Leave(player, window);
+        if (foreign && Below(4) == 0)
+            return IsFileDialog(window) && kind == L"#32770" && Below(2) ? Choose(player, window)
+                                                                         : Leave(player, window);
         controls_ = test::Descendants(window);
         inputs_ += kInputsAtOnce - 1;
         for (int i = 0; i < kInputsAtOnce && IsWindow(window); ++i) {
-            const HWND control = ControlOf(window);
-            player.Do(raw_ && !foreign ? Message(window, control) : Input(control));
+            const HWND control = ControlOf(window, foreign);
+            player.Do(raw_ && !foreign ? Message(window, control) : Input(control, foreign));
         }
     }
     // As the system does it: keys go to the focus, and to no window that has been hidden with its page
@@ -90,6 +92,13 @@ private:
     static void PostKey(UINT message, WPARAM key, LPARAM more) {
         const HWND focus = GetFocus();
         if (focus && IsWindowVisible(focus)) PostMessageW(focus, message, key, more);
+    }
+    // The file of the opening, which the platform's dialog is left with; of the names that a monkey types
+    // there, some crash the platform where it remembers folders.
+    static void Choose(Player& player, HWND dialog) {
+        std::wstring folder(MAX_PATH, L'\0');
+        folder.resize(GetCurrentDirectoryW(MAX_PATH, folder.data()));
+        player.GiveFile(test::TextOf(dialog).c_str(), folder + L"\\file.trs");
     }
     void Leave(Player& player, HWND window) {
         player.Do([=] {
@@ -101,7 +110,8 @@ private:
         });
     }
 
-    std::function<void()> Input(HWND control) {
+    // What is foreign is not left this way.
+    std::function<void()> Input(HWND control, bool foreign) {
         constexpr WORD kKeys[] = {VK_TAB,    VK_RETURN, VK_ESCAPE, VK_SPACE, VK_UP,     VK_DOWN,
                                   VK_LEFT,   VK_RIGHT,  VK_HOME,   VK_END,   VK_DELETE, VK_F1,
                                   VK_INSERT, VK_F4,     VK_BACK,   VK_PRIOR};
@@ -110,14 +120,15 @@ private:
         RECT place{};
         GetClientRect(control, &place);
         const LPARAM at = MAKELPARAM(Below(std::max(1L, place.right)), Below(std::max(1L, place.bottom)));
-        const unsigned choice = Below(10);
-        const WORD key = OneOf(kKeys);
+        const unsigned choice = Below(10), doubled = foreign ? 4 : 5;
+        WORD key = OneOf(kKeys);
+        if (foreign && (key == VK_RETURN || key == VK_SPACE)) key = VK_TAB;
         const wchar_t letter = OneOf(kLetters);
         return [=] {
             if (choice < 4) {
                 PostMessageW(control, WM_LBUTTONDOWN, MK_LBUTTON, at);
                 PostMessageW(control, WM_LBUTTONUP, 0, at);
-            } else if (choice < 5) {
+            } else if (choice < doubled) {
                 PostMessageW(control, WM_LBUTTONDBLCLK, MK_LBUTTON, at);
                 PostMessageW(control, WM_LBUTTONUP, 0, at);
             } else if (choice < 7) {
@@ -186,9 +197,11 @@ int PlayMonkey(const Options& options) {
     const auto seed = static_cast<unsigned>(options.Number(L"--seed", 1));
     Monkey monkey(seed, options.Number(L"--raw", 0) != 0);
     const size_t dialogs = Openings::Dialogs().size();
+    const auto only = static_cast<size_t>(options.Number(L"--dialog", static_cast<long>(dialogs)));
     long inputs = 0;
     int problems = 0;
-    for (size_t opening = seed; inputs < wanted; ++opening) {
+    for (size_t opening = only < dialogs ? only : seed; inputs < wanted;
+         opening += only < dialogs ? dialogs : 1) {
         const Counts before = Counts::Take();
         {
             Openings openings;

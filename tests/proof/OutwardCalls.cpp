@@ -5,9 +5,13 @@
 #include <prsht.h>
 #include <uxtheme.h>
 
+#include <array>
+#include <atomic>
 #include <cstdlib>
+#include <cstring>
 #include <mutex>
 #include <unordered_map>
+#include <utility>
 
 #include "proof/ImportTable.h"
 
@@ -88,9 +92,16 @@ void* FailingRealloc(void* before, size_t bytes) {
     Remember(block, bytes, __builtin_return_address(0));
     return block;
 }
+// What is used after it was freed is to show itself: it is filled, and stays for a while.
+void LateFree(void* block) {
+    static std::array<void*, 4096>& freed = *new std::array<void*, 4096>{};
+    static std::atomic<size_t> next{0};
+    if (block) std::memset(block, 0xDD, _msize(block));
+    std::free(std::exchange(freed[next++ % freed.size()], block));
+}
 void WatchedFree(void* block) {
     if (block) Forget(block);
-    std::free(block);
+    LateFree(block);
 }
 
 struct Row {
@@ -191,6 +202,8 @@ void OutwardCalls::Catch(HMODULE module) {
     PutImport(module, "calloc", reinterpret_cast<void*>(&FailingCalloc));
     PutImport(module, "realloc", reinterpret_cast<void*>(&FailingRealloc));
     PutImport(module, "free", reinterpret_cast<void*>(&WatchedFree));
+    if (const HMODULE host = GetModuleHandleW(L"TovarinObjects.dll"))
+        PutImport(host, "free", reinterpret_cast<void*>(&LateFree));
 }
 
 void OutwardCalls::Order(const Fault& fault) {
