@@ -27,8 +27,10 @@ class Monkey {
 public:
     Monkey(unsigned seed, bool raw) : random_(seed), raw_(raw) {}
 
-    // Until the window is gone or the monkey has had enough of it; gives its inputs.
-    long Use(Player& player, HWND window) {
+    // Until the window is gone or the monkey has had enough of it; gives its inputs. `file` is what it
+    // chooses where a file is asked for.
+    long Use(Player& player, HWND window, const std::wstring& file) {
+        file_ = file;
         const long before = inputs_;
         while (inputs_ - before < kInputsOfOneOpening && IsWindow(window)) {
             test::RestartWatchdog();
@@ -51,16 +53,23 @@ private:
             if (IsWindowVisible(window) && IsWindowEnabled(window) && !active) active = window;
         return active;
     }
+    // The platform's file dialog shows the machine's own files, and deletes and renames them on a key: it
+    // gets nothing but a name or Cancel, nor does what it shows itself.
     static bool IsFileDialog(HWND window) {
         return window && GetWindowLongPtrW(window, GWLP_HINSTANCE) ==
                              reinterpret_cast<LONG_PTR>(GetModuleHandleW(L"comdlg32.dll"));
     }
-    HWND ControlOf(HWND window, bool foreign) {
+    static bool IsOfFileDialog(HWND window) {
+        for (; window; window = GetWindow(window, GW_OWNER))
+            if (IsFileDialog(window)) return true;
+        return false;
+    }
+    HWND ControlOf(HWND window) {
         for (int tries = 0; tries < 20 && !controls_.empty(); ++tries) {
             const HWND control = controls_[Below(static_cast<unsigned>(controls_.size()))];
             const int id = GetDlgCtrlID(control);
             // What ends a window is spared mostly, so that something happens before.
-            if ((id == IDCANCEL || id == IDOK) && (Below(8) || foreign)) continue;
+            if ((id == IDCANCEL || id == IDOK) && Below(8)) continue;
             if (IsWindowVisible(control) && IsWindowEnabled(control)) return control;
         }
         return window;
@@ -73,17 +82,18 @@ private:
         if (!window) return player.Do([] {});
         const std::wstring kind = test::ClassOf(window);
         if (kind == kHand || FindWindowW(kHand, nullptr)) return player.RealKeys({VK_ESCAPE});
-        // What the platform itself shows is soon left again.
-        const bool foreign =
-            kind == L"#32768" || IsFileDialog(window) || IsFileDialog(GetWindow(window, GW_OWNER));
-        if (foreign && Below(4) == 0)
-            return IsFileDialog(window) && kind == L"#32770" && Below(2) ? Choose(player, window)
-                                                                         : Leave(player, window);
+        if (IsOfFileDialog(window)) {
+            if (IsFileDialog(window) && kind == L"#32770" && Below(2))
+                return player.GiveFile(test::TextOf(window).c_str(), file_);
+            return Leave(player, window);
+        }
+        const bool isMenu = kind == L"#32768";
+        if (isMenu && Below(4) == 0) return Leave(player, window);
         controls_ = test::Descendants(window);
         inputs_ += kInputsAtOnce - 1;
         for (int i = 0; i < kInputsAtOnce && IsWindow(window); ++i) {
-            const HWND control = ControlOf(window, foreign);
-            player.Do(raw_ && !foreign ? Message(window, control) : Input(control, foreign));
+            const HWND control = ControlOf(window);
+            player.Do(raw_ && !isMenu ? Message(window, control) : Input(control));
         }
     }
     // As the system does it: keys go to the focus, and to no window that has been hidden with its page
@@ -91,27 +101,20 @@ private:
     // it is hidden.)
     static void PostKey(UINT message, WPARAM key, LPARAM more) {
         const HWND focus = GetFocus();
-        if (focus && IsWindowVisible(focus)) PostMessageW(focus, message, key, more);
-    }
-    // The file of the opening, which the platform's dialog is left with; of the names that a monkey types
-    // there, some crash the platform where it remembers folders.
-    static void Choose(Player& player, HWND dialog) {
-        std::wstring folder(MAX_PATH, L'\0');
-        folder.resize(GetCurrentDirectoryW(MAX_PATH, folder.data()));
-        player.GiveFile(test::TextOf(dialog).c_str(), folder + L"\\file.trs");
+        if (focus && IsWindowVisible(focus) && !IsOfFileDialog(GetAncestor(focus, GA_ROOT)))
+            PostMessageW(focus, message, key, more);
     }
     void Leave(Player& player, HWND window) {
         player.Do([=] {
             if (test::ClassOf(window) == L"#32768") {
                 PostMessageW(window, WM_KEYDOWN, VK_ESCAPE, 1);
             } else {
-                PostMessageW(window, WM_COMMAND, IDCANCEL, 0);
+                for (const WORD no : {IDCANCEL, IDNO}) PostMessageW(window, WM_COMMAND, no, 0);
             }
         });
     }
 
-    // What is foreign is not left this way.
-    std::function<void()> Input(HWND control, bool foreign) {
+    std::function<void()> Input(HWND control) {
         constexpr WORD kKeys[] = {VK_TAB,    VK_RETURN, VK_ESCAPE, VK_SPACE, VK_UP,     VK_DOWN,
                                   VK_LEFT,   VK_RIGHT,  VK_HOME,   VK_END,   VK_DELETE, VK_F1,
                                   VK_INSERT, VK_F4,     VK_BACK,   VK_PRIOR};
@@ -120,15 +123,14 @@ private:
         RECT place{};
         GetClientRect(control, &place);
         const LPARAM at = MAKELPARAM(Below(std::max(1L, place.right)), Below(std::max(1L, place.bottom)));
-        const unsigned choice = Below(10), doubled = foreign ? 4 : 5;
-        WORD key = OneOf(kKeys);
-        if (foreign && (key == VK_RETURN || key == VK_SPACE)) key = VK_TAB;
+        const unsigned choice = Below(10);
+        const WORD key = OneOf(kKeys);
         const wchar_t letter = OneOf(kLetters);
         return [=] {
             if (choice < 4) {
                 PostMessageW(control, WM_LBUTTONDOWN, MK_LBUTTON, at);
                 PostMessageW(control, WM_LBUTTONUP, 0, at);
-            } else if (choice < doubled) {
+            } else if (choice < 5) {
                 PostMessageW(control, WM_LBUTTONDBLCLK, MK_LBUTTON, at);
                 PostMessageW(control, WM_LBUTTONUP, 0, at);
             } else if (choice < 7) {
@@ -183,6 +185,7 @@ private:
     std::mt19937 random_;
     bool raw_;
     long inputs_ = 0;
+    std::wstring file_;
     std::vector<HWND> controls_;
 };
 
@@ -210,7 +213,7 @@ int PlayMonkey(const Options& options) {
             test::RestartWatchdog();
             Actor actor(kPatience, [] {});
             openings.Open(opening % dialogs, actor, [&](Player& player, HWND window) {
-                inputs += monkey.Use(player, window);
+                inputs += monkey.Use(player, window, openings.Folder() + L"\\file.trs");
                 if (options.Number(L"--plant", 0))
                     player.Do([] { RaiseException(EXCEPTION_ACCESS_VIOLATION, 0, 0, nullptr); });
             });

@@ -98,7 +98,9 @@ std::optional<std::wstring> Normalized(std::wstring_view path) {
 
 std::wstring Joined(std::wstring_view folder, std::wstring_view relative) {
     std::wstring path(folder);
-    if (!path.empty() && path.back() != L'\\' && path.back() != L':') path += L'\\';
+    // Of what ends in a colon, only a drive takes a name right behind it.
+    const bool isDrive = path.size() == 2 && path[1] == L':' && RootLength(path) == 2;
+    if (!path.empty() && path.back() != L'\\' && !isDrive) path += L'\\';
     return path.append(relative);
 }
 
