@@ -4,12 +4,24 @@
 
 #include "model/FileLocator.h"
 #include "model/OperationsList.h"
+#include "ui/Subclass.h"
 #include "ui/Window.h"
 
 namespace recoveryui::wizard {
 namespace {
+
 constexpr int kButtonIconSize = 16;
+
+// A list says nothing of keys that come with Alt.
+LRESULT CALLBACK RowsProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam) noexcept {
+    if (message != WM_SYSKEYDOWN || (wParam != VK_UP && wParam != VK_DOWN))
+        return ui::CallOwn(window, message, wParam, lParam);
+    const int button = wParam == VK_UP ? IDC_OPERATION_LIST_UP : IDC_OPERATION_LIST_DOWN;
+    PostMessageW(GetParent(window), WM_COMMAND, MAKEWPARAM(button, BN_CLICKED), 0);
+    return 0;
 }
+
+}  // namespace
 
 OperationListPP::OperationListPP(WizardPS& sheet) : WizardPPBase(sheet, IDD_OPERATION_LIST, true) {}
 
@@ -22,6 +34,7 @@ void OperationListPP::OnInit() {
     AddTip(IDC_OPERATION_LIST_DOWN, IDS_TIP_MOVE_DOWN);
     AddTip(IDC_OPERATION_LIST_DELETE, IDS_TIP_DELETE);
     model::SetUpOperationsList(Rows());
+    ui::PutBefore(Rows().Window(), &RowsProcedure);
 }
 
 void OperationListPP::OnActivate() {
@@ -58,10 +71,7 @@ bool OperationListPP::OnCommand(const ui::Command& command) {
 
 bool OperationListPP::OnNotify(NMHDR& header, LRESULT& answer) {
     if (header.code == LVN_KEYDOWN) {
-        const WORD key = reinterpret_cast<NMLVKEYDOWN&>(header).wVKey;
-        const bool alt = GetKeyState(VK_MENU) < 0;
-        if (key == VK_DELETE) Delete();
-        if (alt && (key == VK_UP || key == VK_DOWN)) Move(key == VK_UP);
+        if (reinterpret_cast<NMLVKEYDOWN&>(header).wVKey == VK_DELETE) Delete();
         return true;
     }
     return WizardPPBase::OnNotify(header, answer);

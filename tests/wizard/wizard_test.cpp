@@ -61,9 +61,10 @@ TEST_F(WizardWalkTest, MakesAScenarioFromAPopUpAndTwoOperations) {
         screen.Choose(wizard, IDC_OPERATION_LIST_ROWS, L"Keyboard click | Control + Alt + D");
         screen.Press(wizard, IDC_OPERATION_LIST_DOWN);
         screen.RealKeys({VK_MENU, VK_UP});
-        EXPECT_EQ(screen.RowsOf(wizard, IDC_OPERATION_LIST_ROWS),
-                  (Rows{L"Keyboard click | Control + Alt + D", L"Keyboard click | Enter",
-                        L"Restart Microsoft Windows | "}));
+        const Rows moved{L"Keyboard click | Control + Alt + D", L"Keyboard click | Enter",
+                         L"Restart Microsoft Windows | "};
+        screen.WaitUntil("the row moves up",
+                         [&] { return screen.RowsOf(wizard, IDC_OPERATION_LIST_ROWS) == moved; });
         EXPECT_EQ(screen.FocusId(), IDC_OPERATION_LIST_ROWS);
         screen.Check(wizard, IDC_OPERATION_LIST_ANOTHER, false);
         screen.Next(wizard);
@@ -73,6 +74,8 @@ TEST_F(WizardWalkTest, MakesAScenarioFromAPopUpAndTwoOperations) {
         screen.Back(wizard);
         screen.Choose(wizard, IDC_OPERATION_LIST_ROWS, L"Restart Microsoft Windows");
         screen.RealKeys({VK_DELETE});
+        screen.WaitUntil("the row is deleted",
+                         [&] { return screen.RowsOf(wizard, IDC_OPERATION_LIST_ROWS).size() == 2; });
         screen.Next(wizard);
         screen.Check(wizard, IDC_TEST_FLOW_FIRST + 1);
         screen.Next(wizard);
