@@ -6,8 +6,8 @@
 #include "resources/ids.h"
 #include "settings/CheckImages.h"
 #include "ui/Dpi.h"
+#include "ui/ListKeys.h"
 #include "ui/Strings.h"
-#include "ui/Subclass.h"
 
 namespace recoveryui::settings {
 namespace {
@@ -17,10 +17,7 @@ constexpr int kMeasuredNames = 30;
 enum Column { kNameColumn, kFileColumn };
 enum StateImage : UINT { kUnchecked = 1, kChecked = 2 };
 
-// The command for a key of the list, 0 for none.
-int CommandOf(UINT message, WPARAM key) noexcept {
-    const bool alt = message == WM_SYSKEYDOWN;
-    if (message != WM_KEYDOWN && !alt) return 0;
+int CommandOf(WPARAM key, bool alt) noexcept {
     switch (key) {
         case VK_UP: return alt ? IDC_RECOVERY_UP : 0;
         case VK_DOWN: return alt ? IDC_RECOVERY_DOWN : 0;
@@ -120,13 +117,9 @@ int AssociationView::ClickedCheckBox(const NMITEMACTIVATE& click) const {
 
 LRESULT CALLBACK AssociationView::KeyProcedure(HWND window, UINT message, WPARAM wParam,
                                                LPARAM lParam) noexcept {
-    if (const int command = CommandOf(message, wParam)) {
-        SendMessageW(GetParent(window), WM_COMMAND, static_cast<WPARAM>(command), 0);
-        return 0;
-    }
     // The blank has done its work; it is not looked for.
     if (message == WM_CHAR && wParam == L' ') return 0;
-    return ui::CallOwn(window, message, wParam, lParam);
+    return ui::KeysToCommands<&CommandOf>(window, message, wParam, lParam);
 }
 
 }  // namespace recoveryui::settings

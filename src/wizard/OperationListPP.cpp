@@ -4,7 +4,7 @@
 
 #include "model/FileLocator.h"
 #include "model/OperationsList.h"
-#include "ui/Subclass.h"
+#include "ui/ListKeys.h"
 #include "ui/Window.h"
 
 namespace recoveryui::wizard {
@@ -12,13 +12,13 @@ namespace {
 
 constexpr int kButtonIconSize = 16;
 
-// A list says nothing of keys that come with Alt.
-LRESULT CALLBACK RowsProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam) noexcept {
-    if (message != WM_SYSKEYDOWN || (wParam != VK_UP && wParam != VK_DOWN))
-        return ui::CallOwn(window, message, wParam, lParam);
-    const int button = wParam == VK_UP ? IDC_OPERATION_LIST_UP : IDC_OPERATION_LIST_DOWN;
-    PostMessageW(GetParent(window), WM_COMMAND, MAKEWPARAM(button, BN_CLICKED), 0);
-    return 0;
+int CommandOf(WPARAM key, bool alt) noexcept {
+    switch (key) {
+        case VK_UP: return alt ? IDC_OPERATION_LIST_UP : 0;
+        case VK_DOWN: return alt ? IDC_OPERATION_LIST_DOWN : 0;
+        case VK_DELETE: return alt ? 0 : IDC_OPERATION_LIST_DELETE;
+        default: return 0;
+    }
 }
 
 }  // namespace
@@ -34,7 +34,7 @@ void OperationListPP::OnInit() {
     AddTip(IDC_OPERATION_LIST_DOWN, IDS_TIP_MOVE_DOWN);
     AddTip(IDC_OPERATION_LIST_DELETE, IDS_TIP_DELETE);
     model::SetUpOperationsList(Rows());
-    ui::PutBefore(Rows().Window(), &RowsProcedure);
+    ui::PutBefore(Rows().Window(), &ui::KeysToCommands<&CommandOf>);
 }
 
 void OperationListPP::OnActivate() {
@@ -67,14 +67,6 @@ bool OperationListPP::OnCommand(const ui::Command& command) {
         case IDC_OPERATION_LIST_DELETE: Delete(); return true;
         default: return WizardPPBase::OnCommand(command);
     }
-}
-
-bool OperationListPP::OnNotify(NMHDR& header, LRESULT& answer) {
-    if (header.code == LVN_KEYDOWN) {
-        if (reinterpret_cast<NMLVKEYDOWN&>(header).wVKey == VK_DELETE) Delete();
-        return true;
-    }
-    return WizardPPBase::OnNotify(header, answer);
 }
 
 void OperationListPP::Move(bool up) {

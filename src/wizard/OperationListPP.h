@@ -16,7 +16,6 @@ private:
     void OnInit() override;
     void OnActivate() override;
     bool OnCommand(const ui::Command& command) override;
-    bool OnNotify(NMHDR& header, LRESULT& answer) override;
     Leave OnNext() override;
     Leave OnBack() override;
 
@@ -27,7 +26,6 @@ private:
     void Move(bool up);
     void Delete();
     void ForgetNewFunction(IRecoveryAction* operation);
-
 };
 
 }  // namespace recoveryui::wizard

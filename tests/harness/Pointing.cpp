@@ -19,7 +19,7 @@ RECT PlaceOf(HWND window) {
 bool IsHandOut(const RECT* wanted) {
     for (const HWND window : TopLevelWindows()) {
         const RECT place = PlaceOf(window);
-        if (ClassOf(window) == L"TovarinPointingHand" && IsWindowVisible(window) &&
+        if (ClassOf(window) == kHandClass && IsWindowVisible(window) &&
             (!wanted || EqualRect(&place, wanted)))
             return true;
     }

@@ -5,6 +5,8 @@
 
 namespace recoveryui::test {
 
+inline constexpr wchar_t kHandClass[] = L"TovarinPointingHand";  // of its windows
+
 POINT MiddleOf(HWND window);
 // Moves the mouse to the middle of the window, until the hand frames it.
 void Hover(UserScreen& screen, HWND window);

@@ -53,13 +53,12 @@ LONG WINAPI OnCrash(EXCEPTION_POINTERS* crash) {
         const PRUNTIME_FUNCTION function = RtlLookupFunctionEntry(frame.Rip, &base, nullptr);
         if (!function) {
             // A jump into nowhere: what is left on the stack tells where from.
-            const auto* const stack = reinterpret_cast<const DWORD64*>(frame.Rsp);
-            for (int i = 0; i < 400; ++i) {
-                DWORD64 at = 0;
-                if (!RtlLookupFunctionEntry(stack[i], &at, nullptr)) continue;
-                std::printf("%4d", i);
-                PrintPlace(stack[i]);
-            }
+            MEMORY_BASIC_INFORMATION stack{};
+            VirtualQuery(reinterpret_cast<void*>(frame.Rsp), &stack, sizeof stack);
+            const auto* word = reinterpret_cast<const DWORD64*>(frame.Rsp);
+            const void* const end = static_cast<const char*>(stack.BaseAddress) + stack.RegionSize;
+            for (int left = 400; left > 0 && word < end; --left, ++word)
+                if (RtlLookupFunctionEntry(*word, &base, nullptr)) PrintPlace(*word);
             break;
         }
         RtlVirtualUnwind(UNW_FLAG_NHANDLER, base, frame.Rip, function, &frame, &handlerData, &establisher,

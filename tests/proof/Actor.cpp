@@ -3,13 +3,13 @@
 #include <algorithm>
 #include <stdexcept>
 
+#include "harness/Pointing.h"
 #include "harness/ProcessWindows.h"
 
 namespace recoveryui::proof {
 namespace {
 
 constexpr int kTries = 3;
-constexpr wchar_t kHand[] = L"TovarinPointingHand";
 constexpr DWORD kHandComes = 1500;
 constexpr ULONGLONG kHang = 5000;
 // What the harness says when the message loop stands still.
@@ -86,17 +86,16 @@ void Player::Fill(HWND window, int id, const std::wstring& text) {
 
 void Player::PointAt(HWND wizard, int hand, HWND target) {
     Try([&] {
-        RECT place{};
-        GetWindowRect(target, &place);
         Press(wizard, hand);
         // The hand comes a while after it was asked for.
         SetPatience(std::max(patience_, kHandComes));
         WaitUntil("the hand, or what is wrong",
-                  [] { return FindWindowW(kHand, nullptr) || test::FindBox(); });
+                  [] { return FindWindowW(test::kHandClass, nullptr) || test::FindBox(); });
         SetPatience(patience_);
-        SetCursorPos((place.left + place.right) / 2, place.bottom - 8);
-        for (const DWORD event : {MOUSEEVENTF_LEFTDOWN, MOUSEEVENTF_LEFTUP}) mouse_event(event, 0, 0, 0, 0);
-        WaitUntil("the hand is back", [] { return !FindWindowW(kHand, nullptr); });
+        const POINT middle = test::MiddleOf(target);
+        SetCursorPos(middle.x, middle.y);
+        test::Click();
+        WaitUntil("the hand is back", [] { return !FindWindowW(test::kHandClass, nullptr); });
         Do([] {});
     });
 }
@@ -160,7 +159,7 @@ void Actor::CloseAll(const test::UiThread& ui) {
             lifted = true;
         }
         // Nothing but Escape ends the pointing hand, which comes a while after it was asked for.
-        if (FindWindowW(kHand, nullptr)) {
+        if (FindWindowW(test::kHandClass, nullptr)) {
             keybd_event(VK_ESCAPE, 1, 0, 0);
             keybd_event(VK_ESCAPE, 1, KEYEVENTF_KEYUP, 0);
         }

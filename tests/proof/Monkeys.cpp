@@ -10,6 +10,7 @@
 #include <vector>
 
 #include "harness/Children.h"
+#include "harness/Pointing.h"
 #include "harness/ProcessWindows.h"
 #include "proof/Counts.h"
 #include "proof/Openings.h"
@@ -21,7 +22,6 @@ namespace {
 constexpr DWORD kPatience = 15'000;
 constexpr int kInputsOfOneOpening = 400, kInputsAtOnce = 8;
 constexpr DWORD kCrashed = 99;  // the exit code of a process that crashed
-constexpr wchar_t kHand[] = L"TovarinPointingHand";
 
 class Monkey {
 public:
@@ -81,7 +81,8 @@ private:
         ++inputs_;
         if (!window) return player.Do([] {});
         const std::wstring kind = test::ClassOf(window);
-        if (kind == kHand || FindWindowW(kHand, nullptr)) return player.RealKeys({VK_ESCAPE});
+        if (kind == test::kHandClass || FindWindowW(test::kHandClass, nullptr))
+            return player.RealKeys({VK_ESCAPE});
         if (IsOfFileDialog(window)) {
             if (IsFileDialog(window) && kind == L"#32770" && Below(2))
                 return player.GiveFile(test::TextOf(window).c_str(), file_);
