@@ -1,6 +1,5 @@
 #include "wizard/PointingHand.h"
 
-#include <ranges>
 
 #include "HostInterfaces.h"
 #include "com/Create.h"
@@ -41,8 +40,8 @@ private:
 
     // The sheet is the last that appears again, so that no owner covers it.
     void Move(int left) const noexcept {
-        for (const Place& place : std::views::reverse(windows_))
-            SetWindowPos(place.window, nullptr, place.corner.x - left, place.corner.y, 0, 0,
+        for (auto place = windows_.rbegin(); place != windows_.rend(); ++place)
+            SetWindowPos(place->window, nullptr, place->corner.x - left, place->corner.y, 0, 0,
                          SWP_NOSIZE | SWP_NOZORDER | SWP_NOOWNERZORDER | SWP_NOACTIVATE);
     }
 
