@@ -1,6 +1,5 @@
 #include "wizard/PointingHand.h"
 
-
 #include "HostInterfaces.h"
 #include "com/Create.h"
 #include "com/Guard.h"
