@@ -80,12 +80,6 @@ TEST_F(HostServices, TheLocatorLooksInTheTestsFolderThenInTheProducts) {
     EXPECT_EQ(locator->HandBack(Bstr(test + L"\\both.vbs").Get()), E_INVALIDARG);
     folders->SetRepositoryFolder(nullptr);
     EXPECT_EQ(locate(L"[Brevalon] b.vbs"), L"[Brevalon] b.vbs");
-
-    const auto manager = New<IPluginMgr>(L"Tovarin.PluginMgr");
-    com::Ptr<IFileLocator> offered;
-    com::Query<IPluginMgrControl>(manager.Get())->SetFileLocator(locator.Get());
-    EXPECT_EQ(manager->GetFileLocator(offered.GetAddressOf()), S_OK);
-    EXPECT_EQ(offered.Get(), locator.Get());
 }
 
 class HostOptions : public HostServices {
@@ -186,11 +180,6 @@ protected:
         }
         return bytes;
     }
-    // Whether somebody else can open the file so; it is closed again.
-    static bool CanOpen(const std::wstring& path, DWORD access, DWORD share) {
-        const HANDLE file = CreateFileW(path.c_str(), access, share, nullptr, OPEN_EXISTING, 0, nullptr);
-        return file != INVALID_HANDLE_VALUE && CloseHandle(file);
-    }
 
     com::Ptr<IVBScriptParser> parser_ = New<IVBScriptParser>(L"Vantrel.VBScriptParser");
 };
@@ -212,28 +201,7 @@ TEST_F(HostLibraries, ALibraryIsReadInEveryUsualEncoding) {
         EXPECT_EQ(Names(MakeFile(L"lib.vbs", bytes)), names) << bytes;
         EXPECT_EQ(parser_->Close(), S_OK);
     }
-}
-
-TEST_F(HostLibraries, AnOpenLibraryCanBeAppendedToAndAMissingOneIsNotFound) {
-    com::CVtlSafeArray<VARIANT> list;
-    EXPECT_EQ(parser_->GetFunctions(list.Put()), E_UNEXPECTED);
-    const std::wstring path = MakeFile(L"lib.vbs", "Sub A\nEnd Sub\nFunction B: End Function");
-    EXPECT_EQ(Names(path), L"A;B;");
-    EXPECT_TRUE(CanOpen(path, FILE_APPEND_DATA, FILE_SHARE_READ));
     EXPECT_EQ(Names(folder_ / L"none.vbs"), L"STG_E_FILENOTFOUND");
-    EXPECT_EQ(Names(folder_ / L"none\\lib.vbs"), L"STG_E_PATHNOTFOUND");
-    EXPECT_EQ(parser_->GetFunctions(list.Put()), E_UNEXPECTED);
-
-    // A function outlives its library.
-    EXPECT_EQ(parser_->Open(Bstr(path).Get()), S_OK);
-    EXPECT_EQ(parser_->GetFunctions(list.Put()), S_OK);
-    EXPECT_EQ(parser_->Close(), S_OK);
-    Variant function;
-    Bstr text;
-    EXPECT_EQ(list.GetElement(1, &function), S_OK);
-    EXPECT_EQ(com::Query<IScriptFunction>(function.Object())->GetText(text.Put()), S_OK);
-    EXPECT_EQ(text.View(), L"Function B: End Function");
-    EXPECT_TRUE(CanOpen(path, GENERIC_READ | DELETE, 0)) << "a closed library is still held";
 }
 
 }  // namespace

@@ -3,6 +3,8 @@
 
 #include <windows.h>
 
+#include <fstream>
+#include <iterator>
 #include <string>
 
 #include "objects/Paths.h"
@@ -31,23 +33,11 @@ public:
     }
 
     static std::string Read(const std::wstring& path) {
-        std::string bytes;
-        const HANDLE file =
-            CreateFileW(LongPath(path).c_str(), GENERIC_READ, FILE_SHARE_READ | FILE_SHARE_WRITE, nullptr,
-                        OPEN_EXISTING, 0, nullptr);
-        if (file == INVALID_HANDLE_VALUE) return "no file";
-        bytes.resize(GetFileSize(file, nullptr));
-        DWORD read = 0;
-        ReadFile(file, bytes.data(), static_cast<DWORD>(bytes.size()), &read, nullptr);
-        CloseHandle(file);
-        return bytes;
+        std::ifstream file(LongPath(path).c_str(), std::ios::binary);
+        return file ? std::string(std::istreambuf_iterator<char>(file), {}) : "no file";
     }
     static void Write(const std::wstring& path, const std::string& bytes) {
-        const HANDLE file =
-            CreateFileW(LongPath(path).c_str(), GENERIC_WRITE, 0, nullptr, CREATE_ALWAYS, 0, nullptr);
-        DWORD written = 0;
-        WriteFile(file, bytes.data(), static_cast<DWORD>(bytes.size()), &written, nullptr);
-        CloseHandle(file);
+        std::ofstream(LongPath(path).c_str(), std::ios::binary) << bytes;
     }
 
 private:

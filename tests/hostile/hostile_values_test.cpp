@@ -3,8 +3,6 @@
 
 #include <commctrl.h>
 
-#include <filesystem>
-
 #include "com/Object.h"
 #include "manager/ManagerTest.h"
 #include "objects/services/NamedMembers.h"
@@ -108,7 +106,7 @@ TEST_F(HostileOptionsTest, TheTabOpensOnOptionsOfEveryType) {
     }
 }
 
-class HostileFilesTest : public ManagerTest {};
+using HostileFilesTest = ManagerTest;
 
 TEST_F(HostileFilesTest, NamesWithNulsAreDifferentScenarios) {
     const std::wstring first(L"n\0a", 3), second(L"n\0b", 3);
@@ -124,28 +122,6 @@ TEST_F(HostileFilesTest, NamesWithNulsAreDifferentScenarios) {
         EXPECT_EQ(screen.AnswerBox(IDYES), kSaveQuestion);
     });
     EXPECT_EQ(NamesInFile(file), (Rows{second, L"n"}));
-}
-
-TEST_F(HostileFilesTest, AForeignOrHugeFileIsRefusedAndLeftAsItIs) {
-    const std::wstring huge = Path(L"huge.trs"), program = Path(L"program.trs");
-    const HANDLE file = CreateFileW(huge.c_str(), GENERIC_WRITE, 0, nullptr, CREATE_ALWAYS, 0, nullptr);
-    LARGE_INTEGER size{};
-    size.QuadPart = 3LL << 30;
-    EXPECT_TRUE(SetFilePointerEx(file, size, nullptr, FILE_BEGIN) && SetEndOfFile(file));
-    CloseHandle(file);
-    wchar_t itself[MAX_PATH] = L"";
-    GetModuleFileNameW(GetModuleHandleW(L"RecoveryUI.dll"), itself, MAX_PATH);
-    ASSERT_TRUE(CopyFileW(itself, program.c_str(), FALSE));
-
-    const auto repository = Load(MakeFile(L"kept.trs", {L"kept"}), false);
-    for (const std::wstring& path : {huge, program}) {
-        for (const VARIANT_BOOL readOnly : {VARIANT_TRUE, VARIANT_FALSE})
-            EXPECT_EQ(repository->Load(com::Bstr(path).Get(), readOnly), STG_E_DOCFILECORRUPT);
-        com::Ptr<IUnknown> kept;
-        EXPECT_EQ(repository->GetScenario(com::Bstr(L"kept").Get(), kept.GetAddressOf()), S_OK);
-        EXPECT_TRUE(kept);
-    }
-    EXPECT_EQ(std::filesystem::file_size(huge), 3ull << 30);
 }
 
 }  // namespace
