@@ -2,13 +2,9 @@
 #include <gtest/gtest.h>
 
 #include "manager/AddedScenarios.h"
-#include "manager/CommandStates.h"
 #include "manager/OpenResult.h"
-#include "manager/SaveQuestion.h"
 #include "manager/StorePlan.h"
-#include "manager/TestLists.h"
 #include "model/FailureCodes.h"
-#include "model/NameSearch.h"
 #include "resources/ids.h"
 
 #ifdef _WIN32
@@ -57,55 +53,6 @@ TEST(StoringTheWizardsScenario, ARenameLeavesNoOldName) {
     EXPECT_EQ(PlanStore(L"A", L"a"), (StorePlan{.removeOldFirst = true, .replace = true}));
 }
 
-TEST(AddingToTheTest, AppendsWhatIsNotThere) {
-    using Names = std::vector<std::wstring>;
-    const struct {
-        const wchar_t* stored;
-        Names names;
-        std::optional<std::wstring> written;
-    } cases[] = {
-        {L"", {L"P", L"Q", L"P"}, L"f;P;1;ffffffff*f;Q;1;ffffffff*"},
-        {L"g;P;0;1*f;Q;0;ffffffff*", {L"P", L"Q"}, L"g;P;0;1*f;Q;0;ffffffff*f;P;1;1*"},
-        {L"f;P;0;1*", {L"P"}, std::nullopt},
-        {L"f;P;0;1*", {}, std::nullopt},
-        {L"f;P;0;1*torn;", {L"Q"}, L"f;P;0;1*f;Q;1;1*"},
-    };
-    for (const auto& c : cases) EXPECT_TRUE(WithScenarios(c.stored, L"f", c.names) == c.written);
-}
-
-// One letter per command that is enabled, in the order of Command.
-std::string Enabled(const ManagerState& state) {
-    const std::string letters = "NOSAnEPCVDX";
-    std::string enabled;
-    for (int i = 0; i < kCommands; ++i)
-        if (IsEnabled(static_cast<Command>(i), state)) enabled += letters[i];
-    return enabled;
-}
-
-TEST(CommandStates, FollowFileSelectionAndClipboard) {
-    const struct {
-        const char* why;
-        ManagerState state;
-        const char* enabled;
-    } cases[] = {
-        {"just opened", {}, "NOSAnX"},
-        {"a row selected", {.rowSelected = true}, "NOSAnEPCDX"},
-        {"something copied, no row", {.clipboardFull = true}, "NOSAnVX"},
-        {"a row and a copy", {.rowSelected = true, .clipboardFull = true}, "NOSAnEPCVDX"},
-        {"a saved file", {.untitled = false}, "NOAnX"},
-        {"a changed file", {.untitled = false, .dirty = true}, "NOSAnX"},
-        {"read-only", {.readOnly = true, .clipboardFull = true, .untitled = false}, "NOAX"},
-        {"read-only, a row",
-         {.readOnly = true, .rowSelected = true, .clipboardFull = true, .untitled = false},
-         "NOAPX"},
-        {"no repository", {.hasRepository = false}, "NOnX"},
-    };
-    for (const auto& c : cases) EXPECT_EQ(Enabled(c.state), c.enabled) << c.why;
-    EXPECT_EQ(StepOfSave({.untitled = true}), SaveStep::AskForPath);
-    EXPECT_EQ(StepOfSave({.untitled = false, .dirty = true}), SaveStep::Write);
-    EXPECT_EQ(StepOfSave({.readOnly = true, .untitled = false, .dirty = true}), SaveStep::Nothing);
-}
-
 using Files = std::vector<AddedScenarios::File>;
 
 TEST(AddedScenarios, FollowTheScenarioUntilItsFileIsSavedAndLeft) {
@@ -136,31 +83,6 @@ TEST(AddedScenarios, FollowTheScenarioUntilItsFileIsSavedAndLeft) {
     ASSERT_EQ(added.ForCurrent().size(), 2u);
     EXPECT_EQ(added.ForCurrent()[1], (AddedScenarios::File{L"C:\\c.trs", {L"second"}}));
     EXPECT_EQ(added.ForDefault().size(), 1u);
-}
-
-TEST(NameSearch, FindsWhatIsTypedFromARowOn) {
-    const std::wstring names[] = {L"Popup", L"crash", L"Crashed", L"popup 2"};
-    const auto nameAt = [&](int row) { return std::wstring_view(names[row]); };
-    const struct {
-        const wchar_t* text;
-        int start;
-        model::NameSearch how;
-        int row;
-    } cases[] = {
-        {L"c", 0, {}, 1},
-        {L"C", 2, {}, 2},
-        {L"c", 3, {}, 1},
-        {L"c", 3, {.wrap = false}, -1},
-        {L"crashed", 0, {}, 2},
-        {L"p", -1, {}, 0},
-        {L"p", 99, {}, 0},
-        {L"POPUP", 1, {.prefix = false}, 0},
-        {L"popup 22", 0, {}, -1},
-        {L"x", 2, {}, -1},
-        {L"pop", 0, {.prefix = false}, -1},
-    };
-    for (const auto& c : cases)
-        EXPECT_EQ(model::FindName(4, nameAt, c.text, c.start, c.how), c.row) << c.text << c.start;
 }
 
 }  // namespace

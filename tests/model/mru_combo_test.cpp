@@ -61,7 +61,8 @@ TEST_F(MruComboTest, WhatWasUsedIsOfferedNextTimeTheLatestFirst) {
         combo_.AddString(path);
     EXPECT_EQ(Entries(), L"C.VBS|e.vbs|d.vbs|b.vbs|");
     EXPECT_EQ(combo_.AddString(L"C.v"), 0);
-    EXPECT_EQ(combo_.InsertString(4, L"z"), CB_ERR);
+    for (const int nowhere : {-1, 4}) EXPECT_EQ(combo_.InsertString(nowhere, L"z"), CB_ERR);
+    EXPECT_EQ(combo_.InsertString(2, L""), CB_ERR);
     EXPECT_EQ(combo_.InsertString(2, L"z;y"), 2);
     Close();
     DWORD type = 0, size = 0;

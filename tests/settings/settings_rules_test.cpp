@@ -1,50 +1,10 @@
-// What the Recovery tab and its frame decide, without a window.
+// What the settings frame does with its commands, without a window.
 #include <gtest/gtest.h>
 
-#include "settings/AssociationList.h"
-#include "settings/ChangedMark.h"
 #include "settings/FrameProtocol.h"
-#include "settings/TabButtons.h"
 
 namespace recoveryui::settings {
 namespace {
-
-TEST(RecoveryTab, TheSameScenarioOfTheSameFileIsAddedOnce) {
-    AssociationList list({{L"f", L"A", true, 1}, {L"f", L"B", false, -1}, {L"g", L"A", true, 1}});
-    const struct {
-        const wchar_t *file, *name;
-        AddResult result;
-    } added[] = {
-        {L"f", L"A", AddResult::AlreadyAssociated},  {L"f", L"a", AddResult::Added},
-        {L"F", L"A", AddResult::AddedFromOtherFile}, {L"g", L"B", AddResult::AddedFromOtherFile},
-        {L"f", L"a", AddResult::AlreadyAssociated},
-    };
-    for (const auto& a : added) EXPECT_EQ(list.Add(a.file, a.name), a.result) << &a - added;
-    std::wstring shown;
-    for (const auto& item : list.Items()) shown.append(item.file).append(L"/").append(item.name).append(L" ");
-    EXPECT_EQ(shown, L"f/A f/B g/A f/a F/A g/B ");
-    list.Remove(0);
-    EXPECT_EQ(list.Add(L"f", L"A"), AddResult::AddedFromOtherFile) << "removed, it can be added again";
-}
-
-TEST(RecoveryTab, ButtonsFollowTheSelectedRowAndAMarkTellsTheFrame) {
-    const TabButtons onlyAdd, all{true, true, true, true, true}, unreadable{true, true, true, true, false};
-    const struct {
-        int rows, selected;
-        std::optional<std::int32_t> kind;
-        TabButtons buttons;
-    } cases[] = {
-        {0, kNoRow, 0, onlyAdd}, {0, 0, 0, onlyAdd},     {2, kNoRow, 0, onlyAdd},
-        {2, 2, 0, onlyAdd},      {2, 0, 0, all},         {2, 1, 3, all},
-        {2, 1, 4, unreadable},   {2, 1, -1, unreadable}, {2, 1, std::nullopt, unreadable},
-    };
-    for (const auto& c : cases)
-        EXPECT_EQ(ButtonsFor(c.rows, c.selected, IconOf(c.kind)), c.buttons) << &c - cases;
-    EXPECT_EQ(MarkPage(true, false, true), (ChangedMark{false, 0}));
-    EXPECT_EQ(MarkPage(true, true, true), (ChangedMark{true, 0}));
-    EXPECT_EQ(MarkPage(true, true, false), (ChangedMark{false, 0}));
-    EXPECT_EQ(MarkPage(false, true, true), (ChangedMark{true, std::nullopt}));
-}
 
 // In the eight states of the forced configuration; the frame asks or refuses only where it is not done.
 TEST(SettingsFrame, AMissingConfigurationRefusesAnApplyAndQuestionsALeave) {

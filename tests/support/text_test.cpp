@@ -2,9 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include "resources/ids.h"
 #include "support/LibraryAppend.h"
-#include "support/ReplayErrors.h"
 #include "support/RepositoryPath.h"
 
 namespace recoveryui::support {
@@ -79,44 +77,6 @@ TEST(RepositoryPathTest, OnlyOnePrefixNeedsTheBlankBehindItsBracket) {
     for (const auto& row : rows) EXPECT_EQ(IsRepositoryPath(row.path), row.repository) << &row - rows;
 }
 
-TEST(ReplayErrorsTest, TheListIsFilledInItsOrderAndEveryErrorHasItsTexts) {
-    struct {
-        std::uint32_t code;
-        int label, description;
-    } const rows[] = {
-        {0, 109, 110},
-        {0x80040202, 26, 89},
-        {0x80040203, IDS_REPLAY_OBJECT_NOT_UNIQUE, 87},
-        {0x80040208, IDS_REPLAY_OBJECT_DISABLED, 88},
-        {0x80040209, IDS_REPLAY_ITEM_NOT_FOUND, 86},
-        {0x8004020A, IDS_REPLAY_ITEM_NOT_UNIQUE, 85},
-        {0x80040205, IDS_REPLAY_OBJECT_NOT_VISIBLE, 90},
-    };
-    ASSERT_EQ(ReplayErrors().size(), std::size(rows));
-    for (std::size_t i = 0; i < std::size(rows); ++i) {
-        SCOPED_TRACE(i);
-        const auto code = static_cast<std::int32_t>(rows[i].code);
-        EXPECT_EQ(ReplayErrors()[i].code, code);
-        ASSERT_NE(FindReplayError(code), nullptr);
-        EXPECT_EQ(FindReplayError(code)->labelId, rows[i].label);
-        EXPECT_EQ(FindReplayError(code)->descriptionId, rows[i].description);
-    }
-    EXPECT_EQ(FindReplayError(static_cast<std::int32_t>(0x80040204)), nullptr);
-}
-
-TEST(LibraryAppendTest, AFunctionGoesBehindALineBreakWithSingleLineEnds) {
-    struct {
-        std::wstring text, written;
-    } const rows[] = {
-        {L"Function F()\r\n\r\nEnd Function\r\n", L"\r\nFunction F()\r\n\r\nEnd Function"},
-        {L"\t\r\n Function F()\nEnd Function \v\f", L"\r\nFunction F()\r\nEnd Function"},
-        {L"a\r\r\nb\rc", L"\r\na\r\nbc"},
-        {L" \r\n ", L"\r\n"},
-    };
-    for (const auto& row : rows) EXPECT_EQ(AppendedText(row.text, {}), row.written) << &row - rows;
-    EXPECT_EQ(AppendedText(L"a\nb", {0, true}), L"\r\n\r\na\r\nb");
-}
-
 TEST(LibraryAppendTest, ALineThatGoesOnIsEndedAndOldEndMarksGoAway) {
     struct {
         std::string_view bytes;
@@ -134,6 +94,8 @@ TEST(LibraryAppendTest, ALineThatGoesOnIsEndedAndOldEndMarksGoAway) {
         EXPECT_EQ(end.marks, row.marks) << row.bytes;
         EXPECT_EQ(end.goesOn, row.goesOn) << row.bytes;
     }
+    EXPECT_EQ(AppendedText(L"a\nb", {0, true}), L"\r\n\r\na\r\nb");
+    EXPECT_EQ(AppendedText(L"\t\v a\r\r\nb\rc\f", {}), L"\r\na\r\nbc");
 }
 
 }  // namespace

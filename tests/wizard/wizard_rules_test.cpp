@@ -4,46 +4,12 @@
 #include <string>
 
 #include "harness/FakeStrings.h"
-#include "resources/ids.h"
 #include "wizard/ClickChoice.h"
-#include "wizard/FunctionName.h"
 #include "wizard/FunctionText.h"
-#include "wizard/NewFunctions.h"
-#include "wizard/PageFlow.h"
-#include "wizard/PopupConditions.h"
 #include "wizard/Summary.h"
-#include "wizard/WizardButtons.h"
 
 namespace recoveryui::wizard {
 namespace {
-
-TEST(PageFlowTest, OnlyAListThatHoldsSomethingIsLeftForTheOptions) {
-    for (const auto& [empty, another] : {std::pair(true, true), {true, false}, {false, true}})
-        EXPECT_EQ(PageAfterOperationList(empty, another), IDD_SELECT_OPERATION) << empty << another;
-    EXPECT_EQ(PageAfterOperationList(false, false), IDD_TEST_FLOW);
-}
-
-TEST(WizardButtonsTest, PositionAndReadinessDecideTheButtons) {
-    const unsigned buttons[3][2] = {{0x08, 0x0A}, {0x09, 0x0B}, {0x09, 0x05}};
-    for (int position = 0; position < 3; ++position)
-        for (const bool ready : {false, true})
-            EXPECT_EQ(WizardButtons(static_cast<Position>(position), ready), buttons[position][ready])
-                << position << ready;
-}
-
-TEST(PopupConditionsTest, NextNeedsACheckedConditionAndAValueInEveryCheckedOne) {
-    const struct {
-        PopupCondition title, text;
-        bool complete;
-    } rows[] = {
-        {{false, L"t"}, {false, L"x"}, false}, {{true, L"  "}, {false, L""}, true},
-        {{true, L"t"}, {true, L""}, false},    {{true, L""}, {true, L"x"}, false},
-        {{false, L""}, {true, L"x"}, true},    {{true, L"t"}, {true, L"x"}, true},
-    };
-    for (const auto& row : rows)
-        EXPECT_EQ((PopupConditions{row.title, row.text}.Complete()), row.complete) << &row - rows;
-    EXPECT_EQ(TitleOfTrigger(L"a\nb", false).value, L"a\nb") << "only the text changes its line ends";
-}
 
 TEST(SummaryTest, SaysWhatTheScenarioDoes) {
     const auto strings = test::FakeStrings();
@@ -113,32 +79,9 @@ TEST(FunctionTextTest, TheNameInTheTextFollowsTheNameTyped) {
         {L"function(x)", L"Fix", L"function(x)"},
         {L"Function\tA(x)", L"Fix", L"Function\tA(x)"},
         {L"Public Function A(x)", L"Fix", L"Public Function A(x)"},
-        {L"Sub A(x)", L"Fix", L"Sub A(x)"},
-        {L"   ", L"Fix", L"   "},
         {L"", L"Fix", L""},
     };
     for (const auto& row : rows) EXPECT_EQ(RenameFunction(row.text, row.name), row.renamed);
-}
-
-TEST(FunctionNameTest, ANameIsRefusedWhenItIsNoNameOrTaken) {
-    using enum FunctionNameVerdict;
-    NewFunctionList pending;
-    pending.Add({L"lib.vbs", L"C:\\lib.vbs", L"Waiting", L"w"});
-    const std::vector<std::wstring> library = {L"RecoveryFunction1"};
-    struct {
-        std::wstring name, path;
-        FunctionNameVerdict verdict;
-    } const rows[] = {
-        {L"Fix", L"C:\\lib.vbs", Accepted},
-        {L"Fix\tIt", L"C:\\lib.vbs", Accepted},
-        {L"", L"C:\\lib.vbs", Empty},
-        {L"Fix Dialog", L"C:\\lib.vbs", ContainsBlank},
-        {L"recoveryfunction1", L"C:\\lib.vbs", InLibrary},
-        {L"WAITING", L"c:\\LIB.vbs", Pending},
-        {L"Waiting", L"C:\\other.vbs", Accepted},
-    };
-    for (const auto& row : rows)
-        EXPECT_EQ(JudgeFunctionName(row.name, library, pending, row.path), row.verdict);
 }
 
 }  // namespace

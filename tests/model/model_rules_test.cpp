@@ -1,18 +1,126 @@
-// What a scenario is made of, without an object.
+// What a scenario is made of, how a test's settings hold it, and names of files, without an object.
 #include <gtest/gtest.h>
 
 #include "harness/FakeStrings.h"
+#include "model/FileNames.h"
 #include "model/KeyNames.h"
 #include "model/KeySequence.h"
 #include "model/Kinds.h"
 #include "model/ObjectHierarchy.h"
-#include "model/OperationRows.h"
 #include "model/PostRecovery.h"
+#include "model/RecordString.h"
 #include "model/Words.h"
 #include "resources/ids.h"
 
 namespace recoveryui::model {
 namespace {
+
+using Records = std::vector<ScenarioAssociation>;
+
+TEST(RecordString, ReadsCompleteRecordsAndStopsAtTheFirstBrokenOne) {
+    const struct {
+        const wchar_t* why;
+        std::wstring text;
+        Records records;
+    } cases[] = {
+        {L"nothing stored", L"", {}},
+        {L"two records",
+         L"C:\\c.trs;Popup;1;ffffffff*C:\\c.trs;Crash;0;1*",
+         {{L"C:\\c.trs", L"Popup", true, -1}, {L"C:\\c.trs", L"Crash", false, 1}}},
+        {L"a last record needs no terminator", L"f;P;1;1", {{L"f", L"P", true, 1}}},
+        {L"three tokens are not a record", L"f;P;1;1*g;Q;1", {{L"f", L"P", true, 1}}},
+        {L"an empty mode is not a record", L"f;P;1;1*g;Q;1;*", {{L"f", L"P", true, 1}}},
+        {L"separators only", L";;;***", {}},
+        {L"empty fields are skipped", L";;f;;P;;;1;1*", {{L"f", L"P", true, 1}}},
+        {L"a star is an ordinary letter before the mode", L"f;P*Q;1;1*", {{L"f", L"P*Q", true, 1}}},
+        {L"a stray star goes to the next file",
+         L"a;b;1;1**c;d;0;1*",
+         {{L"a", L"b", true, 1}, {L"*c", L"d", false, 1}}},
+        {L"only the number 1 enables", L"f;P;2;1*", {{L"f", L"P", false, 1}}},
+        {L"numbers are prefixes", L"f;P;1x;1;zz*", {{L"f", L"P", true, 1}}},
+        {L"no digits are 0", L"f;P;x;g*", {{L"f", L"P", false, 0}}},
+        {L"blanks, sign and 0x as the C library has them", L"f;P; +1;0XFFffFFff*", {{L"f", L"P", true, -1}}},
+        {L"a bare 0x is 0", L"f;P;01;0x*", {{L"f", L"P", true, 0}}},
+        {L"32 bits, then the limit", L"f;P;4294967297;1ffffffff*", {{L"f", L"P", false, -1}}},
+        {L"a negative mode", L"f;P;-1;-1*", {{L"f", L"P", false, -1}}},
+    };
+    for (const auto& c : cases)
+        EXPECT_TRUE(ReadRecords(c.text) == c.records) << testing::PrintToString(c.why);
+}
+
+TEST(RecordString, WritesLowerCaseHexadecimalAndOneModeForAll) {
+    const Records two{{L"f", L"P", true, -1}, {L"g", L"Q", false, 0xA0B}};
+    EXPECT_EQ(WriteRecords({}), L"");
+    EXPECT_EQ(WriteRecords(two), L"f;P;1;ffffffff*g;Q;0;a0b*");
+    EXPECT_EQ(WriteRecords(two, 1), L"f;P;1;1*g;Q;0;1*");
+    EXPECT_EQ(WriteRecords(two, 0), L"f;P;1;0*g;Q;0;0*");
+    EXPECT_EQ(ReadRecords(WriteRecords(two)), two);
+}
+
+TEST(RecordString, APathIsConvertedOncePerRunOfRecords) {
+    const Records many(100'000, {L"C:\\Tests\\common.trs", L"Popup", true, -1});
+    int asked = 0;
+    const auto count = [&asked](const std::wstring& path) { return ++asked, path; };
+    Texts paths;
+    EXPECT_EQ(ReadRecords(WriteRecords(many, -1, count), count, paths).size(), many.size());
+    EXPECT_EQ(asked, 2);
+}
+
+TEST(FileNames, SavingAddsTheExtensionToAPathWithoutADot) {
+    const struct {
+        const wchar_t* chosen;
+        const wchar_t* saved;
+    } cases[] = {
+        {L"C:\\data\\scenarios", L"C:\\data\\scenarios.trs"},
+        {L"C:\\data.v2\\scenarios", L"C:\\data.v2\\scenarios"},
+        {L"C:\\data\\scenarios.", L"C:\\data\\scenarios."},
+        {L"C:\\data\\scenarios.json", L"C:\\data\\scenarios.json"},
+        {L"[Ondrafel] Subject\\scenarios", L"[Ondrafel] Subject\\scenarios"},
+        {L"[Brevalon] Subject\\scenarios", L"[Brevalon] Subject\\scenarios"},
+        {L"[Brevalon]Subject\\scenarios", L"[Brevalon]Subject\\scenarios.trs"},
+    };
+    for (const auto& c : cases) EXPECT_EQ(PathToSave(c.chosen, L".trs"), c.saved) << &c - cases;
+    for (const wchar_t* path : {L"", L" ", L"\t \r\n"}) EXPECT_TRUE(IsCancelledPath(path));
+    EXPECT_FALSE(IsCancelledPath(L" a "));
+}
+
+TEST(FileNames, PartsOfAPath) {
+    const struct {
+        std::wstring path;
+        const wchar_t* name;
+        const wchar_t* drive;
+    } cases[] = {
+        {L"C:\\data\\a.trs", L"a.trs", L"C:"},
+        {L"c:/data/a.trs", L"a.trs", L"c:"},
+        {L"a.trs", L"a.trs", L""},
+        {L"C:\\data\\", L"", L"C:"},
+        {L"\\\\server\\share\\a.trs", L"a.trs", L"\\\\server\\share"},
+        {L"\\\\server", L"server", L"\\\\server"},
+        {L"\\\\?\\D:\\a.trs", L"a.trs", L"D:"},
+        {L"1:\\a.trs", L"a.trs", L""},
+    };
+    for (const auto& c : cases) {
+        EXPECT_EQ(FileNamePart(c.path), c.name);
+        EXPECT_EQ(DrivePart(c.path), c.drive) << testing::PrintToString(c.path);
+    }
+}
+
+TEST(FileNames, LongPathsGetTheExtendedForm) {
+    const std::wstring tail(300, L'x');
+    const struct {
+        std::wstring path, extended;
+    } cases[] = {
+        {L"C:\\" + tail, L"\\\\?\\C:\\" + tail},
+        {L"C:/d/" + tail, L"\\\\?\\C:\\d\\" + tail},
+        {L"\\\\server\\share\\" + tail, L"\\\\?\\UNC\\server\\share\\" + tail},
+        {L"\\\\?\\C:\\" + tail, L"\\\\?\\C:\\" + tail},
+        {L"\\\\.\\pipe\\" + tail, L"\\\\.\\pipe\\" + tail},
+        {tail, tail},
+        {L"C:\\" + tail.substr(56), L"C:\\" + tail.substr(56)},
+        {L"C:\\" + tail.substr(55), L"\\\\?\\C:\\" + tail.substr(55)},
+    };
+    for (const auto& c : cases) EXPECT_EQ(ExtendedLengthPath(c.path), c.extended) << &c - cases;
+}
 
 TEST(KindsTest, EveryKindHasItsWordAndOtherNumbersMeanNothing) {
     const int triggers[] = {IDS_TRIGGER_OBJECT_STATE, IDS_TRIGGER_POPUP, IDS_TRIGGER_ERROR,
@@ -78,42 +186,6 @@ TEST(ObjectHierarchyTest, RunsFromTheOutermostParentDownToTheObject) {
 
     EXPECT_EQ(FirstUnidentified(std::vector<std::size_t>{2, 1}), std::nullopt);
     EXPECT_EQ(FirstUnidentified(std::vector<std::size_t>{2, 0, 0}), 1U);
-}
-
-OperationDescription Button(std::optional<std::wstring> label) {
-    return {.kind = 0, .label = std::move(label)};
-}
-
-std::wstring Written(const std::vector<OperationRow>& rows) {
-    std::wstring text;
-    for (const OperationRow& row : rows) text += row.type + L"|" + row.details + L"\n";
-    return text;
-}
-
-TEST(OperationListTest, ListsEveryKindWithItsDetailsAndTheRestartLast) {
-    const std::vector<OperationDescription> operations = {
-        Button(L"50%s"),
-        Button(std::nullopt),
-        {.kind = 1, .library = L"C:\\lib\\%s.vbs", .function = L"Fix"},
-        {.kind = 2, .processes = {L"a.exe", L"b.exe"}},
-        {.kind = 2},
-        {.kind = 3, .keyNames = L"Control + A"},
-    };
-    const std::wstring listed =
-        L"Keyboard click|Click button with label: 50%s \n"
-        L"Keyboard click|\n"
-        L"Function call|C:\\lib\\%s.vbs::Fix\n"
-        L"Close process|a.exe;b.exe\n"
-        L"Close process|\n"
-        L"Keyboard click|Control + A\n";
-    EXPECT_EQ(Written(OperationRows(operations, false, test::FakeStrings())), listed);
-    EXPECT_EQ(Written(OperationRows(operations, true, test::FakeStrings())),
-              listed + L"Restart Microsoft Windows|\n");
-    EXPECT_EQ(Written(OperationRows({}, true, test::FakeStrings())), L"Restart Microsoft Windows|\n");
-    // An unknown kind ends the list, before the restart.
-    const std::vector<OperationDescription> foreign = {
-        {.kind = 3, .keyNames = L"A"}, {.kind = 4}, {.kind = 2}};
-    EXPECT_EQ(Written(OperationRows(foreign, true, test::FakeStrings())), L"Keyboard click|A\n");
 }
 
 TEST(PostRecoveryTest, AChoiceWritesTheOptionThatTheRestartDecides) {
