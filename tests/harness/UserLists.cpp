@@ -191,4 +191,15 @@ bool UserScreen::IsRowChecked(HWND window, int id, const std::wstring& row) {
     return ListView_GetCheckState(list, RowIndex(list, row));
 }
 
+bool UserScreen::IsLastRowInView(HWND window, int id) {
+    const HWND list = Control(window, id);
+    RECT row{}, view{};
+    Do([&] {
+        GetClientRect(list, &view);
+        ListView_GetItemRect(list, ListView_GetItemCount(list) - 1, &row, LVIR_BOUNDS);
+    });
+    return row.bottom <= view.bottom && ListView_GetTopIndex(list) > 0 &&
+           !(GetWindowLongW(list, GWL_STYLE) & WS_HSCROLL);
+}
+
 }  // namespace recoveryui::test

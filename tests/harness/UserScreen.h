@@ -71,6 +71,8 @@ public:
     // Clicks the check box of a list view's row.
     void ToggleRow(HWND window, int id, const std::wstring& row);
     bool IsRowChecked(HWND window, int id, const std::wstring& row);
+    // Of a list view with more rows than it has room for, and no bar across.
+    bool IsLastRowInView(HWND window, int id);
 
     // ---- Keyboard and menus
     // Keys to the control with the focus; `Type` sends characters.

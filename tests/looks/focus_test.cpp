@@ -9,7 +9,7 @@
 #include <set>
 
 #include "harness/HelpViewer.h"
-#include "model/FakeTestObject.h"
+#include "model/LoginName.h"
 #include "support/HelpTopics.h"
 #include "wizard/WizardTest.h"
 
@@ -93,8 +93,7 @@ protected:
 TEST_F(KeyboardTest, EveryPageBeginsWhereSomethingIsToBeDoneAlsoOnTheWayBack) {
     const auto state = New<IObjectStateRecoveryTrigger>(L"Vantrel.ObjectStateRecoveryTrigger");
     const auto crash = New<ICrashRecoveryTrigger>(L"Vantrel.CrashRecoveryTrigger");
-    const auto object = FakeTestObject::LoginName();
-    EXPECT_EQ(state->SetTestObject(object.Get()), S_OK);
+    EXPECT_EQ(state->SetTestObject(LoginName().Get()), S_OK);
     EXPECT_EQ(crash->SetProcesses(ArrayOf<BSTR>(std::vector<std::wstring>{L"order.exe"}).Get()), S_OK);
     const com::Ptr<IUnknown> triggers[] = {
         com::Query<IUnknown>(PopUp(L"Error").Get()), com::Query<IUnknown>(state.Get()),

@@ -3,6 +3,8 @@
 
 #include <commctrl.h>
 
+#include "host/store_samples.h"
+#include "host/temp_folder.h"
 #include "tour/Tour.h"
 
 namespace recoveryui::tour {
@@ -17,10 +19,19 @@ void MakeScenario(UserScreen& screen, HWND manager) {
     screen.Next(wizard);
     screen.Picture(wizard, L"04-select-trigger");
     screen.Next(wizard);
+    EXPECT_EQ(screen.WizardButtons(wizard), L"B n* f");
+    screen.Enter(wizard, IDC_POPUP_TITLE, L" ");
+    EXPECT_EQ(screen.WizardButtons(wizard), L"B N* f") << "blanks count as given";
     screen.Enter(wizard, IDC_POPUP_TITLE, L"(Error|Warning).*");
     screen.Check(wizard, IDC_POPUP_TITLE_REGEX);
+    EXPECT_FALSE(screen.IsEnabled(wizard, IDC_POPUP_TEXT));
+    screen.Check(wizard, IDC_POPUP_TEXT_CHECK);
+    EXPECT_EQ(screen.WizardButtons(wizard), L"B n* f") << "a checked condition without a value";
+    screen.Enter(wizard, IDC_POPUP_TEXT, L"It failed.\r\nTry again.");
     screen.Picture(wizard, L"05-popup");
     screen.Next(wizard);
+    EXPECT_TRUE(screen.IsVisible(wizard, IDC_OPERATION_LIST_NOTE));
+    EXPECT_FALSE(screen.IsVisible(wizard, IDC_OPERATION_LIST_ANOTHER));
     screen.Picture(wizard, L"06-no-operation");
 
     screen.Next(wizard);
@@ -32,6 +43,8 @@ void MakeScenario(UserScreen& screen, HWND manager) {
     screen.Next(wizard);
     screen.Next(wizard);
     screen.Check(wizard, IDC_CLICK_KEYS);
+    screen.Next(wizard);
+    EXPECT_EQ(screen.AnswerBox(IDOK), L"You must specify a keyboard combination");
     screen.Do([page = screen.Page(wizard)] {
         SendDlgItemMessageW(page, IDC_CLICK_HOTKEY, HKM_SETHOTKEY,
                             MAKEWORD('D', HOTKEYF_CONTROL | HOTKEYF_ALT), 0);
@@ -48,10 +61,18 @@ void MakeScenario(UserScreen& screen, HWND manager) {
     screen.Picture(wizard, L"10-with-restart");
     screen.Choose(wizard, IDC_OPERATION_LIST_ROWS, L"Restart Microsoft Windows");
     screen.Press(wizard, IDC_OPERATION_LIST_DELETE);
+    const Rows made = screen.RowsOf(wizard, IDC_OPERATION_LIST_ROWS), moved{made[1], made[0]};
+    const auto expectRows = [&](const Rows& rows) {
+        screen.WaitUntil("the rows", [&] { return screen.RowsOf(wizard, IDC_OPERATION_LIST_ROWS) == rows; });
+        EXPECT_EQ(screen.FocusId(), IDC_OPERATION_LIST_ROWS);
+    };
     screen.Choose(wizard, IDC_OPERATION_LIST_ROWS, L"Keyboard click | Enter");
     screen.Press(wizard, IDC_OPERATION_LIST_DOWN);
-    EXPECT_EQ(screen.RowsOf(wizard, IDC_OPERATION_LIST_ROWS),
-              (Rows{L"Keyboard click | Control + Alt + D", L"Keyboard click | Enter"}));
+    expectRows(moved);
+    screen.RealKeys({VK_MENU, VK_UP});
+    expectRows(made);
+    screen.RealKeys({VK_MENU, VK_DOWN});
+    expectRows(moved);
     screen.Check(wizard, IDC_OPERATION_LIST_ANOTHER, false);
     screen.Picture(wizard, L"11-operations");
     screen.Next(wizard);
@@ -68,6 +89,7 @@ void MakeScenario(UserScreen& screen, HWND manager) {
         L"Trigger Event:\r\n\tPop-up window\r\nRecovery Operations:\r\n\tKeyboard or mouse operation\r\n"
         L"\tKeyboard or mouse operation\r\nPost-Recovery Test Run Options:\r\n\tProceed to next step");
     screen.Picture(wizard, L"14-summary");
+    EXPECT_EQ(screen.WizardButtons(wizard), L"B n F*");
     screen.Finish(wizard);
 }
 
@@ -108,7 +130,13 @@ TEST_F(Tour, AFirstScenarioIsMadeStoredFoundAgainAndRenamed) {
         manager = screen.WaitForWindow(L"Recovery Scenario Manager - scenarios.trs");
         EXPECT_EQ(screen.Text(manager, IDC_MANAGER_FILE), FileIn(kFile));
         screen.Picture(manager, L"17-manager-saved");
-        EXPECT_EQ(NamesInFile(FileIn(kFile)), Rows{L"Error message"}) << "a second reader sees the file";
+        const tovarin::store::Scenario made{
+            2,
+            tovarin::store::PopUpTrigger{{L"(Error|Warning).*", 1}, {L"It failed.\nTry again.", 0}, 0},
+            {tovarin::store::PressKeys{{0x10011, 0x10012, 0x10044, 0x30012, 0x30011}},
+             tovarin::store::PressKeys{{0x1000D, 0x3000D}}},
+            L"Closes error messages and goes on with the next step."};
+        EXPECT_EQ(tovarin::TempFolder::Read(FileIn(kFile)), tovarin::store::TextOfStore({{L"Error message", made}}));
         EXPECT_EQ(OpenForEditing(FileIn(kFile)), STG_E_SHAREVIOLATION) << "the file is taken";
         screen.Press(manager, IDCANCEL);
         screen.WaitUntilClosed(manager);

@@ -76,7 +76,6 @@ TEST_F(FunctionPageTest, AFunctionOfTheLibraryIsChosen) {
         EXPECT_EQ(Shown(screen, wizard), L"[Alpha|Function Alpha(Object)\r\n  Log Object\r\nEnd Function]");
         screen.Choose(wizard, IDC_FUNC_LIST, L"Beta");
         EXPECT_EQ(Shown(screen, wizard), L"[Beta|Sub Beta(a)\r\nEnd Sub]");
-        screen.Picture(wizard, L"function-selected");
         FailCall(L"FunctionCallRecoveryAction", L"SetLibraryPath");
         screen.Next(wizard);
         EXPECT_EQ(screen.PageTitle(wizard), kPage);
@@ -122,13 +121,14 @@ TEST_F(FunctionPageTest, ANewFunctionTakesItsNameForItselfAndReachesTheLibraryAt
         }
         screen.Enter(wizard, IDC_FUNC_NAME, L" Fix ");
         EXPECT_EQ(Shown(screen, wizard), L" Fix |Function  Fix " + ending);
-        screen.Picture(wizard, L"function-new");
         screen.Next(wizard);
         EXPECT_EQ(screen.RowsOf(wizard, IDC_OPERATION_LIST_ROWS),
                   Rows{L"Function call | " + Path(L"lib.vbs") + L"::Fix"});
 
+        // The same library in another form of its path.
         screen.Check(wizard, IDC_OPERATION_LIST_ANOTHER);
         OpenPage(screen, wizard);
+        Load(screen, wizard, L"LIB.VBS");
         EXPECT_EQ(Functions(screen, wizard), (Rows{L"Alpha", L"Beta", L"Fix"}));
         screen.Choose(wizard, IDC_FUNC_LIST, L"Fix");
         EXPECT_EQ(Shown(screen, wizard), L"[Fix|Function Fix" + ending + L"]");
@@ -136,15 +136,23 @@ TEST_F(FunctionPageTest, ANewFunctionTakesItsNameForItselfAndReachesTheLibraryAt
         EXPECT_EQ(screen.Text(wizard, IDC_FUNC_NAME), L"RecoveryFunction1");
         Define(screen, wizard, L"FIX");
         EXPECT_EQ(screen.AnswerBox(IDOK), L"Function name is invalid or already exists.");
-        screen.Back(wizard);
-        screen.Back(wizard);
+        for (const wchar_t* name : {L"Deleted", L"Second"}) {
+            Define(screen, wizard, name);
+            screen.Check(wizard, IDC_OPERATION_LIST_ANOTHER);
+            if (name == std::wstring_view(L"Deleted")) OpenPage(screen, wizard);
+        }
+        screen.Choose(wizard, IDC_OPERATION_LIST_ROWS, screen.RowsOf(wizard, IDC_OPERATION_LIST_ROWS)[1]);
+        screen.Press(wizard, IDC_OPERATION_LIST_DELETE);
+        EXPECT_EQ(screen.RowsOf(wizard, IDC_OPERATION_LIST_ROWS).size(), 2u);
         screen.Check(wizard, IDC_OPERATION_LIST_ANOTHER, false);
         GoToSummary(screen, wizard, L"scenario");
         screen.Finish(wizard);
     });
     EXPECT_EQ(result, S_OK);
+    const std::string written = "(Object)\r\n\r\nEnd Function";
     EXPECT_EQ(folder_.Read(Path(L"lib.vbs")),
-              std::string(kLibrary) + "\r\nFunction Fix(Object)\r\n\r\nEnd Function");
+              kLibrary + ("\r\nFunction Fix" + written) + "\r\nFunction Second" + written)
+        << "a function goes with its operation";
 }
 
 TEST_F(FunctionPageTest, ALibraryIsLoadedOnLeavingItsBoxAndRefusedWithAReason) {
@@ -167,12 +175,8 @@ TEST_F(FunctionPageTest, ALibraryIsLoadedOnLeavingItsBoxAndRefusedWithAReason) {
         EXPECT_EQ(Functions(screen, wizard), Rows{});
         screen.Next(wizard);
         EXPECT_EQ(screen.PageTitle(wizard), kPage);
-        TypePath(screen, wizard, L"half typed");
-    });
-}
 
-TEST_F(FunctionPageTest, KeysStayInTheTextAndLeaveItToTheWizard) {
-    BrowsePage([&](UserScreen& screen, HWND wizard) {
+        // Keys stay in the text and leave it to the wizard.
         Load(screen, wizard, Path(L"empty.vbs"));
         screen.Enter(wizard, IDC_FUNC_TEXT, L"x");
         screen.Keys({VK_RETURN});
@@ -183,7 +187,7 @@ TEST_F(FunctionPageTest, KeysStayInTheTextAndLeaveItToTheWizard) {
         EXPECT_FALSE(CanGoOn(screen, wizard));
         screen.Keys({VK_TAB});
         EXPECT_EQ(screen.FocusId(), kBack);
-        screen.Enter(wizard, IDC_FUNC_TEXT, L"z");
+        TypePath(screen, wizard, L"half typed");
         screen.Keys({VK_ESCAPE});
     });
 }
@@ -202,29 +206,6 @@ TEST_F(FunctionPageTest, AFileIsFoundWithTheHostsDialogAndUsedOnesAreOfferedAgai
         screen.Choose(wizard, IDC_FUNC_LIBRARY, L"lib.vbs");
         EXPECT_EQ(Functions(screen, wizard), (Rows{L"Alpha", L"Beta"}));
     });
-}
-
-TEST_F(FunctionPageTest, AFunctionGoesWithItsOperationAndTheOthersAreWrittenInOrder) {
-    const std::pair<std::wstring, const wchar_t*> functions[] = {
-        {L"lib.vbs", L"Deleted"}, {L"LIB.VBS", L"First"}, {Path(L"lib.vbs"), L"Second"}};
-    const HRESULT result = Run([&](UserScreen& screen, HWND wizard) {
-        for (const auto& [library, name] : functions) {
-            OpenPage(screen, wizard);
-            Load(screen, wizard, library);
-            Define(screen, wizard, name);
-            screen.Check(wizard, IDC_OPERATION_LIST_ANOTHER);
-        }
-        screen.Choose(wizard, IDC_OPERATION_LIST_ROWS, L"Function call");
-        screen.Press(wizard, IDC_OPERATION_LIST_DELETE);
-        EXPECT_EQ(screen.RowsOf(wizard, IDC_OPERATION_LIST_ROWS).size(), 2u);
-        screen.Check(wizard, IDC_OPERATION_LIST_ANOTHER, false);
-        GoToSummary(screen, wizard, L"scenario");
-        screen.Finish(wizard);
-    });
-    EXPECT_EQ(result, S_OK);
-    const std::string ending = "(Object)\r\n\r\nEnd Function";
-    EXPECT_EQ(folder_.Read(Path(L"lib.vbs")),
-              kLibrary + ("\r\nFunction First" + ending) + "\r\nFunction Second" + ending);
 }
 
 }  // namespace

@@ -1,5 +1,6 @@
 // "Select Object" and "Set Object Properties and Values" as their users meet them.
-#include "model/FakeTestObject.h"
+#include "model/LoginName.h"
+#include "objects/Journal.h"
 #include "wizard/WizardTest.h"
 
 namespace recoveryui::test {
@@ -7,20 +8,17 @@ namespace {
 
 constexpr const wchar_t* kPropsTitle = L"Set Object Properties and Values";
 constexpr const wchar_t* kOperationsTitle = L"Recovery Operations";
-constexpr const wchar_t* kUntouched = L"*text='Your name' *x=12 items=? visible=True";
+constexpr const wchar_t* kUntouched = L"*text='Your name' *x=12 items=0 visible=1";
 constexpr int kTree = IDC_OBJECT_PROPS_TREE, kGrid = IDC_OBJECT_PROPS_GRID;
 
 // "text='value'", "*" in front of a checked one, "/" behind a regular expression.
-std::wstring Identification(const FakeTestObject& object) {
+std::wstring Identification(const tovarin::store::TestObject& object) {
     std::wstring all;
-    for (const FakeTestObject::Property& property : object.properties) {
-        com::Variant text;
-        const HRESULT hr = VariantChangeTypeEx(text.Put(), const_cast<VARIANT*>(&property.value.Get()),
-                                               LOCALE_INVARIANT, VARIANT_ALPHABOOL, VT_BSTR);
-        const std::wstring quote = property.value.Type() == VT_BSTR ? L"'" : L"";
+    for (const auto& property : object.properties) {
+        const bool isText = property.value.type == tovarin::store::ValueType::Text;
         all += (all.empty() ? L"" : L" ") + std::wstring(property.isChecked ? L"*" : L"") + property.name +
-               L"=" + quote + (FAILED(hr) ? L"?" : std::wstring(text.Text())) + quote +
-               (property.isRegex ? L"/" : L"");
+               L"=" + (isText ? L"'" + property.value.text + L"'" : std::to_wstring(property.value.integer)) +
+               (property.isRegularExpression ? L"/" : L"");
     }
     return all;
 }
@@ -45,7 +43,18 @@ protected:
         screen.Enter(wizard, IDC_OBJECT_PROPS_VALUE, value);
     }
 
-    com::Ptr<FakeTestObject> object_ = FakeTestObject::LoginName();
+    // What identifies the object, or a parent of it.
+    std::wstring Now(size_t member = 0) const {
+        tovarin::store::Hierarchy hierarchy;
+        EXPECT_EQ(object_->Write(hierarchy), S_OK);
+        return Identification(hierarchy.at(member));
+    }
+    // The object itself is this program's, and so is its journal.
+    static void Refuse(const wchar_t* operation) {
+        tovarin::Journal::Instance().FailCall(L"TestObject", operation, 1, E_FAIL, 1);
+    }
+
+    const com::Ptr<tovarin::TestObject> object_ = LoginName();
 };
 
 TEST_F(ObjectPagesTest, EditingShowsTheObjectItsParentsAndWhatIdentifiesThem) {
@@ -53,13 +62,11 @@ TEST_F(ObjectPagesTest, EditingShowsTheObjectItsParentsAndWhatIdentifiesThem) {
         NextUntil(screen, wizard, L"Select Object");
         EXPECT_EQ(screen.RowsOf(wizard, IDC_SELECT_OBJECT_TREE), (Rows{L"Login", L"  Name"}));
         EXPECT_EQ(screen.WizardButtons(wizard), L"B N* f");
-        screen.Picture(wizard, L"object-selected");
         screen.Next(wizard);
         EXPECT_EQ(screen.Chosen(wizard, kTree), Rows{L"  Name"});
         EXPECT_EQ(screen.RowsOf(wizard, kGrid), (Rows{L"text | Your name", L"x | 12"}));
         EXPECT_TRUE(screen.IsRowChecked(wizard, kGrid, L"x"));
         EXPECT_EQ(screen.Text(wizard, IDC_OBJECT_PROPS_VALUE), L"Your name");
-        screen.Picture(wizard, L"object-props");
         screen.Choose(wizard, kGrid, L"x");
         EXPECT_EQ(screen.Text(wizard, IDC_OBJECT_PROPS_VALUE), L"12");
         screen.Choose(wizard, kTree, L"Login");
@@ -79,16 +86,16 @@ TEST_F(ObjectPagesTest, WhatIsTypedReachesTheObjectAndNextMakesATriggerOfIt) {
     OnProperties([&](UserScreen& screen, HWND wizard) {
         EnterValue(screen, wizard, L"text", L"Your .*");
         screen.Check(wizard, IDC_OBJECT_PROPS_REGEX);
-        EXPECT_EQ(Identification(*object_.Get()), kUntouched);
+        EXPECT_EQ(Now(), kUntouched);
         EnterValue(screen, wizard, L"x", L"13");
         EXPECT_EQ(screen.RowsOf(wizard, kGrid), (Rows{L"text | Your .*", L"x | 12"}));
         screen.Choose(wizard, kGrid, L"text");
         EXPECT_TRUE(screen.IsChecked(wizard, IDC_OBJECT_PROPS_REGEX));
-        EXPECT_EQ(Identification(*object_.Get()), L"*text='Your .*'/ *x=13 items=? visible=True");
+        EXPECT_EQ(Now(), L"*text='Your .*'/ *x=13 items=0 visible=1");
         EnterValue(screen, wizard, L"x", L"wide");
         screen.Next(wizard);
         EXPECT_EQ(screen.PageTitle(wizard), kOperationsTitle);
-        EXPECT_EQ(Identification(*object_.Get()), L"*text='Your .*'/ *x='wide' items=? visible=True");
+        EXPECT_EQ(Now(), L"*text='Your .*'/ *x='wide' items=0 visible=1");
         EXPECT_TRUE(CalledInOrder(
             {L"ObjectStateRecoveryTrigger.SetRack", L".SetTestObject", L".SetObjectStateOption(0)"}));
 
@@ -100,20 +107,19 @@ TEST_F(ObjectPagesTest, WhatIsTypedReachesTheObjectAndNextMakesATriggerOfIt) {
             screen.Next(wizard);
             EXPECT_EQ(screen.PageTitle(wizard), kPropsTitle) << Utf8(call);
         }
-        object_->writing = E_FAIL;
+        Refuse(L"SetPropertyValue");
         screen.Enter(wizard, IDC_OBJECT_PROPS_VALUE, L"narrow");
         screen.Next(wizard);
         EXPECT_EQ(screen.PageTitle(wizard), kPropsTitle) << "the object refuses the value";
-        object_->writing = S_OK;
     });
-    EXPECT_EQ(Identification(*object_.Get()), kUntouched) << "cancelled";
+    EXPECT_EQ(Now(), kUntouched) << "cancelled";
 }
 
 TEST_F(ObjectPagesTest, EveryMemberNeedsACheckedProperty) {
     OnProperties([&](UserScreen& screen, HWND wizard) {
         screen.Choose(wizard, kTree, L"Login");
         screen.ToggleRow(wizard, kGrid, L"text");
-        EXPECT_EQ(Identification(*object_->Parent()), L"text='Log in' enabled=True");
+        EXPECT_EQ(Now(1), L"text='Log in' enabled=1");
         screen.Choose(wizard, kTree, L"Name");
         screen.Next(wizard);
         EXPECT_EQ(screen.AnswerBox(IDOK), L"At least one property must be checked");
@@ -121,10 +127,9 @@ TEST_F(ObjectPagesTest, EveryMemberNeedsACheckedProperty) {
         // All of them are there to choose from.
         EXPECT_EQ(screen.Chosen(wizard, kTree), Rows{L"Login"});
         EXPECT_EQ(screen.RowsOf(wizard, kGrid), (Rows{L"text | Log in", L"enabled | True"}));
-        object_->Parent()->writing = E_FAIL;
+        Refuse(L"SetPropertyChecked");
         screen.ToggleRow(wizard, kGrid, L"enabled");
         EXPECT_FALSE(screen.IsRowChecked(wizard, kGrid, L"enabled")) << "refused";
-        object_->Parent()->writing = S_OK;
         screen.ToggleRow(wizard, kGrid, L"enabled");
         screen.Next(wizard);
         EXPECT_EQ(screen.PageTitle(wizard), kOperationsTitle);
@@ -144,14 +149,13 @@ TEST_F(ObjectPagesTest, PropertiesAreAddedAndRemovedInTheirDialog) {
         EXPECT_TRUE(screen.IsRowChecked(dialog, kAll, L"x"));
         EXPECT_FALSE(screen.IsRowChecked(dialog, kAll, L"items"));
         screen.ToggleRow(dialog, kAll, L"items");
-        screen.Picture(dialog, L"object-edit-properties");
         screen.Press(dialog, IDCANCEL);
-        EXPECT_EQ(Identification(*object_.Get()), kUntouched);
+        EXPECT_EQ(Now(), kUntouched);
 
         dialog = open();
         for (const wchar_t* row : {L"items", L"x"}) screen.ToggleRow(dialog, kAll, row);
         screen.Press(dialog, IDOK);
-        EXPECT_EQ(Identification(*object_.Get()), L"*text='Your name' x=12 *items=? visible=True");
+        EXPECT_EQ(Now(), L"*text='Your name' x=12 *items=0 visible=1");
         EXPECT_EQ(screen.RowsOf(wizard, kGrid), (Rows{L"text | Your name", L"items | [complex value]"}));
         screen.Choose(wizard, kGrid, L"items");
         EXPECT_EQ(screen.Text(wizard, IDC_OBJECT_PROPS_VALUE), L"[complex value]");

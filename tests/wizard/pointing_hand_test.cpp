@@ -4,7 +4,9 @@
 #include <commctrl.h>
 
 #include "harness/ApplicationWindow.h"
+#include "harness/HelpViewer.h"
 #include "harness/Pointing.h"
+#include "objects/ids.h"
 #include "objects/screen/TestObject.h"
 #include "wizard/WizardTest.h"
 
@@ -47,7 +49,7 @@ LRESULT CALLBACK Rude(HWND window, UINT message, WPARAM wParam, LPARAM lParam, U
 
 class PointingHandTest : public WizardTest {
 protected:
-    static constexpr int kCancel = 13, kSecret = 14, kUnnamed = 15, kRude = 16;
+    static constexpr int kCancel = 13, kSecret = 14, kUnnamed = 15, kRude = 16, kRemember = 17;
 
     PointingHandTest() {
         rack_.Put(L"RecordMgr", recorder_.Get());
@@ -70,15 +72,16 @@ protected:
     const com::Ptr<Recorder> recorder_ = Recorder::Make(New<IRecordMgr>(L"Tovarin.RecordMgr"));
     // Neither says anything, nor has a window.
     const com::Variant stranger_{New<IDispatch>(L"Tovarin.ObjectRack").Get()};
-    const HWND login_ = MakeApplication(L"Log in", {10, 500, 260, 200},
-                                        {{L"Static", L"Name:", 0, {5, 5, 70, 20}},
-                                         {L"Static", L"Password:", 0, {80, 5, 70, 20}},
-                                         {L"Button", L"Remember", 0, {5, 30, 70, 20}, BS_AUTOCHECKBOX},
-                                         {L"Button", L"&OK", 0, {5, 120, 70, 20}, BS_DEFPUSHBUTTON},
-                                         {L"Button", L"Cancel", kCancel, {80, 120, 70, 20}},
-                                         {L"Button", L"Secret", kSecret, {155, 120, 70, 20}},
-                                         {L"Button", L"", kUnnamed, {155, 30, 70, 20}},
-                                         {L"Button", L"", kRude, {80, 30, 70, 20}}}),
+    const HWND login_ =
+                   MakeApplication(L"Log in", {10, 500, 260, 200},
+                                   {{L"Static", L"Name:", 0, {5, 5, 70, 20}},
+                                    {L"Static", L"Password:", 0, {80, 5, 70, 20}},
+                                    {L"Button", L"Remember", kRemember, {5, 30, 70, 20}, BS_AUTOCHECKBOX},
+                                    {L"Button", L"&OK", 0, {5, 120, 70, 20}, BS_DEFPUSHBUTTON},
+                                    {L"Button", L"Cancel", kCancel, {80, 120, 70, 20}},
+                                    {L"Button", L"Secret", kSecret, {155, 120, 70, 20}},
+                                    {L"Button", L"", kUnnamed, {155, 30, 70, 20}},
+                                    {L"Button", L"", kRude, {80, 30, 70, 20}}}),
                bare_ = MakeApplication(L"", {300, 500, 260, 160}, {});
 };
 
@@ -121,7 +124,6 @@ TEST_F(PointingHandTest, PointingAtAPopUpFillsTheConditionsWithWhatItSays) {
             EXPECT_EQ(screen.IsChecked(wizard, IDC_POPUP_TITLE_REGEX), c.shown == typed) << c.why;
             EXPECT_EQ(screen.IsChecked(wizard, IDC_POPUP_TEXT_CHECK), !c.shown[1].empty()) << c.why;
         }
-        screen.Picture(wizard, L"hand-popup");
         // What says nothing any more still has a title to go with.
         SetWindowTextW(bare_, L"Bare");
         recorder_->before = {com::Variant(static_cast<IDispatch*>(
@@ -146,9 +148,10 @@ TEST_F(PointingHandTest, PointingAtADialogOffersTheLabelsOfItsButtons) {
         pointAt(Button(kCancel));
         EXPECT_EQ(screen.RowsOf(wizard, IDC_CLICK_LABEL_LIST), (Rows{L"OK", L"Cancel"}));
         EXPECT_TRUE(CanGoOn(screen, wizard));
-        screen.Picture(wizard, L"hand-labels");
         pointAt(nullptr);
         EXPECT_EQ(screen.Chosen(wizard, IDC_CLICK_LABEL_LIST), Rows{L"OK"}) << "gave up";
+        pointAt(Button(kRemember));
+        EXPECT_FALSE(IsDlgButtonChecked(login_, kRemember)) << "the click reaches nobody else";
         pointAt(bare_);
         EXPECT_EQ(screen.AnswerBox(IDOK),
                   L"The dialog box or window you clicked does not contain any buttons");
@@ -170,6 +173,8 @@ TEST_F(PointingHandTest, PointingAtADialogOffersTheLabelsOfItsButtons) {
 
 TEST_F(PointingHandTest, TheOnlyObjectIsTakenSeveralAreOfferedAndNothingElseIs) {
     constexpr int kTree = IDC_SELECT_OBJECT_TREE;
+    const auto help = HelpViewer::Make();
+    rack_.Put(L"HelpViewer", help.Get());
     OnPage(IDC_SELECT_TRIGGER_OBJECT_STATE, [&](UserScreen& screen, HWND wizard) {
         const auto point = [&](HWND at) { PointAt(screen, wizard, IDC_SELECT_OBJECT_HAND, at); };
         const auto choose = [&](int button) {
@@ -194,7 +199,15 @@ TEST_F(PointingHandTest, TheOnlyObjectIsTakenSeveralAreOfferedAndNothingElseIs) 
         const Rows tree{L"OrderEntry \"Log in\"", L"  Button \"Cancel\""};
         EXPECT_EQ(choose(IDOK), tree);
         EXPECT_EQ(screen.Chosen(wizard, kTree), Rows{tree.back()});
-        EXPECT_TRUE(Called(L"ObjectSelection.SetHelpTopic(\"OS_Object_State.htm\")"));
+        point(Button(kCancel));
+        const HWND selection = screen.WaitForWindow(L"Object Selection - Object State Trigger");
+        screen.Press(selection, IDC_OBJECT_SELECTION_HELP);
+        EXPECT_EQ(help->Take(), L"OS_Object_State.htm");
+        EXPECT_EQ(screen.RowsOf(selection, IDC_OBJECT_SELECTION_TREE), tree);
+        screen.DoubleClick(selection, IDC_OBJECT_SELECTION_TREE, tree.front());
+        EXPECT_EQ(screen.RowsOf(wizard, kTree), Rows{tree.front()});
+        point(Button(kCancel));
+        EXPECT_EQ(choose(IDOK), tree);
         screen.Next(wizard);
         EXPECT_EQ(screen.RowsOf(wizard, IDC_OBJECT_PROPS_TREE), tree);
 
