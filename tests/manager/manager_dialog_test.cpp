@@ -36,7 +36,6 @@ TEST_F(ManagerTest, AFileIsOpenedAScenarioTakenToAnotherFileAndBothAreFoundAgain
         EXPECT_EQ(Toolbar(screen, manager), L"NEPCvD");
         screen.Press(manager, IDC_MANAGER_COPY);
         EXPECT_EQ(Toolbar(screen, manager), L"NEPCVD");
-        screen.Picture(manager, L"manager-file");
 
         screen.Press(manager, IDC_MANAGER_NEW);
         EXPECT_EQ(Names(screen, manager), Rows{});
@@ -47,6 +46,11 @@ TEST_F(ManagerTest, AFileIsOpenedAScenarioTakenToAnotherFileAndBothAreFoundAgain
         SaveAs(screen, manager, Path(L"second"));
         WaitForFile(screen, manager, second);
         EXPECT_EQ(TextOf(manager), L"Recovery Scenario Manager - second.trs");
+        // The name would be completed to that of another file.
+        SaveAs(screen, manager, Path(L"first"));
+        EXPECT_EQ(screen.AnswerBox(IDNO, L"Save Recovery File"),
+                  first + L"\nThis file already exists.\nDo you want to replace it?");
+        screen.LeaveFileDialog(L"Save Recovery File", IDCANCEL);
 
         DropMenu(screen, manager, IDC_MANAGER_OPEN);
         EXPECT_EQ(screen.MenuItems(), (Rows{L"Open", L"-", second, first, L"C:\\a.trs", L"C:\\b.trs"}));
@@ -80,6 +84,9 @@ TEST_F(ManagerTest, ALockedFileCanOnlyBeLookedAt) {
     const std::wstring file = MakeFile(L"locked.trs", {L"one", L"two"});
     const auto other = Load(file, false);
     Manage([&](UserScreen& screen, HWND manager) {
+        OpenFile(screen, manager, MakeFile(L"free.trs", {L"free"}));
+        screen.Choose(manager, IDC_MANAGER_LIST, L"free");
+        screen.Press(manager, IDC_MANAGER_COPY);
         screen.Press(manager, IDC_MANAGER_OPEN);
         screen.GiveFile(L"Open Recovery File", file);
         EXPECT_EQ(screen.AnswerBox(IDOK),
@@ -90,13 +97,12 @@ TEST_F(ManagerTest, ALockedFileCanOnlyBeLookedAt) {
         EXPECT_EQ(Toolbar(screen, manager), L"nePcvd");
         EXPECT_EQ(screen.Text(manager, IDC_MANAGER_DESCRIPTION), L"About two.");
         for (const WORD key : {WORD{VK_DELETE}, WORD{VK_F2}}) screen.Keys({key});
-        screen.Picture(manager, L"manager-read-only");
 
         SaveAs(screen, manager, Path(L"copy"));
         WaitForFile(screen, manager, Path(L"copy.trs"));
         EXPECT_EQ(Toolbar(screen, manager), L"nePcvd") << "a copy stays what it was";
         screen.Press(manager, IDC_MANAGER_NEW);
-        EXPECT_EQ(Toolbar(screen, manager), L"Nepcvd");
+        EXPECT_EQ(Toolbar(screen, manager), L"NepcVd");
     });
     EXPECT_EQ(NamesInFile(Path(L"copy.trs")), (Rows{L"one", L"two"}));
 }
@@ -154,7 +160,7 @@ TEST_F(ManagerTest, AScenarioIsMadeRenamedTwiceAndAddedToTheTestUnderItsLastName
         screen.Enter(wizard, IDC_POPUP_TITLE, L"Error");
         for (int page = 0; page < 4; ++page) screen.Next(wizard);
         WalkThroughWizard(screen, wizard, L"new one");
-        screen.Check(wizard, IDC_SUMMARY_ADD_CURRENT);
+        for (const int box : {IDC_SUMMARY_ADD_CURRENT, IDC_SUMMARY_ADD_DEFAULT}) screen.Check(wizard, box);
         leaveWizard(wizard, kFinish);
         EXPECT_EQ(Chosen(screen, manager), L"new one");
 
@@ -173,7 +179,7 @@ TEST_F(ManagerTest, AScenarioIsMadeRenamedTwiceAndAddedToTheTestUnderItsLastName
     });
     EXPECT_EQ(NamesInFile(file), (Rows{L"one", L"two", L"newest"}));
     EXPECT_EQ(settings_.Stored(L"RecoveryScenarios"), L"C:\\x.trs;Other;1;1*" + file + L";newest;1;1*");
-    EXPECT_EQ(settings_.Stored(L"RecoveryDefScenarios"), L"-");
+    EXPECT_EQ(settings_.Stored(L"RecoveryDefScenarios"), file + L";newest;1;ffffffff*");
 }
 
 TEST_F(ManagerTest, KeysMenusAndDroppedFilesDoWhatTheButtonsDo) {

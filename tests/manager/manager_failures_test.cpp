@@ -100,6 +100,10 @@ TEST_F(ManagerTest, FailingHostObjectsLeaveListSelectionAndFileAlone) {
         screen.WaitUntilClosed(manager);
     });
     EXPECT_EQ(Suspensions(), 0);
+    FailCall(L"Vantrel.RecoveryRepository", L"Create");
+    Manage([&](UserScreen& screen, HWND manager) {
+        EXPECT_FALSE(screen.IsEnabled(manager, IDC_MANAGER_SAVE)) << "no repository";
+    });
 }
 
 TEST_F(ManagerTest, AnEditThatCannotBeStoredLeavesTheOldScenario) {

@@ -2,7 +2,12 @@
 // host behind it, and recovery files in a folder of their own.
 #pragma once
 
+#include <commctrl.h>
+
+#include <algorithm>
+
 #include "HostInterfaces.h"
+#include "app/SettingsFrame.h"
 #include "harness/ComTest.h"
 #include "harness/HelpViewer.h"
 #include "harness/ProcessWindows.h"
@@ -18,7 +23,13 @@ inline constexpr int kFrameTabs = 0x3020, kFrameApply = 0x3021;
 
 class SettingsTest : public ComTest {
 protected:
-    SettingsTest();
+    SettingsTest() {
+        const auto locator = New<IFileLocatorFolders>(L"Tovarin.FileLocator");
+        EXPECT_EQ(locator->SetTestFolder(com::Bstr(folder_.Path()).Get()), S_OK);
+        rack_.Put(L"TestOptions", settings_.Get())
+            .Put(L"RACK_FILE_LOCATOR", locator.Get())
+            .Put(L"HelpViewer", help_.Get());
+    }
 
     struct Scenario {
         std::wstring name;
@@ -26,16 +37,45 @@ protected:
         std::wstring description = {};
     };
     // A recovery file; gives its full path.
-    std::wstring MakeFile(const std::wstring& name, const std::vector<Scenario>& scenarios) const;
+    std::wstring MakeFile(const std::wstring& name, const std::vector<Scenario>& scenarios) const {
+        std::vector<tovarin::store::NamedScenario> stored;
+        for (const Scenario& made : scenarios)
+            stored.push_back({made.name, {1, made.trigger, {}, made.description}});
+        tovarin::TempFolder::Write(folder_ / name, TextOfStore(stored));
+        return folder_ / name;
+    }
 
     // Opens the settings and runs the story on the frame's window, which is cancelled when it is still open.
-    void OpenSettings(const Story& story);
+    void OpenSettings(const Story& story) {
+        tovarin::SettingsFrame frame({rack_.Get(), options_, pages_, isReadOnly_});
+        Use(
+            isReadOnly_ ? L"Test Settings (read-only)" : L"Test Settings",
+            [&] { return frame.ShowModal(nullptr), S_OK; }, story);
+    }
+    // In the Add dialog: a path and Enter; rows of its list, the first by a click, the others by Ctrl and a
+    // click.
+    static void EnterFile(UserScreen& screen, HWND dialog, const std::wstring& file) {
+        screen.Enter(dialog, kEditOfCombo, file);
+        screen.Keys({VK_RETURN});
+    }
+    static void SelectNames(UserScreen& screen, HWND dialog, const Rows& names) {
+        const HWND list = screen.Control(dialog, IDC_ADD_SCENARIO_LIST);
+        screen.Choose(dialog, IDC_ADD_SCENARIO_LIST, names.front());
+        const Rows all = screen.RowsOf(dialog, IDC_ADD_SCENARIO_LIST);
+        for (size_t row = 0; row < all.size(); ++row) {
+            if (std::find(names.begin(), names.end(), all[row]) == names.end()) continue;
+            screen.Do(
+                [=] { ListView_SetItemState(list, static_cast<int>(row), LVIS_SELECTED, LVIS_SELECTED); });
+        }
+    }
     // Presses Add and chooses scenarios of a file in the dialog.
-    static void Add(UserScreen& screen, HWND frame, const std::wstring& file, const Rows& names);
-
-    // In the Add dialog: a path and Enter; rows of its list.
-    static void EnterFile(UserScreen& screen, HWND dialog, const std::wstring& file);
-    static void SelectNames(UserScreen& screen, HWND dialog, const Rows& names);
+    static void Add(UserScreen& screen, HWND frame, const std::wstring& file, const Rows& names) {
+        screen.Press(frame, IDC_RECOVERY_ADD);
+        const HWND dialog = screen.WaitForWindow(L"Add Recovery Scenario");
+        EnterFile(screen, dialog, file);
+        SelectNames(screen, dialog, names);
+        screen.Press(dialog, IDOK);
+    }
 
     bool isReadOnly_ = false;
     std::vector<CLSID> pages_{CLSID_RecoveryPP};

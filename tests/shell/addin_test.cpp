@@ -1,95 +1,46 @@
-// The add-in between its connection and its disconnection.
+// The add-in between its connection to the host and its disconnection.
 #include <windows.h>
 
 #include <docobj.h>
 
-#include <utility>
-
-#include "HostInterfaces.h"
-#include "com/Object.h"
+#include "app/AddInManager.h"
+#include "app/SettingsPages.h"
 #include "harness/ComTest.h"
+#include "objects/Journal.h"
 
 namespace recoveryui::test {
 namespace {
 
-constexpr GUID kGroup = {0x5b0e1f0a, 0x1111, 0x4c4c, {1, 2, 3, 4, 5, 6, 7, 8}};
-constexpr ULONG kCommand = 42;
-
-class Collector final : public com::Object<Collector, ISettingsPageCollector> {
-public:
-    HRESULT STDMETHODCALLTYPE AddProvider(IUnknown* provider) noexcept override {
-        provider_ = provider;
-        return S_OK;
-    }
-    HRESULT STDMETHODCALLTYPE RemoveProvider(IUnknown*) noexcept override {
-        provider_.Reset();
-        return S_OK;
-    }
-    com::Ptr<IUnknown> provider_;
-};
-
-// A host's add-in manager, of which any part may be missing.
-class Manager final : public com::Object<Manager, IMenuCommands, IObjectRackClient> {
-public:
-    HRESULT STDMETHODCALLTYPE RegisterCommand(BSTR text, IUnknown* target, GUID* group,
-                                              ULONG* command) noexcept override {
-        text_ = com::ViewOf(text);
-        target_ = com::Query<IOleCommandTarget>(target);
-        *group = kGroup;
-        *command = kCommand;
-        return S_OK;
-    }
-    HRESULT STDMETHODCALLTYPE UnregisterCommand(ULONG) noexcept override {
-        target_.Reset();
-        ++unregistered_;
-        if (const auto addIn = std::exchange(disconnects_, nullptr)) addIn->OnDisconnection();
-        return S_OK;
-    }
-    HRESULT STDMETHODCALLTYPE GetRack(IObjectRack** rack) noexcept override { return rack_.CopyTo(rack); }
-    HRESULT STDMETHODCALLTYPE SetRack(IObjectRack* rack) noexcept override {
-        rack_ = rack;
-        return S_OK;
-    }
-    std::wstring text_;
-    com::Ptr<IOleCommandTarget> target_;
-    com::Ptr<IObjectRack> rack_;
-    IUIAddIn* disconnects_ = nullptr;  // from within the next taking back
-    int unregistered_ = 0;
-};
+// Of the host's commands.
+constexpr GUID kGroup = {0x3e0b6b4b, 0x7e0f, 0x4f35, {0x9b, 0x6c, 0x6a, 0x1d, 0x5c, 0x7d, 0x4e, 0x21}};
+constexpr ULONG kCommand = 1;
 
 class AddInTest : public ComTest {
 protected:
     AddInTest() {
-        frame_.Put(L"FRAME_PropProviderSettings", static_cast<ISettingsPageCollector*>(collector_.Get()));
+        frame_.Put(L"FRAME_PropProviderSettings", pages_->KeepAlive().Get());
         rack_.Put(L"FrameRack", frame_.Get());
         manager_->SetRack(rack_.Get());
     }
     ~AddInTest() override { addIn_->OnDisconnection(); }
 
-    HRESULT Connect() { return addIn_->OnConnection(static_cast<IMenuCommands*>(manager_.Get()), 7); }
-    bool IsConnected() const { return manager_->target_ && collector_->provider_; }
-    bool IsUntouched() const { return !manager_->target_ && !collector_->provider_; }
+    HRESULT Connect() { return addIn_->OnConnection(manager_->KeepAlive().Get(), 7); }
+    bool IsConnected() const { return manager_->Commands().size() == 1 && pages_->Classes().size() == 1; }
+    bool IsUntouched() const { return manager_->Commands().empty() && pages_->Classes().empty(); }
 
     Rack rack_, frame_;
-    com::Ptr<Collector> collector_ = Collector::Make();
-    com::Ptr<Manager> manager_ = Manager::Make();
+    const com::Ptr<tovarin::SettingsPages> pages_ = tovarin::SettingsPages::Make();
+    const com::Ptr<tovarin::AddInManager> manager_ = tovarin::AddInManager::Make(nullptr);
     com::Ptr<IUIAddIn> addIn_ = New<IUIAddIn>(L"Vantrel.RecoveryUIAddin");
 };
 
 TEST_F(AddInTest, ConnectsItsCommandAndItsSettingsPageAndTakesThemBack) {
     ASSERT_EQ(Connect(), S_OK);
     EXPECT_TRUE(IsConnected());
-    EXPECT_EQ(manager_->text_,
-              L"Recovery Scenario &Manager...;Displays the Recovery Scenario Manager dialog box");
-    CAUUID pages{};
-    const auto specifier = com::Query<ISpecifyPropertyPages>(collector_->provider_.Get());
-    ASSERT_TRUE(specifier);
-    EXPECT_EQ(specifier->GetPages(&pages), S_OK);
-    ASSERT_EQ(pages.cElems, 1u);
-    EXPECT_TRUE(IsEqualGUID(pages.pElems[0], CLSID_RecoveryPP));
-    CoTaskMemFree(pages.pElems);
-    EXPECT_EQ(specifier->GetPages(nullptr), E_POINTER);
-
+    EXPECT_EQ(manager_->Commands()[0].caption, L"Recovery Scenario &Manager...");
+    EXPECT_EQ(manager_->Commands()[0].prompt, L"Displays the Recovery Scenario Manager dialog box");
+    EXPECT_TRUE(IsEqualGUID(pages_->Classes()[0], CLSID_RecoveryPP));
+    EXPECT_EQ(New<ISpecifyPropertyPages>(L"Vantrel.RecoveryPPSpecifier")->GetPages(nullptr), E_POINTER);
     EXPECT_EQ(addIn_->OnConnection(nullptr, 0), E_INVALIDARG);
     EXPECT_TRUE(IsConnected()) << "no manager changes nothing";
     EXPECT_EQ(Connect(), S_OK) << "a second connection replaces the first";
@@ -97,16 +48,22 @@ TEST_F(AddInTest, ConnectsItsCommandAndItsSettingsPageAndTakesThemBack) {
     com::Bstr name;
     EXPECT_EQ(addIn_->get_Name(name.Put()), S_OK);
     EXPECT_EQ(name.View(), L"Recovery Scenario Manager");
-    EXPECT_EQ(manager_->unregistered_, 1);
-    manager_->disconnects_ = addIn_.Get();
+    tovarin::Journal& journal = tovarin::Journal::Instance();  // this program's own
+    journal.AddInterest();
+    manager_->OnChange([&] { addIn_->OnDisconnection(); });
     EXPECT_EQ(addIn_->OnDisconnection(), S_OK);
     EXPECT_TRUE(IsUntouched());
-    EXPECT_EQ(manager_->unregistered_, 2) << "a host that disconnects meanwhile is asked once";
+    EXPECT_EQ(journal.Text(),
+              L"SettingsPageCollector.RemoveProvider(object) -> S_OK\n"
+              L"AddInManager.UnregisterCommand(2) -> S_OK\n")
+        << "a host that disconnects meanwhile is asked once";
+    journal.RemoveInterest();
+    journal.Clear();
 }
 
 TEST_F(AddInTest, AFailingConnectionLeavesNothingBehind) {
     EXPECT_EQ(addIn_->OnConnection(nullptr, 0), E_INVALIDARG);
-    EXPECT_EQ(addIn_->OnConnection(static_cast<ISettingsPageCollector*>(collector_.Get()), 0), E_NOINTERFACE);
+    EXPECT_EQ(addIn_->OnConnection(pages_->KeepAlive().Get(), 0), E_NOINTERFACE);
     EXPECT_EQ(addIn_->OnConnection(rack_.Get(), 0), E_NOINTERFACE) << "a rack, but no menu";
     manager_->SetRack(nullptr);
     EXPECT_EQ(Connect(), E_FAIL) << "no rack";
@@ -128,7 +85,7 @@ TEST_F(AddInTest, AFailingConnectionLeavesNothingBehind) {
 
 TEST_F(AddInTest, TheCommandOpensTheManagerWhileARackIsHeld) {
     ASSERT_EQ(Connect(), S_OK);
-    const com::Ptr<IOleCommandTarget> target = manager_->target_;
+    const com::Ptr<IOleCommandTarget> target = manager_->Commands().at(0).target;
     const auto status = [&](ULONG id) {
         OLECMD command{id, 0};
         OLECMDTEXT text{OLECMDTEXTF_NAME, 1, 1, L""};
@@ -153,8 +110,8 @@ TEST_F(AddInTest, TheCommandOpensTheManagerWhileARackIsHeld) {
     EXPECT_EQ(target->Exec(&kGroup, kCommand, 0, nullptr, nullptr), OLECMDERR_E_UNKNOWNGROUP);
     ASSERT_EQ(Connect(), S_OK);
     com::Query<IObjectRackClient>(addIn_.Get())->SetRack(nullptr);
-    EXPECT_EQ(status(kCommand), DWORD{OLECMDF_SUPPORTED}) << "disabled without a rack";
-    EXPECT_EQ(target->Exec(&kGroup, kCommand, 0, nullptr, nullptr), OLECMDERR_E_DISABLED);
+    EXPECT_EQ(status(kCommand + 1), DWORD{OLECMDF_SUPPORTED}) << "disabled without a rack";
+    EXPECT_EQ(target->Exec(&kGroup, kCommand + 1, 0, nullptr, nullptr), OLECMDERR_E_DISABLED);
 }
 
 }  // namespace

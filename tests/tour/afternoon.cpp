@@ -64,9 +64,7 @@ TEST_F(Afternoon, NothingIsLostBetweenFilesRivalsDamageAndAFullDisk) {
         journal->FailCall(com::Bstr(L"RecoveryRepository").Get(), com::Bstr(L"Save").Get(), 1,
                           STG_E_MEDIUMFULL, 1);
         screen.Press(manager, IDC_MANAGER_SAVE);
-        const HWND full = screen.WaitForWindow(L"Tovarin");
-        screen.Picture(full, L"21-disk-full");
-        screen.Press(full, IDOK);
+        EXPECT_EQ(screen.AnswerBox(IDOK).substr(0, 32), L"There is no disk space remaining");
         journal->ClearFaults();
         screen.Press(manager, IDC_MANAGER_SAVE);
         EXPECT_EQ(NamesInFile(FileIn(L"second.trs")), Rows{L"Error message"});
@@ -77,9 +75,7 @@ TEST_F(Afternoon, NothingIsLostBetweenFilesRivalsDamageAndAFullDisk) {
             ASSERT_EQ(com::Create(L"Vantrel.RecoveryRepository", rival), S_OK);
             ASSERT_EQ(rival->Load(com::Bstr(FileIn(L"locked.trs")).Get(), VARIANT_FALSE), S_OK);
             Open(screen, manager, L"locked.trs");
-            const HWND message = screen.WaitForWindow(L"Tovarin");
-            screen.Picture(message, L"22-read-only-message");
-            screen.Press(message, IDOK);
+            screen.AnswerBox(IDOK);
             screen.Choose(manager, IDC_MANAGER_LIST, L"Somebody else's");
             EXPECT_FALSE(screen.IsEnabled(manager, IDC_MANAGER_EDIT));
             EXPECT_TRUE(screen.IsEnabled(manager, IDC_MANAGER_PROPERTIES));

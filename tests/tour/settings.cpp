@@ -77,9 +77,7 @@ TEST_F(Settings, ScenariosAreAssociatedMadeTheDefaultAndFoundInTheNextTest) {
         screen.Picture(frame, L"33-settings-sor");
         ShowTab(screen, frame, 0);
         screen.Press(frame, IDCANCEL);
-        const HWND question = screen.WaitForWindow(L"Tovarin");
-        screen.Picture(question, L"34-settings-question");
-        screen.Press(question, IDCANCEL);
+        screen.AnswerBox(IDCANCEL);
         screen.Press(frame, IDOK);
         EXPECT_EQ(screen.AnswerBox(IDOK),
                   L"Complete the SOR configuration on the SOR tab before you apply the settings.");
@@ -89,8 +87,7 @@ TEST_F(Settings, ScenariosAreAssociatedMadeTheDefaultAndFoundInTheNextTest) {
         screen.WaitUntilClosed(frame);
 
         ChooseFromMenuBar(screen, host, L't', L"&New\tCtrl+N");
-        const HWND save = screen.WaitForWindow(L"Tovarin");
-        screen.Press(save, IDNO);
+        screen.AnswerBox(IDNO);
         frame = OpenSettings(screen, host);
         EXPECT_EQ(screen.RowsOf(frame, IDC_RECOVERY_LIST), ordered) << "a new test starts from the defaults";
         EXPECT_EQ(screen.Chosen(frame, IDC_RECOVERY_ACTIVATION), Rows{L"Never"});
