@@ -125,9 +125,10 @@ TEST_F(HostTest, AChangedTestIsLeftOnlyWithTheUsersConsent) {
     services.FillRacks();
     services.Find<ITestFile>(L"TestOptions")->SetSettingsRegistryPath(com::Bstr(kSettingsPath).Get());
     tovarin::OpenTest test(services);
-    const auto change = [&](long value) {
-        services.Find<ITestOptions>(L"TestOptions")
-            ->SetOptionValue(nullptr, com::Bstr(L"Enabled").Get(), com::Variant(value).Get(), 0, 1, 0, 3, 0);
+    const auto options = services.Find<ITestOptions>(L"TestOptions");
+    const auto change = [&](long value, const wchar_t* section = L"") {
+        options->SetOptionValue(com::Bstr(section).Get(), com::Bstr(L"Enabled").Get(),
+                                com::Variant(value).Get(), 0, 1, 0, 3, 0);
     };
     // What a test asks before it is left, and the user's answer.
     const auto leave = [&](WORD answer, const std::wstring& question, const std::function<bool()>& leaving) {
@@ -136,7 +137,8 @@ TEST_F(HostTest, AChangedTestIsLeftOnlyWithTheUsersConsent) {
     };
     const std::wstring path = folder / L"Basket.tvt";
     test.New(nullptr);
-    EXPECT_TRUE(test.MayLeave(nullptr));
+    change(1, L"GlobalVariables");
+    EXPECT_TRUE(test.MayLeave(nullptr)) << "values that the pages share are never stored";
     change(1);
     EXPECT_FALSE(leave(IDCANCEL, L"Save the changes to Untitled?", [&] { return test.MayLeave(nullptr); }));
     {
@@ -159,9 +161,15 @@ TEST_F(HostTest, AChangedTestIsLeftOnlyWithTheUsersConsent) {
     SetFileAttributesW(path.c_str(), FILE_ATTRIBUTE_READONLY);
     test.OpenFile(nullptr, path);
     EXPECT_TRUE(test.IsReadOnly());
-    const std::wstring missing = folder / L"Missing.tvt";
-    leave(IDOK, L"The test " + missing + L" could not be opened (STG_E_FILENOTFOUND).",
-          [&] { return test.OpenFile(nullptr, missing), true; });
+    com::Variant enabled;
+    options->GetOptionValue(nullptr, com::Bstr(L"Enabled").Get(), enabled.Put(), 0, 0);
+    EXPECT_EQ(enabled.Get().lVal, 1);
+    change(1);
+    EXPECT_FALSE(test.IsChanged()) << "the same value is no change";
+    const std::wstring foreign = folder / L"Foreign.tvt";
+    tovarin::TempFolder::Write(foreign, "{");
+    leave(IDOK, L"The test " + foreign + L" could not be opened (STG_E_DOCFILECORRUPT).",
+          [&] { return test.OpenFile(nullptr, foreign), true; });
     EXPECT_EQ(test.Name(), L"Basket.tvt");
 }
 

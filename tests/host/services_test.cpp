@@ -84,50 +84,8 @@ TEST_F(HostServices, TheLocatorLooksInTheTestsFolderThenInTheProducts) {
 
 class HostOptions : public HostServices {
 protected:
-    // The values of the open test that are asked for most.
-    std::wstring Values() const {
-        return settings_.Stored(L"RecoveryScenarios") + L" " + settings_.Stored(L"Enabled");
-    }
-    bool Modified() const {
-        VARIANT_BOOL modified = VARIANT_FALSE;
-        EXPECT_EQ(settings_.File()->IsModified(&modified), S_OK);
-        return modified == VARIANT_TRUE;
-    }
-
     test::TestSettings settings_;
 };
-
-TEST_F(HostOptions, ATestKeepsItsOwnValuesAndANewOneStartsFromTheDefaults) {
-    ITestFile* const file = settings_.File();
-    EXPECT_EQ(Values(), L"- -");
-    settings_.Store(L"RecoveryScenarios", Variant(L"mine"));
-    settings_.Store(L"Enabled", Variant(0L));
-    settings_.Store(L"RecoveryDefScenarios", Variant(L"ours"), true);
-    settings_.Store(L"Enabled", Variant(1L), true);
-    EXPECT_EQ(Values(), L"mine 0");
-    EXPECT_EQ(settings_.Stored(L"RecoveryDefScenarios"), L"ours");
-
-    EXPECT_TRUE(Modified());
-    const std::wstring path = MakeFile(L"my.test");
-    EXPECT_EQ(file->OpenTest(Bstr(path).Get()), STG_E_DOCFILECORRUPT);
-    EXPECT_EQ(file->SaveTest(nullptr), E_INVALIDARG);
-    EXPECT_EQ(file->SaveTest(Bstr(folder_ / L"none\\my.test").Get()), STG_E_PATHNOTFOUND);
-    EXPECT_TRUE(Modified());
-    EXPECT_EQ(file->SaveTest(Bstr(path).Get()), S_OK);
-    EXPECT_FALSE(Modified());
-
-    EXPECT_EQ(file->NewTest(), S_OK);
-    EXPECT_EQ(Values(), L"ours 1");
-    settings_.Store(L"Enabled", Variant(1L));
-    EXPECT_FALSE(Modified());
-    EXPECT_EQ(file->OpenTest(Bstr(folder_ / L"none.test").Get()), STG_E_FILENOTFOUND);
-    EXPECT_EQ(file->OpenTest(Bstr(path).Get()), S_OK);
-    EXPECT_EQ(Values(), L"mine 0");
-
-    // Values that the pages share are never stored.
-    settings_.SetGlobal(L"g_bDirty", Variant(true));
-    EXPECT_FALSE(Modified());
-}
 
 TEST_F(HostOptions, DefaultsAreRegistryValuesThatForeignHandsMaySpoil) {
     constexpr const wchar_t* kName = L"RecoveryDefScenarios";

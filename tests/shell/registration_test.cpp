@@ -56,22 +56,16 @@ protected:
                                             nullptr, &count, &size);
         return status == ERROR_SUCCESS ? static_cast<int>(count) : -1;
     }
-    // Every key below the root of the classes, but the three that belong to all.
-    static std::wstring Leftovers() {
-        std::wstring found;
+    // How many keys there are below the root of the classes, but for the three that belong to all.
+    static DWORD Leftovers() {
+        DWORD found = 0;
         for (const wchar_t* parent : {L"", L"CLSID", L"TypeLib", L"Interface"}) {
-            HKEY key = nullptr;
-            if (RegOpenKeyExW(HKEY_CLASSES_ROOT, parent, 0, KEY_READ, &key) != ERROR_SUCCESS) continue;
-            wchar_t name[256];
-            for (DWORD i = 0, size = 256;
-                 RegEnumKeyExW(key, i, name, &size, nullptr, nullptr, nullptr, nullptr) == ERROR_SUCCESS;
-                 ++i, size = 256) {
-                const bool shared =
-                    !*parent && (_wcsicmp(name, L"CLSID") == 0 || _wcsicmp(name, L"TypeLib") == 0 ||
-                                 _wcsicmp(name, L"Interface") == 0);
-                if (!shared) found += std::wstring(name) + L" ";
-            }
-            RegCloseKey(key);
+            DWORD keys = 0;
+            const shell::RegistryKey key = shell::OpenKey(HKEY_CLASSES_ROOT, parent);
+            if (!key) continue;
+            RegQueryInfoKeyW(key.Get(), nullptr, nullptr, nullptr, &keys, nullptr, nullptr, nullptr, nullptr,
+                             nullptr, nullptr, nullptr);
+            found += *parent ? keys - 1 : keys;  // this one itself is below the root
         }
         return found;
     }
@@ -105,7 +99,7 @@ TEST_F(RegistrationTest, EveryClassIsFoundByFileNameAndCountedUntilTheLastIsGone
     EXPECT_EQ(Value(LibraryKey()), L"RecoveryUI.dll");
 
     EXPECT_EQ(Unregister(), S_OK);
-    EXPECT_EQ(Leftovers(), L"");
+    EXPECT_EQ(Leftovers(), 0u);
     EXPECT_EQ(Unregister(), E_FAIL) << "there is nothing to unregister";
 }
 
@@ -120,7 +114,7 @@ TEST_F(RegistrationTest, MissingAndForeignCountsAreZero) {
     for (const com::ClassEntry& entry : shell::Classes())
         RegDeleteKeyValueW(HKEY_CLASSES_ROOT, ServerKey(entry).c_str(), L"RefCount");
     EXPECT_EQ(Unregister(), S_OK);
-    EXPECT_EQ(Leftovers(), L"");
+    EXPECT_EQ(Leftovers(), 0u);
 }
 
 TEST_F(RegistrationTest, AFailureHalfWayTakesBackWhatWasDone) {
@@ -135,7 +129,7 @@ TEST_F(RegistrationTest, AFailureHalfWayTakesBackWhatWasDone) {
                   ERROR_SUCCESS);
         RegCloseKey(made);
         EXPECT_TRUE(FAILED(Register())) << Utf8(key);
-        EXPECT_EQ(Leftovers(), L"") << Utf8(key);
+        EXPECT_EQ(Leftovers(), 0u) << Utf8(key);
     }
     EXPECT_EQ(Register(), S_OK) << "and the way is free again";
 }
