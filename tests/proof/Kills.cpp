@@ -7,6 +7,7 @@
 #include <filesystem>
 #include <fstream>
 #include <random>
+#include <thread>
 #include <vector>
 
 #include "harness/Children.h"
@@ -104,26 +105,29 @@ public:
         return count;
     }
 
-    // Editors that take the file from each other: each version is replaced by one of them.
-    Count Race(long rounds) {
+    // Two editors that take the file from each other: every version is replaced by one of them, once.
+    Count Race(long rounds, const wchar_t* way) {
         Count count;
         Prepare(L"race.trs", true);
-        const std::wstring arguments =
-            L"race \"" + (folder_ / L"race.trs").wstring() + L"\" " + std::to_wstring(rounds);
-        std::vector<int> replaced;
-        const PROCESS_INFORMATION rival = test::StartChild(arguments, nullptr, kSaver);
-        test::RunChild(
-            arguments,
-            [&](const std::string& line) { replaced.push_back(std::stoi(line.substr(line.find(' ')))); },
-            kSaver);
-        WaitForSingleObject(rival.hProcess, INFINITE);
-        CloseHandle(rival.hProcess);
-        count.kills = static_cast<long>(replaced.size());
-        // What one of them has replaced, the other has not: the versions go up by one with each of both.
-        for (size_t i = 1; i < replaced.size(); ++i) count.problems += replaced[i] <= replaced[i - 1];
-        const int last = VersionIn(L"race.trs");
-        count.changed = last - 1;
-        count.problems += last < 1 || last - 1 > 2 * rounds || last - 1 < count.kills;
+        const std::wstring arguments = way + Quoted(L"race.trs") + L" " + std::to_wstring(rounds);
+        std::array<std::vector<int>, 2> replaced;
+        std::array<DWORD, 2> codes{};
+        const auto edit = [&](size_t editor) {
+            const auto hear = [&](const std::string& line) {
+                replaced[editor].push_back(std::stoi(line.substr(line.find(' '))));
+            };
+            codes[editor] = test::RunChild(arguments, hear, kSaver);
+        };
+        std::thread rival(edit, 1);
+        edit(0);
+        rival.join();
+        auto& all = replaced[0];
+        all.insert(all.end(), replaced[1].begin(), replaced[1].end());
+        std::sort(all.begin(), all.end());
+        for (size_t i = 0; i < all.size(); ++i) count.problems += all[i] != static_cast<int>(i) + 1;
+        count.kills = static_cast<long>(all.size());
+        count.changed = VersionIn(L"race.trs") - 1;
+        count.problems += count.changed != count.kills || codes[0] || codes[1] || count.changed == 0;
         return count;
     }
 
@@ -165,22 +169,21 @@ int Kills(const Options& options) {
     KillRun run;
     const Count places = run.AtEveryPlace();
     const Count random = run.AtRandom(rounds, seed, L"loop");
-    const Count race = run.Race(std::max(rounds / 10, 20L));
-    // A store that writes into the file itself must be found out.
+    const Count race = run.Race(std::max(rounds / 10, 20L), L"race ");
+    // A store that writes into the file itself must be found out, and editors that do not hold their file.
     const Count planted = run.AtRandom(std::min(rounds, 100L), seed, L"bad-loop");
+    const Count rude = run.Race(20, L"bad-race ");
     std::printf(
         "PROOF kills: at every place %ld kills, %ld after the change, %ld problems; at random %ld kills, %ld "
-        "with "
-        "a new version, %ld problems; two editors %d versions, %ld problems; planted bad store found %ld "
-        "times; "
-        "seed %u, %llu s\n",
+        "with a new version, %ld problems; two editors %ld versions, %ld problems; planted bad store found "
+        "%ld times, planted overwriting %ld times; seed %u, %llu s\n",
         places.kills, places.changed, places.problems, random.kills, random.changed, random.problems,
-        static_cast<int>(race.changed), race.problems, planted.problems, seed,
-        (GetTickCount64() - begun) / 1000);
+        race.changed, race.problems, planted.problems, rude.problems, seed, (GetTickCount64() - begun) / 1000);
     const bool isLively = random.changed > rounds / 2;
     if (!isLively) std::printf("  PROBLEM the savers hardly ever got to save\n");
-    if (planted.problems == 0) std::printf("  PROBLEM the bad store was not found\n");
-    return places.problems + random.problems + race.problems == 0 && isLively && planted.problems > 0 ? 0 : 1;
+    const bool found = planted.problems > 0 && rude.problems > 0;
+    if (!found) std::printf("  PROBLEM a planted fault was not found\n");
+    return places.problems + random.problems + race.problems == 0 && isLively && found ? 0 : 1;
 }
 
 }  // namespace recoveryui::proof

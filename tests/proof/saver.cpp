@@ -3,7 +3,8 @@
 //   saver loop|bad-loop FILE         saves the next version for ever; "bad" overwrites the file in place
 //   saver die FILE CALL              ends itself at the given place of its next save: 1 before the first call
 //                                    of the file system, 2 after it, 3 before the second ... 0: counts them
-//   saver race FILE ROUNDS           opens for editing, saves and lets go; tells which version it replaced
+//   saver race|bad-race FILE ROUNDS  opens for editing, saves and lets go; tells which version it replaced;
+//                                    "bad" only looks at what it then replaces
 #include <windows.h>
 
 #include <cstdio>
@@ -97,18 +98,26 @@ int Die(const std::wstring& path, long at) {
     return FAILED(hr) ? 2 : 0;
 }
 
-int Race(const std::wstring& path, long rounds) {
+int Race(const std::wstring& path, long rounds, bool bad) {
     for (long round = 0; round < rounds;) {
         tovarin::StoreFile file;
         std::string bytes;
-        if (FAILED(file.Open(path, false, bytes))) {
+        if (FAILED(file.Open(path, bad, bytes))) {
             Sleep(0);
             continue;
         }
         const int version = VersionOf(bytes);
         if (version < 0) return 1;
         ++round;
-        if (SUCCEEDED(file.Save(L"", TextOfVersion(version + 1)))) std::printf("replaced %d\n", version);
+        if (bad) {
+            file = {};
+            Sleep(20);
+        }
+        // A save whose file another editor takes right afterwards fails, and has replaced it.
+        file.whenFree = [version](bool replaced) {
+            if (replaced) std::printf("replaced %d\n", version);
+        };
+        static_cast<void>(file.Save(path, TextOfVersion(version + 1)));
     }
     return 0;
 }
@@ -122,5 +131,6 @@ int wmain(int count, wchar_t** arguments) {
     const std::wstring way = arguments[1], path = arguments[2];
     if (way == L"loop" || way == L"bad-loop") return Loop(path, way == L"bad-loop");
     if (count < 4) return 3;
-    return way == L"die" ? Die(path, _wtol(arguments[3])) : Race(path, _wtol(arguments[3]));
+    const long number = _wtol(arguments[3]);
+    return way == L"die" ? Die(path, number) : Race(path, number, way == L"bad-race");
 }
