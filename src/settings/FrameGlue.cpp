@@ -54,11 +54,11 @@ void EnableButton(HWND frame, int id, const std::optional<bool>& enabled) noexce
 void FrameGlue::Install(HWND frame) {
     if (GetPropW(frame, kGlueProperty)) return;
     const std::shared_ptr<FrameGlue> glue(new FrameGlue(frame));
-    if (!SetWindowSubclass(frame, &FrameGlue::Procedure, kSubclassId,
-                           reinterpret_cast<DWORD_PTR>(glue.get())))
-        return;
-    SetPropW(frame, kGlueProperty, glue.get());
-    glue->self_ = glue;
+    if (!SetPropW(frame, kGlueProperty, glue.get())) return;
+    if (SetWindowSubclass(frame, &FrameGlue::Procedure, kSubclassId, reinterpret_cast<DWORD_PTR>(glue.get())))
+        glue->self_ = glue;
+    else
+        RemovePropW(frame, kGlueProperty);
 }
 
 LRESULT CALLBACK FrameGlue::Procedure(HWND, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR,

@@ -65,17 +65,21 @@ std::wstring SelectedText(HWND control) {
 
 bool CopyToClipboard(HWND owner, const std::wstring& text) {
     const size_t bytes = (text.size() + 1) * sizeof(wchar_t);
-    if (!OpenClipboard(owner)) return false;
-    EmptyClipboard();
     const HGLOBAL memory = GlobalAlloc(GMEM_MOVEABLE, bytes);
-    if (memory) {
-        std::memcpy(GlobalLock(memory), text.c_str(), bytes);
+    void* const room = memory ? GlobalLock(memory) : nullptr;
+    bool taken = false;
+    if (room) {
+        std::memcpy(room, text.c_str(), bytes);
         GlobalUnlock(memory);
+        // What was copied before goes only when there is something to take its place.
+        if (OpenClipboard(owner)) {
+            EmptyClipboard();
+            taken = SetClipboardData(CF_UNICODETEXT, memory) != nullptr;
+            CloseClipboard();
+        }
     }
     // The clipboard owns the memory only once it has taken it.
-    const bool taken = memory && SetClipboardData(CF_UNICODETEXT, memory);
-    if (!taken) GlobalFree(memory);
-    CloseClipboard();
+    if (memory && !taken) GlobalFree(memory);
     return taken;
 }
 
