@@ -131,6 +131,7 @@ HRESULT StoreFile::Save(std::wstring_view path, std::string_view bytes) {
 // Readers are waited for, a little.
 HRESULT StoreFile::Replace(const std::wstring& path, const std::wstring& fresh, Handle& taken,
                            bool& replaced) {
+    const Stamp before = StampOf(path);
     const DWORD flags = taken ? MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH : MOVEFILE_WRITE_THROUGH;
     for (int attempt = 1;; ++attempt) {
         taken.reset();
@@ -142,6 +143,8 @@ HRESULT StoreFile::Replace(const std::wstring& path, const std::wstring& fresh, 
         if (replaced || (FAILED(retaken) && retaken != STG_E_FILENOTFOUND)) return retaken;
         const bool held = error == ERROR_ACCESS_DENIED || error == ERROR_SHARING_VIOLATION;
         if (!held) return StorageCode(error);
+        // Whoever held it may have saved, and let it go again.
+        if (taken && StampOf(path) != before) return STG_E_NOTCURRENT;
         if (attempt == kReplaceAttempts) return taken ? STG_E_SHAREVIOLATION : StorageCode(error);
         Sleep(kPauseMilliseconds);
     }
