@@ -17,8 +17,8 @@ std::wstring TextOf(HWND window) {
     return text;
 }
 
-void SetText(HWND window, const std::wstring& text) {
-    SetWindowTextW(window, text.c_str());
+bool SetText(HWND window, const std::wstring& text) {
+    return SetWindowTextW(window, text.c_str()) != FALSE;
 }
 
 bool IsChecked(HWND button) {

@@ -9,7 +9,8 @@ namespace recoveryui::ui {
 
 // Text of any length.
 std::wstring TextOf(HWND window);
-void SetText(HWND window, const std::wstring& text);
+// False where the window has no memory for it.
+bool SetText(HWND window, const std::wstring& text);
 
 bool IsChecked(HWND button);
 void SetChecked(HWND button, bool checked);

@@ -1,5 +1,7 @@
 #include "wizard/OperationFuncPP.h"
 
+#include <new>
+
 #include "com/Create.h"
 #include "model/FileDialog.h"
 #include "model/FileLocator.h"
@@ -189,12 +191,13 @@ void OperationFuncPP::ShowFunction() {
 void OperationFuncPP::OnNameTyped() {
     if (!loaded_ || mode_ != FunctionMode::Define) return;
     std::wstring name = ui::TextOf(Item(IDC_FUNC_NAME));
-    newText_ = RenameFunction(newText_, name);
-    newName_ = std::move(name);
+    std::wstring text = RenameFunction(newText_, name);
     {
         Muted muted(*this);
-        ui::SetText(Item(IDC_FUNC_TEXT), newText_);
+        if (!ui::SetText(Item(IDC_FUNC_TEXT), text)) throw std::bad_alloc();
     }
+    newText_ = std::move(text);
+    newName_ = std::move(name);
     Refresh();
 }
 

@@ -15,8 +15,7 @@ void ScenDescriptionPP::OnInit() {
     WizardPPBase::OnInit();
     if (!State().repository) return;
     if (!State().name.empty()) {
-        // Before all that may fail: what is not shown would be taken for deleted.
-        ui::SetText(Item(IDC_SCEN_DESCRIPTION), State().description);
+        isDescriptionShown_ = ui::SetText(Item(IDC_SCEN_DESCRIPTION), State().description);
         ui::SetText(Item(IDC_SCEN_NAME), State().name);
         SetCanAdvance(true);
         initialName_ = State().name;
@@ -41,7 +40,9 @@ Leave ScenDescriptionPP::OnNext() {
         return Leave::Stay;
     }
     State().name = std::move(name);
-    State().description = ui::TextOf(Item(IDC_SCEN_DESCRIPTION));
+    std::wstring description = ui::TextOf(Item(IDC_SCEN_DESCRIPTION));
+    // What could not be shown has not been deleted.
+    if (isDescriptionShown_ || !description.empty()) State().description = std::move(description);
     return GoOn();
 }
 

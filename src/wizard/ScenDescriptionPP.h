@@ -20,6 +20,7 @@ private:
     bool IsTaken(const std::wstring& name) const;
 
     std::wstring initialName_;
+    bool isDescriptionShown_ = true;
 };
 
 }  // namespace recoveryui::wizard
