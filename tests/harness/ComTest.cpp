@@ -46,11 +46,7 @@ ComTest::~ComTest() {
     RunPendingMessages();
     EXPECT_EQ(CallEntryPoint(component_, "DllCanUnloadNow"), S_OK) << "objects of the component are alive";
     EXPECT_EQ(CallEntryPoint(standIns_, "DllCanUnloadNow"), S_OK) << "stand-ins are alive";
-    for (const HWND window : TopLevelWindows()) {
-        const std::wstring name = ClassOf(window);
-        if (name == L"IME" || name == L"MSCTFIME UI") continue;  // the system's own
-        ADD_FAILURE() << "a window is left: " << Utf8(name) << " \"" << Utf8(TextOf(window)) << "\"";
-    }
+    EXPECT_EQ(WindowsLeft(), "") << "windows are left";
     LeaveApartment();
     FreeLibrary(standIns_);
     FreeLibrary(component_);

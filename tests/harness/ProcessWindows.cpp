@@ -115,6 +115,16 @@ std::wstring TextOf(HWND window) {
     return text;
 }
 
+std::string WindowsLeft() {
+    std::string text;
+    for (const HWND window : TopLevelWindows()) {
+        const std::wstring name = ClassOf(window);
+        if (name != L"IME" && name != L"MSCTFIME UI")
+            text += " window " + Utf8(name) + " \"" + Utf8(TextOf(window)) + "\"";
+    }
+    return text;
+}
+
 std::wstring ClipboardText() {
     std::wstring text;
     if (!OpenClipboard(nullptr)) return text;

@@ -22,6 +22,9 @@ HWND FindBox();
 // Empty when the window does not answer in time.
 std::wstring TextOf(HWND window);
 
+// The windows of this process but the system's own, each ' window <class> "<text>"'.
+std::string WindowsLeft();
+
 // The text in the clipboard.
 std::wstring ClipboardText();
 

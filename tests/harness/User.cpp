@@ -23,6 +23,23 @@ struct Question {
 using SharedQuestion = std::shared_ptr<Question>;
 using Action = std::function<void()>;
 
+void Act(const UiThread& ui, const User::Script& script, unsigned patience) {
+    try {
+        UserScreen screen(ui, GetTickCount64() + patience * 1000ULL);
+        script(screen);
+        const ULONGLONG grace = testing::Test::HasFailure() ? 500 : std::min(5U, patience) * 1000;
+        const ULONGLONG deadline = GetTickCount64() + grace;
+        while (!ui.Ended() && GetTickCount64() < deadline) Sleep(1);
+        if (!ui.Ended()) ADD_FAILURE() << "The user is done, but windows stay open.\n" << DescribeWindows();
+    } catch (const std::exception& problem) {
+        ADD_FAILURE() << "The user cannot go on: " << problem.what() << "\n" << DescribeWindows();
+    }
+    while (!ui.Ended()) {
+        CloseWindows();
+        Sleep(20);
+    }
+}
+
 }  // namespace
 
 UiThread::UiThread() {
@@ -91,36 +108,22 @@ void PumpUntil(HANDLE signal) {
     }
 }
 
-User::User(Script script, unsigned patienceSeconds) : script_(std::move(script)), patience_(patienceSeconds) {
-    thread_ = CreateThread(nullptr, 0, Run, this, 0, nullptr);
-}
+Beside::Beside(std::function<void(const UiThread&)> act)
+    : act_(std::move(act)), thread_(CreateThread(nullptr, 0, Run, this, 0, nullptr)) {}
 
-User::~User() {
+Beside::~Beside() {
     ui_.End();
     PumpUntil(thread_);
     CloseHandle(thread_);
 }
 
-DWORD WINAPI User::Run(void* user) {
-    static_cast<User*>(user)->Act();
+DWORD WINAPI Beside::Run(void* beside) {
+    const auto* const self = static_cast<Beside*>(beside);
+    self->act_(self->ui_);
     return 0;
 }
 
-void User::Act() {
-    try {
-        UserScreen screen(ui_, GetTickCount64() + patience_ * 1000ULL);
-        script_(screen);
-        const ULONGLONG grace = testing::Test::HasFailure() ? 500 : std::min(5U, patience_) * 1000;
-        const ULONGLONG deadline = GetTickCount64() + grace;
-        while (!ui_.Ended() && GetTickCount64() < deadline) Sleep(1);
-        if (!ui_.Ended()) ADD_FAILURE() << "The user is done, but windows stay open.\n" << DescribeWindows();
-    } catch (const std::exception& problem) {
-        ADD_FAILURE() << "The user cannot go on: " << problem.what() << "\n" << DescribeWindows();
-    }
-    while (!ui_.Ended()) {
-        CloseWindows();
-        Sleep(20);
-    }
-}
+User::User(Script script, unsigned patienceSeconds)
+    : Beside([=](const UiThread& ui) { Act(ui, script, patienceSeconds); }) {}
 
 }  // namespace recoveryui::test

@@ -50,24 +50,28 @@ void RunPendingMessages();
 // Runs this thread's messages until the handle is signalled.
 void PumpUntil(HANDLE signal);
 
-class User {
+// A second thread beside a modal call of this one.
+class Beside {
+public:
+    explicit Beside(std::function<void(const UiThread&)> act);
+    // Waits for its end, with the messages still running.
+    ~Beside();
+    Beside(const Beside&) = delete;
+    Beside& operator=(const Beside&) = delete;
+
+private:
+    static DWORD WINAPI Run(void* beside);
+
+    std::function<void(const UiThread&)> act_;
+    UiThread ui_;
+    HANDLE thread_;
+};
+
+class User : public Beside {
 public:
     using Script = std::function<void(UserScreen&)>;
 
     explicit User(Script script, unsigned patienceSeconds = 20);
-    // Waits for the script, with the messages still running.
-    ~User();
-    User(const User&) = delete;
-    User& operator=(const User&) = delete;
-
-private:
-    static DWORD WINAPI Run(void* user);
-    void Act();
-
-    Script script_;
-    unsigned patience_;
-    UiThread ui_;
-    HANDLE thread_ = nullptr;
 };
 
 }  // namespace recoveryui::test

@@ -33,7 +33,6 @@ bool Player::ReadBoxAway() {
     const HWND box = test::FindBox();
     if (!box) return false;
     const std::wstring caption = test::TextOf(box), text = test::TextOf(GetDlgItem(box, test::kBoxText));
-    actor_.boxes_.push_back(text);
     if (caption != L"Tovarin" && !caption.empty())
         actor_.problems_.push_back("an unexpected message: " + test::Utf8(caption) + ": " + test::Utf8(text));
     for (const WORD id : {IDCANCEL, IDNO, IDOK}) {
@@ -115,24 +114,9 @@ bool Player::CloseWithAnswer(HWND window, WORD answer) {
     return asked;
 }
 
-HRESULT Actor::During(const std::function<HRESULT()>& call, Script script) {
-    test::UiThread ui;
-    struct Parts {
-        Actor* actor;
-        const test::UiThread* ui;
-        const Script* script;
-    } parts{this, &ui, &script};
-    const auto run = [](void* given) -> DWORD {
-        const auto& parts = *static_cast<Parts*>(given);
-        parts.actor->Act(*parts.ui, *parts.script);
-        return 0;
-    };
-    const HANDLE user = CreateThread(nullptr, 0, run, &parts, 0, nullptr);
-    const HRESULT result = call();
-    ui.End();
-    test::PumpUntil(user);
-    CloseHandle(user);
-    return result;
+HRESULT Actor::During(const std::function<HRESULT()>& call, const Script& script) {
+    const test::Beside user([&](const test::UiThread& ui) { Act(ui, script); });
+    return call();
 }
 
 void Actor::Act(const test::UiThread& ui, const Script& script) {

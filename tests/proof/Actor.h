@@ -51,14 +51,12 @@ public:
 
     // Makes the modal call on this thread while the script runs on another; whatever is open when the
     // script ends is closed.
-    HRESULT During(const std::function<HRESULT()>& call, Script script);
+    HRESULT During(const std::function<HRESULT()>& call, const Script& script);
 
     // Why the script ended early; empty when it came to its end.
     const std::string& GaveUp() const { return gaveUp_; }
     // What must not be, whatever fails: a window that does not answer, no way out.
     const std::vector<std::string>& Problems() const { return problems_; }
-    // The texts of the message boxes that were read.
-    const std::vector<std::wstring>& Boxes() const { return boxes_; }
 
 private:
     friend class Player;
@@ -69,7 +67,6 @@ private:
     std::function<void()> lift_;
     std::string gaveUp_;
     std::vector<std::string> problems_;
-    std::vector<std::wstring> boxes_;
 };
 
 }  // namespace recoveryui::proof

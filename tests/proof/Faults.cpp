@@ -3,12 +3,13 @@
 
 #include <algorithm>
 #include <cstdio>
-#include <exception>
+#include <functional>
 #include <map>
+#include <numeric>
 #include <random>
-#include <set>
 #include <sstream>
 #include <stdexcept>
+#include <utility>
 
 #include "harness/Children.h"
 #include "harness/ProcessWindows.h"
@@ -23,11 +24,26 @@ constexpr unsigned kWatchdogSeconds = 120;  // a patient user alone takes a minu
 constexpr size_t kBlock = 300;              // playings of one process
 constexpr Outside kKinds[] = {Outside::Memory, Outside::Platform, Outside::Host};
 
+using Words = std::vector<std::string>;
+
 const char* NameOf(Outside outside) {
     return kOutsideNames[static_cast<int>(outside)];
 }
 std::wstring Wide(const std::string& text) {
     return {text.begin(), text.end()};
+}
+
+Words Split(const std::string& list) {
+    Words words;
+    std::stringstream stream(list);
+    for (std::string word; std::getline(stream, word, ',');) words.push_back(word);
+    return words;
+}
+std::string Join(const Words& words, size_t first, size_t most) {
+    std::string list;
+    for (size_t i = first; i < words.size() && i < first + most; ++i)
+        list += (i > first ? "," : "") + words[i];
+    return list;
 }
 
 // A fault in one word: the kind's first letter, "*" when it lasts, the number of the call ("m*12").
@@ -42,44 +58,37 @@ Fault Parse(const std::string& word) {
     }
     throw std::runtime_error("not a fault: " + word);
 }
-std::vector<std::string> Words(const std::string& list) {
-    std::vector<std::string> words;
-    std::stringstream stream(list);
-    for (std::string word; std::getline(stream, word, ',');) words.push_back(word);
+
+// Every call and the one behind the last, or some by the seed; each once and for ever.
+Words Chosen(const Rehearsal& rehearsal, long most, unsigned seed) {
+    Words words;
+    for (const Outside outside : kKinds) {
+        std::vector<long> numbers(static_cast<size_t>(rehearsal.Calls(outside) + (most <= 0)));
+        std::iota(numbers.begin(), numbers.end(), 1L);
+        if (most > 0) {
+            std::shuffle(numbers.begin(), numbers.end(), std::mt19937(seed));
+            numbers.resize(std::min(numbers.size(), static_cast<size_t>(most)));
+            std::sort(numbers.begin(), numbers.end());
+        }
+        for (const bool lasting : {false, true})
+            for (const long nth : numbers) words.push_back(Word({outside, nth, lasting}));
+    }
     return words;
 }
 
-std::vector<Journey> Journeys() {
-    std::vector<Journey> all;
-    for (const auto part : {WizardJourneys(), ManagerJourneys(), SettingsJourneys(), ShellJourneys()})
-        all.insert(all.end(), part.begin(), part.end());
-    return all;
+// The one of that name; without a name all but the planted ones.
+std::vector<Journey> JourneysNamed(const std::wstring& name) {
+    std::vector<Journey> found;
+    for (const auto* part :
+         {&wizardJourneys, &managerJourneys, &settingsJourneys, &shellJourneys, &plantedJourneys})
+        for (const Journey& journey : *part)
+            if (name.empty() ? !journey.sign : test::Utf8(name) == journey.name) found.push_back(journey);
+    if (found.empty()) throw std::runtime_error("no such journey: " + test::Utf8(name));
+    return found;
 }
-
-Journey JourneyNamed(const std::wstring& name) {
-    std::vector<Journey> all = Journeys();
-    all.insert(all.end(), PlantedJourneys().begin(), PlantedJourneys().end());
-    for (const Journey& journey : all)
-        if (test::Utf8(name) == journey.name) return journey;
-    throw std::runtime_error("no such journey: " + test::Utf8(name));
-}
-
-// A process that plays.
-struct Theatre {
-    Theatre() {
-        test::ReportCrashes();
-        test::StartWatchdog(kWatchdogSeconds);
-        LoadModules();
-    }
-    // Whatever the modules' ends would do is another test's matter.
-    ~Theatre() {
-        std::fflush(stdout);
-        TerminateProcess(GetCurrentProcess(), std::uncaught_exceptions() ? 1 : 0);
-    }
-};
 
 struct Totals {
-    long playings = 0, failed = 0, done = 0, problems = 0;
+    long calls = 0, playings = 0, failed = 0, done = 0, problems = 0;
     long once = 0;  // left behind, and not again in three more playings in another process
 };
 
@@ -88,41 +97,55 @@ class Season {
 public:
     explicit Season(const Journey& journey) : journey_(journey.name) {}
 
-    void Play(const std::vector<std::string>& faults) {
-        for (size_t next = 0; next < faults.size();) {
-            const size_t end = std::min(faults.size(), next + kBlock);
-            std::string list;
-            for (size_t i = next; i < end; ++i) list += (i > next ? "," : "") + faults[i];
+    // Without faults the first process chooses them, and says so.
+    void Play(Words faults, const std::wstring& choice) {
+        size_t next = 0;
+        do {
+            const size_t end = faults.empty() ? kBlock : std::min(faults.size(), next + kBlock);
+            const std::wstring what =
+                faults.empty() ? choice : L" --calls " + Wide(Join(faults, next, kBlock));
             size_t ended = 0;
-            const DWORD code = test::RunChild(L"play --journey " + Wide(journey_) + L" --calls " + Wide(list),
-                                              [&](const std::string& line) { ended += Hear(line); });
+            const DWORD code = Run(what, [&](const std::string& line) {
+                if (line.rfind("all ", 0) == 0) faults = Split(line.substr(4));
+                ended += Hear(line);
+            });
+            if (faults.empty()) throw std::runtime_error(journey_ + " cannot be played:" + said_);
             if (code != 0) {
                 // It died of one; the next process goes on behind it.
                 said_ += "\n    the process ended with " + std::to_string(code);
-                if (current_.empty()) current_ = faults[std::min(next + ended, end - 1)];
+                if (current_.empty())
+                    current_ = faults[std::min(next + ended, std::min(end, faults.size()) - 1)];
                 Problem(false);
                 ++ended;
             }
             next += ended;
-        }
+        } while (next < faults.size());
     }
     const Totals& Of(Outside outside) { return totals_[NameOf(outside)[0]]; }
+    // All that was wrong.
+    const std::string& Told() const { return told_; }
 
 private:
+    DWORD Run(const std::wstring& what, const std::function<void(const std::string&)>& onLine) const {
+        return test::RunChild(L"play --journey " + Wide(journey_) + what, onLine);
+    }
     // True at the end of a playing: "over <failed> <done> <problems>".
     bool Hear(const std::string& line) {
-        if (line.rfind("play ", 0) == 0) {
-            current_ = line.substr(5);
+        std::stringstream stream(line);
+        std::string word;
+        stream >> word;
+        if (word == "calls") {
+            stream >> word;
+            stream >> totals_[word[0]].calls;
+        } else if (word == "play") {
+            stream >> current_;
             said_.clear();
             traces_ = 0;
-            return false;
-        }
-        if (line.rfind("over ", 0) != 0) {
+        } else if (word != "over" && word != "all") {
             traces_ += line.rfind("left behind: ", 0) == 0;
             if (!line.empty()) said_ += "\n    " + line;
-            return false;
         }
-        std::stringstream stream(line.substr(5));
+        if (word != "over") return false;
         int failed = 0, done = 0, problems = 0;
         stream >> failed >> done >> problems;
         Totals& totals = totals_[current_[0]];
@@ -139,143 +162,89 @@ private:
         std::printf("  %s %s under %s:%s\n    again: prove faults --journey %s --calls %s\n",
                     again ? "PROBLEM" : "SEEN ONCE", journey_.c_str(), current_.c_str(), said_.c_str(),
                     journey_.c_str(), current_.c_str());
-        said_.clear();
+        told_ += std::exchange(said_, {});
     }
     // What the platform keeps of its own drawing, and when, is no fault of the call.
     bool ShowsAgain(const std::string& fault) const {
         bool isClean = true;
-        const DWORD code = test::RunChild(
-            L"play --journey " + Wide(journey_) + L" --calls " + Wide(fault + "," + fault + "," + fault),
-            [&](const std::string& line) {
+        const DWORD code =
+            Run(L" --calls " + Wide(Join(Words(3, fault), 0, 3)), [&](const std::string& line) {
                 if (line.rfind("over ", 0) == 0) isClean &= line.ends_with(" 0");
             });
         return code != 0 || !isClean;
     }
 
-    std::string journey_, current_, said_;
+    std::string journey_, current_, said_, told_;
     int traces_ = 0;  // what was only left behind
     std::map<char, Totals> totals_;
 };
 
-struct Survey {
-    long calls = 0;
-    std::vector<long> places;  // the first call of each caller
-};
-
-// "calls memory 135" and "place memory 7".
-std::map<std::string, Survey> SurveyOf(const Journey& journey) {
-    std::map<std::string, Survey> surveys;
-    const DWORD code =
-        test::RunChild(L"survey --journey " + Wide(journey.name), [&](const std::string& line) {
-            std::stringstream stream(line);
-            std::string what, kind;
-            long number = 0;
-            if (stream >> what >> kind >> number && what == "calls") {
-                surveys[kind].calls = number;
-            } else if (what == "place") {
-                surveys[kind].places.push_back(number);
-            } else {
-                std::printf("%s\n", line.c_str());
-            }
-        });
-    if (code != 0) throw std::runtime_error(std::string(journey.name) + " cannot be surveyed");
-    return surveys;
-}
-
-// Every call and the one behind the last, or a choice of callers by the seed.
-std::vector<long> Chosen(const Survey& survey, long most, unsigned seed) {
-    std::vector<long> numbers;
-    if (most <= 0) {
-        for (long n = 1; n <= survey.calls + 1; ++n) numbers.push_back(n);
-        return numbers;
+// Each planted journey must be found out, and for what it does.
+int PlantedFaults() {
+    int missed = 0;
+    for (const Journey& journey : plantedJourneys) {
+        Season season(journey);
+        season.Play({"m1"}, {});
+        if (season.Told().find(journey.sign) != std::string::npos) continue;
+        std::printf("  PROBLEM %s was not found\n", journey.name);
+        ++missed;
     }
-    numbers = survey.places;
-    std::shuffle(numbers.begin(), numbers.end(), std::mt19937(seed));
-    if (static_cast<long>(numbers.size()) > most) numbers.resize(static_cast<size_t>(most));
-    std::sort(numbers.begin(), numbers.end());
-    return numbers;
+    std::printf("PROOF faults, planted: %zu journeys that break a promise, %d not found\n",
+                plantedJourneys.size(), missed);
+    return missed ? 1 : 0;
 }
 
 }  // namespace
 
+// A process that plays.
 int PlayFaults(const Options& options) {
-    const Theatre theatre;
-    const Journey journey = JourneyNamed(options.Text(L"--journey"));
+    test::ReportCrashes();
+    test::StartWatchdog(kWatchdogSeconds);
+    LoadModules();
+    const Journey journey = JourneysNamed(options.Text(L"--journey")).front();
     Rehearsal rehearsal(journey);
-    for (const std::string& word : Words(test::Utf8(options.Text(L"--calls")))) {
+    Words words = Split(test::Utf8(options.Text(L"--calls")));
+    if (words.empty()) {
+        words = Chosen(rehearsal, options.Number(L"--most", 0),
+                       static_cast<unsigned>(options.Number(L"--seed", 1)));
+        for (const Outside outside : kKinds)
+            std::printf("calls %s %ld\n", NameOf(outside), rehearsal.Calls(outside));
+        std::printf("all %s\n", Join(words, 0, words.size()).c_str());
+        words.resize(std::min(words.size(), kBlock));
+    }
+    for (const std::string& word : words) {
         std::printf("play %s\n", word.c_str());
         const Playing playing = rehearsal.Play(Parse(word));
         if (!playing.problems.empty()) std::printf("%s failed\n", playing.failed.c_str());
         for (const std::string& problem : playing.problems) std::printf("%s\n", problem.c_str());
         std::printf("over %d %d %zu\n", playing.hasFailed, playing.isDone, playing.problems.size());
     }
+    // Whatever the modules' ends would do is another test's matter.
+    TerminateProcess(GetCurrentProcess(), 0);
     return 0;
-}
-
-int SurveyFaults(const Options& options) {
-    const Theatre theatre;
-    const Journey journey = JourneyNamed(options.Text(L"--journey"));
-    Rehearsal rehearsal(journey);
-    for (const Outside outside : kKinds) {
-        const auto callers = rehearsal.Survey(outside);
-        std::printf("calls %s %zu\n", NameOf(outside), callers.size());
-        std::set<std::uint64_t> known;
-        for (size_t i = 0; i < callers.size(); ++i)
-            if (known.insert(callers[i]).second) std::printf("place %s %zu\n", NameOf(outside), i + 1);
-    }
-    return 0;
-}
-
-// Each planted journey must be found out.
-int PlantedFaults() {
-    int missed = 0;
-    for (const Journey& journey : PlantedJourneys()) {
-        Season season(journey);
-        season.Play({"m1"});
-        if (season.Of(Outside::Memory).problems > 0) continue;
-        std::printf("  PROBLEM %s was not found\n", journey.name);
-        ++missed;
-    }
-    std::printf("PROOF faults, planted: %zu journeys that break a promise, %d not found\n",
-                PlantedJourneys().size(), missed);
-    return missed ? 1 : 0;
 }
 
 int Faults(const Options& options) {
     SetEnvironmentVariableW(L"OANOCACHE", L"1");  // every BSTR is allocated and freed
-    if (options.Text(L"--journey") == L"planted") return PlantedFaults();
-    const std::string wanted = test::Utf8(options.Text(L"--journey"));
-    const auto seed = static_cast<unsigned>(options.Number(L"--seed", 1));
-    std::vector<std::string> faults = Words(test::Utf8(options.Text(L"--calls")));
+    const std::wstring wanted = options.Text(L"--journey"), seed = options.Text(L"--seed", L"1");
+    if (wanted == L"planted") return PlantedFaults();
     Totals all;
-    for (const Journey& journey : Journeys()) {
-        if (!wanted.empty() && journey.name != wanted) continue;
+    for (const Journey& journey : JourneysNamed(wanted)) {
         const ULONGLONG begun = GetTickCount64();
-        std::map<std::string, Survey> surveys;
-        if (options.Text(L"--calls").empty()) {
-            surveys = SurveyOf(journey);
-            faults.clear();
-            for (const Outside outside : kKinds)
-                for (const bool lasting : {false, true})
-                    for (const long nth :
-                         Chosen(surveys[NameOf(outside)], options.Number(L"--most", 0), seed))
-                        faults.push_back(Word({outside, nth, lasting}));
-        }
         Season season(journey);
-        season.Play(faults);
+        season.Play(Split(test::Utf8(options.Text(L"--calls"))),
+                    L" --most " + options.Text(L"--most", L"0") + L" --seed " + seed);
         std::printf("PROOF faults, %s:", journey.name);
         for (const Outside outside : kKinds) {
             const Totals& totals = season.Of(outside);
-            const Survey& survey = surveys[NameOf(outside)];
             std::printf(
-                " %s %ld calls from %zu places, %ld played, %ld failed, %ld came to their end, %ld problems, "
-                "%ld seen once;",
-                NameOf(outside), survey.calls, survey.places.size(), totals.playings, totals.failed,
-                totals.done, totals.problems, totals.once);
+                " %s %ld calls, %ld played, %ld failed, %ld came to their end, %ld problems, %ld seen once;",
+                NameOf(outside), totals.calls, totals.playings, totals.failed, totals.done, totals.problems,
+                totals.once);
             all.playings += totals.playings;
             all.problems += totals.problems;
         }
-        std::printf(" seed %u, %llu s\n", seed, (GetTickCount64() - begun) / 1000);
+        std::printf(" seed %s, %llu s\n", test::Utf8(seed).c_str(), (GetTickCount64() - begun) / 1000);
     }
     return all.playings > 0 && all.problems == 0 ? 0 : 1;
 }

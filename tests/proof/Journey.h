@@ -2,7 +2,6 @@
 #pragma once
 
 #include <memory>
-#include <span>
 #include <string>
 #include <vector>
 
@@ -57,6 +56,7 @@ private:
 struct Journey {
     const char* name;
     std::unique_ptr<Stage> (*make)();
+    const char* sign = nullptr;  // of a planted journey: what must be said of it
 };
 
 template <class Made, class... Arguments>
@@ -64,11 +64,8 @@ std::unique_ptr<Stage> Make(Arguments... arguments) {
     return std::make_unique<Made>(arguments...);
 }
 
-std::span<const Journey> WizardJourneys();
-std::span<const Journey> ManagerJourneys();
-std::span<const Journey> SettingsJourneys();
-std::span<const Journey> ShellJourneys();
+extern const std::vector<Journey> wizardJourneys, managerJourneys, settingsJourneys, shellJourneys;
 // Journeys with a fault of their own, which must be found.
-std::span<const Journey> PlantedJourneys();
+extern const std::vector<Journey> plantedJourneys;
 
 }  // namespace recoveryui::proof

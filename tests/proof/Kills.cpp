@@ -27,6 +27,12 @@ struct Count {
     long kills = 0, changed = 0, problems = 0;
 };
 
+void End(const PROCESS_INFORMATION& process) {
+    TerminateProcess(process.hProcess, 1);
+    WaitForSingleObject(process.hProcess, INFINITE);
+    CloseHandle(process.hProcess);
+}
+
 class KillRun {
 public:
     KillRun() : folder_(fs::temp_directory_path() / (L"kills " + std::to_wstring(GetCurrentProcessId()))) {
@@ -82,9 +88,7 @@ public:
             // It is at work when it has saved once; then comes chance.
             for (int tries = 0; tries < 2000 && VersionIn(name) == versions[i]; ++tries) Sleep(1);
             Sleep(random() % kLongestLife);
-            TerminateProcess(savers[i].hProcess, 1);
-            WaitForSingleObject(savers[i].hProcess, INFINITE);
-            CloseHandle(savers[i].hProcess);
+            End(savers[i]);
             const int version = VersionIn(name);
             ++count.kills;
             count.changed += version != versions[i];
@@ -97,11 +101,7 @@ public:
             versions[i] = std::max(version, 1);
             savers[i] = test::StartChild(Loop(way, i), nullptr, kSaver);
         }
-        for (const PROCESS_INFORMATION& saver : savers) {
-            TerminateProcess(saver.hProcess, 1);
-            WaitForSingleObject(saver.hProcess, INFINITE);
-            CloseHandle(saver.hProcess);
-        }
+        for (const PROCESS_INFORMATION& saver : savers) End(saver);
         return count;
     }
 
@@ -178,7 +178,8 @@ int Kills(const Options& options) {
         "with a new version, %ld problems; two editors %ld versions, %ld problems; planted bad store found "
         "%ld times, planted overwriting %ld times; seed %u, %llu s\n",
         places.kills, places.changed, places.problems, random.kills, random.changed, random.problems,
-        race.changed, race.problems, planted.problems, rude.problems, seed, (GetTickCount64() - begun) / 1000);
+        race.changed, race.problems, planted.problems, rude.problems, seed,
+        (GetTickCount64() - begun) / 1000);
     const bool isLively = random.changed > rounds / 2;
     if (!isLively) std::printf("  PROBLEM the savers hardly ever got to save\n");
     const bool found = planted.problems > 0 && rude.problems > 0;

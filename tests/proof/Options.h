@@ -27,7 +27,6 @@ private:
 // The parts of the program; each gives its exit code.
 int Faults(const Options& options);
 int PlayFaults(const Options& options);
-int SurveyFaults(const Options& options);
 int Kills(const Options& options);
 int LongUse(const Options& options);
 int OpenOften(const Options& options);

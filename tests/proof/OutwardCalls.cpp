@@ -27,40 +27,22 @@ struct Block {
 struct State {
     DWORD thread = 0;  // whose calls count; 0: nobody's
     Fault fault;
-    long calls = 0;
+    std::array<long, std::size(kOutsideNames)> calls{};
     const char* failed = nullptr;
-    bool recording = false;
-    std::vector<std::uint64_t> callers;
     char* module = nullptr;
     std::mutex heapMutex;
     std::unordered_map<void*, Block> heap;
 };
 State& state = *new State;
 
-constexpr int kFrames = 10;
-
-std::uint64_t CallersNow(const char* name) {
-    void* frames[kFrames] = {};
-    const USHORT count = RtlCaptureStackBackTrace(3, kFrames, frames, nullptr);
-    std::uint64_t hash = 14695981039346656037u;
-    const auto mix = [&](std::uint64_t value) { hash = (hash ^ value) * 1099511628211u; };
-    for (const char* letter = name; *letter; ++letter) mix(static_cast<unsigned char>(*letter));
-    for (USHORT i = 0; i < count; ++i) {
-        const auto offset = static_cast<std::uint64_t>(static_cast<char*>(frames[i]) - state.module);
-        if (offset < 0x1000000) mix(offset);
-    }
-    return hash;
-}
-
 // Counts a call and tells whether it is to fail.
-[[gnu::noinline]] bool Fails(Outside outside, const char* name) {
-    if (state.thread != GetCurrentThreadId() || outside != state.fault.outside) return false;
-    const long call = ++state.calls;
-    if (state.recording) state.callers.push_back(CallersNow(name));
+bool Fails(Outside outside, const char* name) {
+    if (state.thread != GetCurrentThreadId()) return false;
+    const long call = ++state.calls[static_cast<size_t>(outside)];
     const Fault& fault = state.fault;
-    if (fault.nth == 0 || call < fault.nth || (call > fault.nth && !fault.lasting)) return false;
+    if (outside != fault.outside || fault.nth == 0 || call < fault.nth) return false;
     // A question that can never be asked leaves no way out: a box fails as the nth call only.
-    if (call > fault.nth && std::strcmp(name, "MessageBoxW") == 0) return false;
+    if (call > fault.nth && (!fault.lasting || std::strcmp(name, "MessageBoxW") == 0)) return false;
     if (!state.failed) state.failed = name;
     return true;
 }
@@ -232,9 +214,8 @@ void OutwardCalls::Order(const Fault& fault) {
         for (auto& [address, block] : state.heap) block.sinceOrder = false;
     }
     state.fault = fault;
-    state.calls = 0;
+    state.calls = {};
     state.failed = nullptr;
-    state.callers.clear();
     state.thread = GetCurrentThreadId();
 }
 
@@ -242,9 +223,11 @@ void OutwardCalls::Lift() {
     state.fault.nth = 0;
 }
 
-long OutwardCalls::Stop() {
+void OutwardCalls::Stop() {
     state.thread = 0;
-    return state.calls;
+}
+long OutwardCalls::Calls(Outside outside) {
+    return state.calls[static_cast<size_t>(outside)];
 }
 
 bool OutwardCalls::HasFailed() {
@@ -255,12 +238,6 @@ bool OutwardCalls::IsLasting() {
 }
 std::string OutwardCalls::Failed() {
     return state.failed ? state.failed : "nothing";
-}
-std::vector<std::uint64_t> OutwardCalls::Callers() {
-    return state.callers;
-}
-void OutwardCalls::RecordCallers(bool record) {
-    state.recording = record;
 }
 
 OutwardCalls::Heap OutwardCalls::LiveHeap() {

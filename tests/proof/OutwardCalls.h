@@ -4,9 +4,7 @@
 
 #include <windows.h>
 
-#include <cstdint>
 #include <string>
-#include <vector>
 
 namespace recoveryui::proof {
 
@@ -33,17 +31,14 @@ public:
     static void Order(const Fault& fault);
     // Nothing fails from here on; may be called by another thread.
     static void Lift();
-    // Ends the order; gives the calls of its kind that were made.
-    static long Stop();
+    // Ends the order.
+    static void Stop();
+    // The calls of a kind since the order.
+    static long Calls(Outside outside);
     static bool HasFailed();
     static bool IsLasting();
     // The call that failed first, "malloc".
     static std::string Failed();
-
-    // For each call of one kind since the order: who made it, as a number that is the same whenever the same
-    // chain of functions makes the same call.
-    static std::vector<std::uint64_t> Callers();
-    static void RecordCallers(bool record);
 
     // What the module has allocated on the heap and not freed.
     struct Heap {

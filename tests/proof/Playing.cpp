@@ -65,20 +65,25 @@ private:
 
 }  // namespace
 
+// Once for the states at which a user may stop, and once for the calls, among which asking for the states
+// would be counted.
 Rehearsal::Rehearsal(const Journey& journey) : journey_(journey) {
-    for (int round = 0; round < 2; ++round) Rehearse();
-}
-
-void Rehearsal::Rehearse() {
-    const auto stage = journey_.make();
-    stage->MarkStates();
-    Actor actor(kPatient, [] {});
-    stage->Perform(actor);
-    stage->Mark();
-    if (!actor.GaveUp().empty())
-        throw std::runtime_error("the journey itself does not work: " + actor.GaveUp());
-    if (!stage->IsDone()) throw std::runtime_error("the journey itself does not come to its end");
-    marks_ = stage->Marks();
+    for (const bool marking : {true, false}) {
+        const auto stage = journey_.make();
+        if (marking) stage->MarkStates();
+        Order order({});
+        Actor actor(kPatient, [] {});
+        stage->Perform(actor);
+        order.End();
+        if (!actor.GaveUp().empty())
+            throw std::runtime_error("the journey itself does not work: " + actor.GaveUp());
+        if (!stage->IsDone()) throw std::runtime_error("the journey itself does not come to its end");
+        stage->Mark();
+        if (marking) marks_ = stage->Marks();
+        for (const Outside outside : {Outside::Memory, Outside::Platform})
+            calls_[static_cast<size_t>(outside)] = OutwardCalls::Calls(outside);
+        calls_[static_cast<size_t>(Outside::Host)] = static_cast<long>(order.HostCalls().size());
+    }
 }
 
 Playing Rehearsal::Play(const Fault& fault) {
@@ -125,32 +130,9 @@ Playing Rehearsal::PlayOnce(const Fault& fault, unsigned patience) {
     }
     test::RunPendingMessages();
     const Counts after = Counts::Take();
-    if (!(after == before)) playing.left = after.Against(before) + OutwardCalls::Leaks() + WindowsLeft();
+    if (!(after == before))
+        playing.left = after.Against(before) + OutwardCalls::Leaks() + test::WindowsLeft();
     return playing;
-}
-
-std::vector<std::uint64_t> Rehearsal::Survey(Outside outside) {
-    const auto stage = journey_.make();
-    Order order({outside, 0, false});
-    OutwardCalls::RecordCallers(true);
-    Actor actor(kPatient, [] {});
-    stage->Perform(actor);
-    order.End();
-    OutwardCalls::RecordCallers(false);
-    if (outside != Outside::Host) return OutwardCalls::Callers();
-    std::vector<std::uint64_t> calls;
-    for (const std::string& call : order.HostCalls()) calls.push_back(std::hash<std::string>()(call));
-    return calls;
-}
-
-std::string Rehearsal::WindowsLeft() const {
-    std::string text;
-    for (const HWND window : test::TopLevelWindows()) {
-        const std::wstring name = test::ClassOf(window);
-        if (name == L"IME" || name == L"MSCTFIME UI") continue;  // the system's own
-        text += " window " + test::Utf8(name) + " \"" + test::Utf8(test::TextOf(window)) + "\"";
-    }
-    return text;
 }
 
 }  // namespace recoveryui::proof

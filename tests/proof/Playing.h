@@ -1,15 +1,13 @@
 // One playing of a journey under one fault, and what is wrong afterwards.
 #pragma once
 
+#include <array>
 #include <string>
 #include <vector>
 
-#include "com/Ptr.h"
 #include "proof/Counts.h"
 #include "proof/Journey.h"
 #include "proof/OutwardCalls.h"
-
-struct ICallJournal;
 
 namespace recoveryui::proof {
 
@@ -27,17 +25,15 @@ public:
     explicit Rehearsal(const Journey& journey);
 
     Playing Play(const Fault& fault);
-    // Of a playing without a fault: the calls of a kind, by whoever makes them.
-    std::vector<std::uint64_t> Survey(Outside outside);
+    // The calls of a kind in a playing without a fault.
+    long Calls(Outside outside) const { return calls_[static_cast<size_t>(outside)]; }
 
 private:
     Playing PlayOnce(const Fault& fault, unsigned patience);
-    // A playing without a fault, which tells the states at which a user may stop.
-    void Rehearse();
-    std::string WindowsLeft() const;
 
     const Journey& journey_;
     std::vector<std::wstring> marks_;
+    std::array<long, std::size(kOutsideNames)> calls_{};
 };
 
 }  // namespace recoveryui::proof

@@ -19,9 +19,8 @@ int wmain(int count, wchar_t** arguments) {
     const struct {
         const wchar_t* name;
         int (*run)(const Options&);
-    } parts[] = {{L"faults", Faults},   {L"play", PlayFaults},  {L"survey", SurveyFaults},
-                 {L"kills", Kills},     {L"long", LongUse},     {L"open", OpenOften},
-                 {L"monkeys", Monkeys}, {L"monkey", PlayMonkey}};
+    } parts[] = {{L"faults", Faults},  {L"play", PlayFaults}, {L"kills", Kills},      {L"long", LongUse},
+                 {L"open", OpenOften}, {L"monkeys", Monkeys}, {L"monkey", PlayMonkey}};
     try {
         for (const auto& part : parts)
             if (count > 1 && part.name == std::wstring(arguments[1]))

@@ -130,14 +130,10 @@ class MakeInManager final : public ManagerStage {
     }
 };
 
-constexpr Journey kJourneys[] = {{"manager-edit", Make<EditFile>},
-                                 {"manager-new", Make<ReplaceInFile>},
-                                 {"manager-wizard", Make<MakeInManager>}};
-
 }  // namespace
 
-std::span<const Journey> ManagerJourneys() {
-    return kJourneys;
-}
+const std::vector<Journey> managerJourneys = {{"manager-edit", Make<EditFile>},
+                                              {"manager-new", Make<ReplaceInFile>},
+                                              {"manager-wizard", Make<MakeInManager>}};
 
 }  // namespace recoveryui::proof

@@ -7,7 +7,7 @@
 namespace recoveryui::proof {
 namespace {
 
-using Misdeed = void(std::wstring& state);
+using Misdeed = void(std::wstring& state, bool& success);
 
 // Makes an object of the component, which costs it some calls, and then does what it should not.
 class Planted final : public Scene {
@@ -20,13 +20,9 @@ private:
         static_cast<void>(com::Create(L"Vantrel.RecoveryDlg", dialog));
         if (dialog) dialog->DoModal();  // without a rack it does nothing
         if (!OutwardCalls::HasFailed()) return true;
-        actor.During(
-            [&] {
-                misbehave_(state_);
-                return S_OK;
-            },
-            [](Player&) {});
-        return false;
+        bool success = false;
+        actor.During([&] { return misbehave_(state_, success), S_OK; }, [](Player&) {});
+        return success;
     }
     std::wstring State() override { return state_; }
 
@@ -39,21 +35,26 @@ std::unique_ptr<Stage> Plant() {
     return Make<Planted>(misbehave);
 }
 
-constexpr Journey kJourneys[] = {
-    {"planted-crash",
-     Plant<[](std::wstring&) { RaiseException(EXCEPTION_ACCESS_VIOLATION, 0, 0, nullptr); }>},
-    {"planted-leak", Plant<[](std::wstring&) { CreateCompatibleDC(nullptr); }>},
-    {"planted-window", Plant<[](std::wstring&) {
-         CreateWindowW(L"Static", L"left", WS_POPUP, 0, 0, 9, 9, nullptr, nullptr, nullptr, nullptr);
-     }>},
-    {"planted-half", Plant<[](std::wstring& state) { state = L"half"; }>},
-    {"planted-standstill", Plant<[](std::wstring&) { Sleep(7000); }>},
-};
-
 }  // namespace
 
-std::span<const Journey> PlantedJourneys() {
-    return kJourneys;
-}
+const std::vector<Journey> plantedJourneys = {
+    {"planted-crash",
+     Plant<[](std::wstring&, bool&) { RaiseException(EXCEPTION_ACCESS_VIOLATION, 0, 0, nullptr); }>,
+     "CRASH: exception 0xC0000005"},
+    {"planted-leak", Plant<[](std::wstring&, bool&) { CreateCompatibleDC(nullptr); }>,
+     "left behind: device contexts +1"},
+    {"planted-window", Plant<[](std::wstring&, bool&) {
+         CreateWindowW(L"Static", L"left", WS_POPUP, 0, 0, 9, 9, nullptr, nullptr, nullptr, nullptr);
+     }>,
+     "left behind: windows +1"},
+    {"planted-half", Plant<[](std::wstring& state, bool&) { state = L"half"; }>,
+     "neither the old nor the new state"},
+    {"planted-success", Plant<[](std::wstring& state, bool& success) {
+         state = L"half";
+         success = true;
+     }>,
+     "reported success, but"},
+    {"planted-standstill", Plant<[](std::wstring&, bool&) { Sleep(7000); }>, "there is no way out"},
+};
 
 }  // namespace recoveryui::proof

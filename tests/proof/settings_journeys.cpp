@@ -105,7 +105,9 @@ private:
     com::Ptr<IUnknown> scenario_;
 };
 
-constexpr Journey kJourneys[] = {
+}  // namespace
+
+const std::vector<Journey> settingsJourneys = {
     {"add-dialog", Make<AddDialog>},
     {"tab", Make<Tab>},
     {"properties-popup", [] { return Make<PropertiesOf>(L"Pop-up"); }},
@@ -113,11 +115,5 @@ constexpr Journey kJourneys[] = {
     {"properties-error", [] { return Make<PropertiesOf>(L"Error"); }},
     {"properties-crash", [] { return Make<PropertiesOf>(L"Crash"); }},
 };
-
-}  // namespace
-
-std::span<const Journey> SettingsJourneys() {
-    return kJourneys;
-}
 
 }  // namespace recoveryui::proof

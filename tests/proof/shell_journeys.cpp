@@ -94,12 +94,8 @@ class HostStart final : public Scene {
     std::wstring State() override { return L"nothing stays"; }
 };
 
-constexpr Journey kJourneys[] = {{"registration", Make<Registration>}, {"host", Make<HostStart>}};
-
 }  // namespace
 
-std::span<const Journey> ShellJourneys() {
-    return kJourneys;
-}
+const std::vector<Journey> shellJourneys = {{"registration", Make<Registration>}, {"host", Make<HostStart>}};
 
 }  // namespace recoveryui::proof

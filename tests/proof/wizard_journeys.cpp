@@ -239,7 +239,9 @@ private:
 };
 using Pages = EditEachPage::Pages;
 
-constexpr Journey kJourneys[] = {
+}  // namespace
+
+const std::vector<Journey> wizardJourneys = {
     {"wizard-popup", Make<PopupWithKeys>},
     {"wizard-state", Make<ObjectStateWithButton>},
     {"wizard-error", Make<ErrorWithFunction>},
@@ -252,11 +254,5 @@ constexpr Journey kJourneys[] = {
     {"edit-error", [] { return Make<EditEachPage>(L"Error", Pages{L"Select Test Run Error"}); }},
     {"edit-crash", [] { return Make<EditEachPage>(L"Crash", Pages{L"Select Processes"}); }},
 };
-
-}  // namespace
-
-std::span<const Journey> WizardJourneys() {
-    return kJourneys;
-}
 
 }  // namespace recoveryui::proof
