@@ -7,18 +7,18 @@ namespace recoveryui::test {
 using com::Bstr;
 using com::Variant;
 
-TestSettings::TestSettings() {
-    RegDeleteTreeW(HKEY_CURRENT_USER, kSettingsPath);
+TestSettings::TestSettings(std::wstring path) : path_(std::move(path)) {
+    RegDeleteTreeW(HKEY_CURRENT_USER, path_.c_str());
     EXPECT_EQ(com::Create(L"Tovarin.TestOptions", options_), S_OK);
     file_ = com::Query<ITestFile>(options_.Get());
-    EXPECT_EQ(file_->SetSettingsRegistryPath(Bstr(kSettingsPath).Get()), S_OK);
+    EXPECT_EQ(file_->SetSettingsRegistryPath(Bstr(path_).Get()), S_OK);
     Variant branch;
     EXPECT_EQ(options_->GetItem(Variant(L"ReplayRecovery").Get(), branch.Put()), S_OK);
     branch_ = com::Query<ITestOptions>(branch.Object());
 }
 
 TestSettings::~TestSettings() {
-    RegDeleteTreeW(HKEY_CURRENT_USER, L"Software\\RecoveryUI Tests");
+    RegDeleteTreeW(HKEY_CURRENT_USER, path_.c_str());
 }
 
 std::wstring TestSettings::Stored(const wchar_t* name) const {

@@ -1,4 +1,4 @@
-// The options of a test, with defaults of the test run's own in the registry.
+// The options of a test, with defaults of the test run's own in the registry, under HKEY_CURRENT_USER.
 #pragma once
 
 #include <string>
@@ -14,7 +14,7 @@ inline constexpr wchar_t kSettingsPath[] = L"Software\\RecoveryUI Tests\\Setting
 
 class TestSettings {
 public:
-    TestSettings();
+    explicit TestSettings(std::wstring path = kSettingsPath);
     ~TestSettings();
     TestSettings(const TestSettings&) = delete;
     TestSettings& operator=(const TestSettings&) = delete;
@@ -30,6 +30,7 @@ public:
     void SetGlobal(const wchar_t* name, const com::Variant& value) const;
 
 private:
+    std::wstring path_;
     com::Ptr<ITestOptions> options_;
     com::Ptr<ITestFile> file_;
     com::Ptr<ITestOptions> branch_;  // "ReplayRecovery"

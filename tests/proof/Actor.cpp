@@ -5,6 +5,7 @@
 
 #include "harness/Pointing.h"
 #include "harness/ProcessWindows.h"
+#include "resources/ids.h"
 
 namespace recoveryui::proof {
 namespace {
@@ -66,6 +67,21 @@ void Player::NextTo(HWND wizard, const wchar_t* title) {
         Next(wizard);
         WaitUntil("the next page", [&] { return PageTitle(wizard) == title; });
     });
+}
+
+void Player::FinishWizard(HWND wizard, const wchar_t* name, const wchar_t* description) {
+    NextTo(wizard, L"Recovery Operations");
+    Try([&] { Check(wizard, IDC_OPERATION_LIST_ANOTHER, false); });
+    NextTo(wizard, L"Post-Recovery Test Run Options");
+    Try([&] {
+        // A restart of Windows leaves fewer options.
+        if (IsVisible(wizard, IDC_TEST_FLOW_FIRST + 1)) Check(wizard, IDC_TEST_FLOW_FIRST + 1);
+    });
+    NextTo(wizard, L"Name and Description");
+    Fill(wizard, IDC_SCEN_NAME, name);
+    if (description) Fill(wizard, IDC_SCEN_DESCRIPTION, description);
+    NextTo(wizard, L"Completing the Recovery Scenario Wizard");
+    Leave(wizard, test::kFinish);
 }
 
 void Player::Leave(HWND window, int button) {

@@ -25,6 +25,8 @@ public:
     void Try(const std::function<void()>& step);
     // Walks on to the page of that title.
     void NextTo(HWND wizard, const wchar_t* title);
+    // From the list of operations to the wizard's end. Without a description it is left as it is.
+    void FinishWizard(HWND wizard, const wchar_t* name, const wchar_t* description = nullptr);
     // Presses a button until its window is gone.
     void Leave(HWND window, int button);
     // The whole text of an edit box, seen to be there.

@@ -51,7 +51,7 @@ HRESULT Openings::Show(size_t dialog) {
     if (dialog == 2) return Start<IRecoveryDlg>(L"Vantrel.RecoveryDlg")->DoModal();
     if (dialog == 3) return Start<IRecoveryAddDlg>(L"Vantrel.RecoveryAddDlg")->DoModal();
     if (dialog == 4) {
-        tovarin::SettingsFrame({rack_.Get(), options_, {CLSID_RecoveryPP}}).ShowModal(nullptr);
+        tovarin::SettingsFrame({rack_.Get(), settings_.Get(), {CLSID_RecoveryPP}}).ShowModal(nullptr);
         return S_OK;
     }
     const wchar_t* const name = std::array{L"Pop-up", L"State", L"Error", L"Crash"}[dialog - 5];

@@ -4,7 +4,6 @@
 #include <fstream>
 #include <iterator>
 
-#include "com/Variant.h"
 #include "host/store_samples.h"
 
 namespace recoveryui::proof {
@@ -20,15 +19,12 @@ std::wstring OfProcess(const wchar_t* name) {
 
 Scene::Scene()
     : branch_(OfProcess(L"Software\\Tovarin\\Proof ")),
-      options_(New<ITestOptions>(L"Tovarin.TestOptions")),
       folder_(fs::temp_directory_path() / OfProcess(L"proof ")) {
     fs::remove_all(folder_);
     fs::create_directories(folder_);
-    RegDeleteTreeW(HKEY_CURRENT_USER, branch_.c_str());
-    com::Check(com::Query<ITestFile>(options_.Get())->SetSettingsRegistryPath(com::Bstr(branch_).Get()));
     const auto locator = New<IFileLocator>(L"Tovarin.FileLocator");
     com::Check(com::Query<IFileLocatorFolders>(locator.Get())->SetTestFolder(com::Bstr(folder_).Get()));
-    rack_.Put(L"TestOptions", options_.Get())
+    rack_.Put(L"TestOptions", settings_.Get())
         .Put(L"RACK_FILE_LOCATOR", locator.Get())
         .Put(L"RecordMgr", L"Tovarin.RecordMgr")
         .Put(L"HostApplication", L"Tovarin.HostApplication")
@@ -38,7 +34,6 @@ Scene::Scene()
 Scene::~Scene() {
     std::error_code ignored;
     fs::remove_all(folder_, ignored);
-    RegDeleteTreeW(HKEY_CURRENT_USER, branch_.c_str());
 }
 
 std::wstring Scene::Write(const std::wstring& name, const std::string& bytes) const {
@@ -85,19 +80,10 @@ std::wstring Scene::Describe(IUnknown* scenario, const std::wstring& name) const
 }
 
 std::wstring Scene::Options() const {
-    com::Variant branch;
-    com::Check(options_->GetItem(com::Variant(L"ReplayRecovery").Get(), branch.Put()));
-    const auto recovery = com::Query<ITestOptions>(branch.Object());
     std::wstring text;
     for (const wchar_t* name : {L"RecoveryScenarios", L"RecoveryDefScenarios", L"RecoveryActivation",
-                                L"RecoveryActivationMode", L"RecoveryDefActivationMode"}) {
-        com::Variant value;
-        if (SUCCEEDED(
-                recovery->GetOptionValue(com::Bstr(L"").Get(), com::Bstr(name).Get(), value.Put(), 0, 0)))
-            text += std::wstring(name) + L"=" +
-                    (value.Type() == VT_I4 ? std::to_wstring(value.Get().lVal) : std::wstring(value.Text())) +
-                    L"\n";
-    }
+                                L"RecoveryActivationMode", L"RecoveryDefActivationMode"})
+        text += std::wstring(name) + L"=" + settings_.Stored(name) + L"\n";
     return text;
 }
 

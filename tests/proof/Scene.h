@@ -11,12 +11,13 @@
 #include "com/Create.h"
 #include "com/Guard.h"
 #include "harness/ComTest.h"
+#include "harness/TestSettings.h"
 #include "proof/Journey.h"
 #include "resources/ids.h"
 
 namespace recoveryui::proof {
 
-using test::kEditOfCombo, test::kFinish;
+using test::kEditOfCombo;
 
 // A new object of a class. Throws HResultError.
 template <class Interface>
@@ -61,8 +62,8 @@ protected:
 
     // Under HKEY_CURRENT_USER; the process's own, for another one may play at the same time.
     const std::wstring branch_;
+    const test::TestSettings settings_{branch_};
     test::Rack rack_;
-    com::Ptr<ITestOptions> options_;
 
 private:
     std::wstring folder_;

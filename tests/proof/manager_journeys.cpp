@@ -102,7 +102,7 @@ class ReplaceInFile final : public ManagerStage {
     }
 };
 
-class MakeInManager final : public ManagerStage {
+class EditInManager final : public ManagerStage {
     void Manage(Player& player, HWND manager) override {
         Open(player, manager, work_);
         HWND wizard = nullptr;
@@ -111,15 +111,9 @@ class MakeInManager final : public ManagerStage {
             player.Press(manager, IDC_MANAGER_EDIT);
             wizard = player.WaitForWindow(L"Recovery Scenario Wizard");
         });
-        for (const wchar_t* page :
-             {L"Select Trigger Event", L"Specify Pop-up Window Conditions", L"Recovery Operations"})
+        for (const wchar_t* page : {L"Select Trigger Event", L"Specify Pop-up Window Conditions"})
             player.NextTo(wizard, page);
-        player.Try([&] { player.Check(wizard, IDC_OPERATION_LIST_ANOTHER, false); });
-        player.NextTo(wizard, L"Post-Recovery Test Run Options");
-        player.NextTo(wizard, L"Name and Description");
-        player.Fill(wizard, IDC_SCEN_NAME, L"Renamed");
-        player.NextTo(wizard, L"Completing the Recovery Scenario Wizard");
-        player.Leave(wizard, kFinish);
+        player.FinishWizard(wizard, L"Renamed");
         player.Try([&] {
             player.WaitUntil("the new name", [&] {
                 const test::Rows names = Names(player, manager);
@@ -134,6 +128,6 @@ class MakeInManager final : public ManagerStage {
 
 const std::vector<Journey> managerJourneys = {{"manager-edit", Make<EditFile>},
                                               {"manager-new", Make<ReplaceInFile>},
-                                              {"manager-wizard", Make<MakeInManager>}};
+                                              {"manager-wizard", Make<EditInManager>}};
 
 }  // namespace recoveryui::proof

@@ -51,7 +51,7 @@ class AddDialog final : public Scene {
 
 class Tab final : public Scene {
     bool Play(Actor& actor) override {
-        tovarin::SettingsFrame frame({rack_.Get(), options_, {CLSID_RecoveryPP}});
+        tovarin::SettingsFrame frame({rack_.Get(), settings_.Get(), {CLSID_RecoveryPP}});
         actor.During([&] { return frame.ShowModal(nullptr), S_OK; }, [&](Player& player) { Use(player); });
         return actor.GaveUp().empty();
     }

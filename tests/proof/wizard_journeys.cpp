@@ -10,9 +10,7 @@ namespace recoveryui::proof {
 namespace {
 
 constexpr wchar_t kTitle[] = L"Recovery Scenario Wizard", kTriggers[] = L"Select Trigger Event",
-                  kOperations[] = L"Recovery Operations", kTypes[] = L"Recovery Operation",
-                  kFlow[] = L"Post-Recovery Test Run Options", kName[] = L"Name and Description",
-                  kSummary[] = L"Completing the Recovery Scenario Wizard";
+                  kOperations[] = L"Recovery Operations", kTypes[] = L"Recovery Operation";
 
 class WizardStage : public Scene {
 protected:
@@ -64,22 +62,6 @@ protected:
         player.Try([&] { player.Check(wizard, radio); });
         player.NextTo(wizard, page);
     }
-    // From the list of operations to the end.
-    static void Finish(Player& player, HWND wizard, const wchar_t* name) {
-        player.NextTo(wizard, kOperations);
-        player.Try([&] { player.Check(wizard, IDC_OPERATION_LIST_ANOTHER, false); });
-        player.NextTo(wizard, kFlow);
-        player.Try([&] {
-            // A restart of Windows leaves fewer options.
-            if (player.IsVisible(wizard, IDC_TEST_FLOW_FIRST + 1))
-                player.Check(wizard, IDC_TEST_FLOW_FIRST + 1);
-        });
-        player.NextTo(wizard, kName);
-        player.Fill(wizard, IDC_SCEN_NAME, name);
-        player.Fill(wizard, IDC_SCEN_DESCRIPTION, L"What it does.");
-        player.NextTo(wizard, kSummary);
-        player.Leave(wizard, kFinish);
-    }
     static void FillPopup(Player& player, HWND wizard) {
         player.NextTo(wizard, L"Specify Pop-up Window Conditions");
         player.Fill(wizard, IDC_POPUP_TITLE, L"(Error|Warning).*");
@@ -117,7 +99,7 @@ class PopupWithKeys final : public WizardStage {
         AddOperation(player, wizard, IDC_SELECT_OPERATION_RESTART, kOperations);
         Expect(player, wizard, IDC_OPERATION_LIST_ROWS,
                {L"Keyboard click | Control + Alt + D", L"Restart Microsoft Windows | "});
-        Finish(player, wizard, L"Pop-up");
+        player.FinishWizard(wizard, L"Pop-up", L"What it does.");
     }
 };
 
@@ -161,7 +143,7 @@ private:
         Expect(player, wizard, IDC_CLICK_LABEL_LIST, {L"OK", L"Cancel"});
         player.NextTo(wizard, kOperations);
         Expect(player, wizard, IDC_OPERATION_LIST_ROWS, {L"Keyboard click | Click button with label: OK "});
-        Finish(player, wizard, L"State");
+        player.FinishWizard(wizard, L"State", L"What it does.");
     }
 
     // Without numbers of their own the buttons are known by their texts.
@@ -189,7 +171,7 @@ class ErrorWithFunction final : public WizardStage {
         player.Fill(wizard, IDC_FUNC_NAME, L"Restore");
         player.NextTo(wizard, kOperations);
         Expect(player, wizard, IDC_OPERATION_LIST_ROWS, {L"Function call | " + library_ + L"::Restore"});
-        Finish(player, wizard, L"Error");
+        player.FinishWizard(wizard, L"Error", L"What it does.");
     }
 };
 
@@ -217,8 +199,7 @@ class CrashWithProcess final : public WizardStage {
                 return player.RowsOf(wizard, IDC_PROCESSES_CHOSEN) == test::Rows{L"order entry.exe"};
             });
         });
-        player.NextTo(wizard, kOperations);
-        Finish(player, wizard, L"Crash");
+        player.FinishWizard(wizard, L"Crash", L"What it does.");
     }
 };
 
@@ -232,8 +213,7 @@ private:
     void Walk(Player& player, HWND wizard) override {
         player.NextTo(wizard, kTriggers);
         for (const wchar_t* page : pages_) player.NextTo(wizard, page);
-        player.NextTo(wizard, kOperations);
-        Finish(player, wizard, L"Another name");
+        player.FinishWizard(wizard, L"Another name", L"What it does.");
     }
     Pages pages_;
 };

@@ -11,7 +11,8 @@
 
 namespace tovarin {
 
-// Failures are structured-storage codes. Nothing changes when an operation fails.
+// Failures are structured-storage codes. Nothing changes when an operation fails, but that a save whose file
+// another editor takes right afterwards has replaced it.
 class StoreFile {
 public:
     // Empty for an untitled file.
