@@ -4,6 +4,7 @@
 #include <windows.h>
 
 #include <atomic>
+#include <utility>
 
 #include "com/Object.h"
 #include "harness/ComTest.h"
@@ -65,7 +66,7 @@ bool IsIcon(ULONG_PTR handle) {
 }
 
 constexpr size_t kGdiKindInEntry = 14;
-const char* NameOfGdiKind(size_t kind) {
+const char* NameOfGdiKind(int kind) {
     switch (kind) {
         case 0x01: return "device contexts";
         case 0x04: return "regions";
@@ -80,15 +81,14 @@ const char* NameOfGdiKind(size_t kind) {
 
 // GetGuiResources always answers 0 where this runs; the platform's table of them tells. An entry without a
 // kind is free.
-std::array<long, 128> CountGdiObjects() {
+std::map<std::string, long long> CountGdiObjects() {
     constexpr size_t kTableInPeb = 0xF8, kEntrySize = 24, kEntries = 0x4000;
     static const auto currentPeb = reinterpret_cast<char*(WINAPI*)()>(
         reinterpret_cast<void*>(GetProcAddress(GetModuleHandleW(L"ntdll.dll"), "RtlGetCurrentPeb")));
-    const char* const peb = currentPeb();
-    const char* const table = *reinterpret_cast<char* const*>(peb + kTableInPeb);
-    std::array<long, 128> counts{};
-    for (size_t i = 0; table && i < kEntries; ++i) ++counts[table[i * kEntrySize + kGdiKindInEntry] & 0x7F];
-    counts[0] = 0;
+    const char* const table = *reinterpret_cast<char* const*>(currentPeb() + kTableInPeb);
+    std::map<std::string, long long> counts;
+    for (size_t i = 0; table && i < kEntries; ++i)
+        if (const int kind = table[i * kEntrySize + kGdiKindInEntry] & 0x7F) ++counts[NameOfGdiKind(kind)];
     return counts;
 }
 
@@ -114,35 +114,26 @@ void Counts::WatchTaskMemory() {
 }
 
 Counts Counts::Take() {
-    Counts counts;
     const OutwardCalls::Heap heap = OutwardCalls::LiveHeap();
-    counts.heapBlocks = heap.blocks;
-    counts.heapBytes = heap.bytes;
-    counts.taskMemory = taskBlocks;
-    counts.windows = CountWindows();
-    counts.gdi = CountGdiObjects();
-    counts.menus = CountUserHandles([](ULONG_PTR handle) { return IsMenu(reinterpret_cast<HMENU>(handle)); });
-    counts.icons = CountUserHandles(IsIcon);
-    counts.components = Lives(L"RecoveryUI.dll");
-    counts.standIns = Lives(L"TovarinObjects.dll");
-    return counts;
+    const auto isMenu = [](ULONG_PTR handle) { return IsMenu(reinterpret_cast<HMENU>(handle)); };
+    return {CountGdiObjects(),
+            {{"windows", CountWindows()},
+             {"menus", CountUserHandles(isMenu)},
+             {"icons", CountUserHandles(IsIcon)},
+             {"live component", Lives(L"RecoveryUI.dll")},
+             {"live stand-ins", Lives(L"TovarinObjects.dll")},
+             {"task memory blocks", taskBlocks},
+             {"heap blocks", heap.blocks},
+             {"heap bytes", heap.bytes}}};
 }
 
 std::string Counts::Against(const Counts& before) const {
     std::string text;
-    const auto add = [&](const char* name, long long now, long long then) {
-        if (now == then) return;
-        text += std::string(name) + (now > then ? " +" : " ") + std::to_string(now - then) + " ";
-    };
-    add("windows", windows, before.windows);
-    add("menus", menus, before.menus);
-    add("icons", icons, before.icons);
-    for (size_t kind = 0; kind < gdi.size(); ++kind) add(NameOfGdiKind(kind), gdi[kind], before.gdi[kind]);
-    add("live component", components, before.components);
-    add("live stand-ins", standIns, before.standIns);
-    add("task memory blocks", taskMemory, before.taskMemory);
-    add("heap blocks", heapBlocks, before.heapBlocks);
-    add("heap bytes", heapBytes, before.heapBytes);
+    for (auto [now, then] : {std::pair(others, before.others), std::pair(gdi, before.gdi)}) {
+        for (const auto& [name, count] : then) now[name] -= count;
+        for (const auto& [name, more] : now)
+            if (more) text += name + (more > 0 ? " +" : " ") + std::to_string(more) + " ";
+    }
     return text;
 }
 

@@ -34,12 +34,12 @@ std::string Growth(size_t dialog, long rounds, bool plantLeak) {
     OpenAndClose(openings, dialog, kWarmUp, plantLeak);
     std::string growth;
     for (int again = 0; again < 4; ++again) {
-        const Counts before = Counts::Take();
+        Counts before = Counts::Take();
         OpenAndClose(openings, dialog, rounds, plantLeak);
         Counts after = Counts::Take();
         // The platform draws with a few objects of its own, made now and then.
-        for (size_t kind = 0; kind < after.gdi.size(); ++kind)
-            if (after.gdi[kind] - before.gdi[kind] < 4 + rounds / 10) after.gdi[kind] = before.gdi[kind];
+        for (auto& [kind, count] : after.gdi)
+            if (count - before.gdi[kind] < 4 + rounds / 10) count = before.gdi[kind];
         growth = after.Against(before);
         if (growth.empty()) break;
     }
