@@ -4,6 +4,9 @@
 
 namespace recoveryui::proof {
 
+// Linkers place the table at any multiple of four.
+using Thunk [[gnu::aligned(4)]] = IMAGE_THUNK_DATA;
+
 void* PutImport(HMODULE module, const char* name, void* replacement) {
     char* const base = reinterpret_cast<char*>(module);
     const auto& dos = *reinterpret_cast<IMAGE_DOS_HEADER*>(base);
@@ -12,8 +15,8 @@ void* PutImport(HMODULE module, const char* name, void* replacement) {
     auto* library = reinterpret_cast<IMAGE_IMPORT_DESCRIPTOR*>(base + directory.VirtualAddress);
     void* before = nullptr;
     for (; library->Name; ++library) {
-        auto* wanted = reinterpret_cast<IMAGE_THUNK_DATA*>(base + library->OriginalFirstThunk);
-        auto* bound = reinterpret_cast<IMAGE_THUNK_DATA*>(base + library->FirstThunk);
+        auto* wanted = reinterpret_cast<Thunk*>(base + library->OriginalFirstThunk);
+        auto* bound = reinterpret_cast<Thunk*>(base + library->FirstThunk);
         for (; wanted->u1.AddressOfData; ++wanted, ++bound) {
             if (IMAGE_SNAP_BY_ORDINAL(wanted->u1.Ordinal)) continue;
             const auto* import = reinterpret_cast<IMAGE_IMPORT_BY_NAME*>(base + wanted->u1.AddressOfData);
