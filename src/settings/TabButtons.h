@@ -1,15 +1,9 @@
 #pragma once
 
-#include <cstdint>
-#include <optional>
-
 namespace recoveryui::settings {
 
 // The icon of a scenario that could not be read; the trigger kinds 0 to 3 number the others.
 inline constexpr int kIconUnreadable = 4;
-
-// The icon for a scenario's trigger kind, absent when the scenario could not be read.
-int IconOf(std::optional<std::int32_t> triggerKind);
 
 struct TabButtons {
     bool add = true;

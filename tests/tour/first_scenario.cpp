@@ -136,7 +136,8 @@ TEST_F(Tour, AFirstScenarioIsMadeStoredFoundAgainAndRenamed) {
             {tovarin::store::PressKeys{{0x10011, 0x10012, 0x10044, 0x30012, 0x30011}},
              tovarin::store::PressKeys{{0x1000D, 0x3000D}}},
             L"Closes error messages and goes on with the next step."};
-        EXPECT_EQ(tovarin::TempFolder::Read(FileIn(kFile)), tovarin::store::TextOfStore({{L"Error message", made}}));
+        EXPECT_EQ(tovarin::TempFolder::Read(FileIn(kFile)),
+                  tovarin::store::TextOfStore({{L"Error message", made}}));
         EXPECT_EQ(OpenForEditing(FileIn(kFile)), STG_E_SHAREVIOLATION) << "the file is taken";
         screen.Press(manager, IDCANCEL);
         screen.WaitUntilClosed(manager);
