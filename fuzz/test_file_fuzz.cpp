@@ -28,11 +28,9 @@ void Fuzz(Input input) {
     }
     // over a text that is no test, and over one that is
     for (const std::string_view previous : {text, std::string_view(R"({"formatVersion":1,"other":[1]})")}) {
-        const std::string written = WriteTestFile(made, previous);
-        const auto read = ReadTestFile(written);
+        const auto read = ReadTestFile(WriteTestFile(made, previous));
         if (!read) continue;  // a file of another format keeps its version
-        Require(WriteTestFile(*read, previous) == written, "every setting is written");
-        Require(ReadTestFile(WriteTestFile(*read, previous)) == read, "every setting survives");
+        Require(*read == made, "every setting survives");
     }
 }
 
