@@ -20,6 +20,11 @@ std::string Describe(HWND window, const char* indent) {
     std::string line = indent + Utf8(ClassOf(window)) + " " + std::to_string(GetDlgCtrlID(window) & 0xFFFF) +
                        " \"" + Utf8(TextOf(window)) + "\"";
     if (!IsWindowEnabled(window)) line += " disabled";
+    GUITHREADINFO info{};
+    info.cbSize = sizeof info;
+    GetGUIThreadInfo(GetWindowThreadProcessId(window, nullptr), &info);
+    if (info.hwndFocus == window) line += " focus";
+    if (info.hwndCapture == window) line += " capture";
     return line + "\n";
 }
 

@@ -21,7 +21,7 @@ struct Question {
     ~Question() { CloseHandle(answered); }
 };
 using SharedQuestion = std::shared_ptr<Question>;
-using Action = std::function<void()>;
+using Step = std::function<bool()>;
 
 void Act(const UiThread& ui, const User::Script& script, unsigned patience) {
     try {
@@ -59,8 +59,9 @@ UiThread::~UiThread() {
 
 LRESULT CALLBACK UiThread::Procedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
     if (message == kDo) {
-        const std::unique_ptr<Action> action(reinterpret_cast<Action*>(lParam));
-        (*action)();
+        std::unique_ptr<Step> step(reinterpret_cast<Step*>(lParam));
+        const bool again = (*step)();
+        if (again && PostMessageW(window, kDo, 0, lParam)) step.release();
         return 0;
     }
     if (message == kAreYouIdle) {
@@ -72,9 +73,18 @@ LRESULT CALLBACK UiThread::Procedure(HWND window, UINT message, WPARAM wParam, L
     return DefWindowProcW(window, message, wParam, lParam);
 }
 
-bool UiThread::Do(Action action, DWORD milliseconds) const {
+bool UiThread::Do(std::function<void()> action, DWORD milliseconds) const {
+    return DoWhile(
+        [=] {
+            action();
+            return false;
+        },
+        milliseconds);
+}
+
+bool UiThread::DoWhile(std::function<bool()> step, DWORD milliseconds) const {
     const ULONGLONG deadline = GetTickCount64() + milliseconds;
-    PostMessageW(window_, kDo, 0, reinterpret_cast<LPARAM>(new Action(std::move(action))));
+    PostMessageW(window_, kDo, 0, reinterpret_cast<LPARAM>(new Step(std::move(step))));
     return WaitForIdle(deadline);
 }
 

@@ -32,6 +32,9 @@ public:
     // Runs a function from the thread's message loop, then waits until the thread waits for the user again
     // (a function that opens a modal window has not returned by then). False when that takes too long.
     bool Do(std::function<void()> action, DWORD milliseconds) const;
+    // The same with a function that runs again, behind whatever it has put into the queue, while it answers
+    // true.
+    bool DoWhile(std::function<bool()> step, DWORD milliseconds) const;
     // The modal call is over.
     void End() { ended_ = true; }
     bool Ended() const { return ended_; }

@@ -39,6 +39,10 @@ void UserScreen::Do(std::function<void()> action) {
     if (!ui_.Do(std::move(action), kStepLimit)) Fail("the windows do not answer");
 }
 
+void UserScreen::DoWhile(std::function<bool()> step) {
+    if (!ui_.DoWhile(std::move(step), kStepLimit)) Fail("the windows do not answer");
+}
+
 LRESULT UserScreen::Ask(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
     DWORD_PTR answer = 0;
     if (!SendMessageTimeoutW(window, message, wParam, lParam, SMTO_NORMAL, kStepLimit, &answer)) {

@@ -100,6 +100,7 @@ public:
 
     // Runs on the windows' thread, from its message loop.
     void Do(std::function<void()> action);
+    void DoWhile(std::function<bool()> step);
     LRESULT Ask(HWND window, UINT message, WPARAM wParam = 0, LPARAM lParam = 0);
 
 private:

@@ -2,17 +2,20 @@
 #include <windows.h>
 
 #include <commctrl.h>
+#include <commdlg.h>
 
 #include <algorithm>
 #include <cstdio>
-#include <functional>
 #include <random>
+#include <stdexcept>
+#include <utility>
 #include <vector>
 
 #include "harness/Children.h"
 #include "harness/Pointing.h"
 #include "harness/ProcessWindows.h"
 #include "proof/Counts.h"
+#include "proof/ImportTable.h"
 #include "proof/Openings.h"
 #include "proof/Options.h"
 
@@ -20,17 +23,15 @@ namespace recoveryui::proof {
 namespace {
 
 constexpr DWORD kPatience = 15'000;
-constexpr int kInputsOfOneOpening = 400, kInputsAtOnce = 8;
+constexpr int kInputsOfOneOpening = 400, kInputsAtOnce = 24;
 constexpr DWORD kCrashed = 99;  // the exit code of a process that crashed
 
 class Monkey {
 public:
     Monkey(unsigned seed, bool raw) : random_(seed), raw_(raw) {}
 
-    // Until the window is gone or the monkey has had enough of it; gives its inputs. `file` is what it
-    // chooses where a file is asked for.
-    long Use(Player& player, HWND window, const std::wstring& file) {
-        file_ = file;
+    // Until the window is gone or the monkey has had enough of it; gives its inputs.
+    long Use(Player& player, HWND window) {
         const long before = inputs_;
         while (inputs_ - before < kInputsOfOneOpening && IsWindow(window)) {
             test::RestartWatchdog();
@@ -53,17 +54,6 @@ private:
             if (IsWindowVisible(window) && IsWindowEnabled(window) && !active) active = window;
         return active;
     }
-    // The platform's file dialog shows the machine's own files, and deletes and renames them on a key: it
-    // gets nothing but a name or Cancel, nor does what it shows itself.
-    static bool IsFileDialog(HWND window) {
-        return window && GetWindowLongPtrW(window, GWLP_HINSTANCE) ==
-                             reinterpret_cast<LONG_PTR>(GetModuleHandleW(L"comdlg32.dll"));
-    }
-    static bool IsOfFileDialog(HWND window) {
-        for (; window; window = GetWindow(window, GW_OWNER))
-            if (IsFileDialog(window)) return true;
-        return false;
-    }
     HWND ControlOf(HWND window) {
         for (int tries = 0; tries < 20 && !controls_.empty(); ++tries) {
             const HWND control = controls_[Below(static_cast<unsigned>(controls_.size()))];
@@ -83,39 +73,33 @@ private:
         const std::wstring kind = test::ClassOf(window);
         if (kind == test::kHandClass || FindWindowW(test::kHandClass, nullptr))
             return player.RealKeys({VK_ESCAPE});
-        if (IsOfFileDialog(window)) {
-            if (IsFileDialog(window) && kind == L"#32770" && Below(2))
-                return player.GiveFile(test::TextOf(window).c_str(), file_);
-            return Leave(player, window);
-        }
         const bool isMenu = kind == L"#32768";
-        if (isMenu && Below(4) == 0) return Leave(player, window);
+        if (isMenu && Below(4) == 0)
+            return player.Do([=] { PostMessageW(window, WM_KEYDOWN, VK_ESCAPE, 1); });
         controls_ = test::Descendants(window);
-        inputs_ += kInputsAtOnce - 1;
-        for (int i = 0; i < kInputsAtOnce && IsWindow(window); ++i) {
+        --inputs_;
+        // Nothing reaches a window that a message box or its end has taken from the user.
+        player.DoWhile([=, this, left = kInputsAtOnce]() mutable {
+            if (left-- == 0 || !IsWindowVisible(window) || !IsWindowEnabled(window)) return false;
+            ++inputs_;
             const HWND control = ControlOf(window);
-            player.Do(raw_ && !isMenu ? Message(window, control) : Input(control));
-        }
+            if (raw_ && !isMenu) {
+                GiveMessage(window, control);
+            } else {
+                GiveInput(control);
+            }
+            return true;
+        });
     }
     // As the system does it: keys go to the focus, and to no window that has been hidden with its page
     // meanwhile. (The platform looks for mnemonics in a circle from the window with the key, endlessly where
     // it is hidden.)
     static void PostKey(UINT message, WPARAM key, LPARAM more) {
         const HWND focus = GetFocus();
-        if (focus && IsWindowVisible(focus) && !IsOfFileDialog(GetAncestor(focus, GA_ROOT)))
-            PostMessageW(focus, message, key, more);
-    }
-    void Leave(Player& player, HWND window) {
-        player.Do([=] {
-            if (test::ClassOf(window) == L"#32768") {
-                PostMessageW(window, WM_KEYDOWN, VK_ESCAPE, 1);
-            } else {
-                for (const WORD no : {IDCANCEL, IDNO}) PostMessageW(window, WM_COMMAND, no, 0);
-            }
-        });
+        if (focus && IsWindowVisible(focus)) PostMessageW(focus, message, key, more);
     }
 
-    std::function<void()> Input(HWND control) {
+    void GiveInput(HWND control) {
         constexpr WORD kKeys[] = {VK_TAB,    VK_RETURN, VK_ESCAPE, VK_SPACE, VK_UP,     VK_DOWN,
                                   VK_LEFT,   VK_RIGHT,  VK_HOME,   VK_END,   VK_DELETE, VK_F1,
                                   VK_INSERT, VK_F4,     VK_BACK,   VK_PRIOR};
@@ -125,27 +109,26 @@ private:
         GetClientRect(control, &place);
         const LPARAM at = MAKELPARAM(Below(std::max(1L, place.right)), Below(std::max(1L, place.bottom)));
         const unsigned choice = Below(10);
-        const WORD key = OneOf(kKeys);
+        WORD key = OneOf(kKeys);
+        if ((key == VK_ESCAPE || key == VK_RETURN) && Below(8)) key = VK_TAB;  // spared like their buttons
         const wchar_t letter = OneOf(kLetters);
-        return [=] {
-            if (choice < 4) {
-                PostMessageW(control, WM_LBUTTONDOWN, MK_LBUTTON, at);
-                PostMessageW(control, WM_LBUTTONUP, 0, at);
-            } else if (choice < 5) {
-                PostMessageW(control, WM_LBUTTONDBLCLK, MK_LBUTTON, at);
-                PostMessageW(control, WM_LBUTTONUP, 0, at);
-            } else if (choice < 7) {
-                PostKey(WM_KEYDOWN, key, 1);
-                PostKey(WM_KEYUP, key, static_cast<LPARAM>(0xC0000001));
-            } else {
-                PostKey(WM_CHAR, letter, 1);
-            }
-        };
+        if (choice < 4) {
+            PostMessageW(control, WM_LBUTTONDOWN, MK_LBUTTON, at);
+            PostMessageW(control, WM_LBUTTONUP, 0, at);
+        } else if (choice < 5) {
+            PostMessageW(control, WM_LBUTTONDBLCLK, MK_LBUTTON, at);
+            PostMessageW(control, WM_LBUTTONUP, 0, at);
+        } else if (choice < 7) {
+            PostKey(WM_KEYDOWN, key, 1);
+            PostKey(WM_KEYUP, key, static_cast<LPARAM>(0xC0000001));
+        } else {
+            PostKey(WM_CHAR, letter, 1);
+        }
     }
 
     // Messages whose parameters hold neither addresses nor drawing surfaces, with any parameters;
     // notifications come from real controls.
-    std::function<void()> Message(HWND window, HWND control) {
+    void GiveMessage(HWND window, HWND control) {
         constexpr UINT kMessages[] = {
             WM_COMMAND,      WM_COMMAND,       WM_COMMAND,     WM_COMMAND,        WM_SIZE,
             WM_MOVE,         WM_ENABLE,        WM_SETFOCUS,    WM_KILLFOCUS,      WM_TIMER,
@@ -171,23 +154,49 @@ private:
                               : message == WM_CAPTURECHANGED || message == WM_TIMER
                                   ? 0
                                   : static_cast<LPARAM>(Below(0x10000) | Below(0x400) << 16);
-        if (message == WM_ACTIVATE || message == WM_SHOWWINDOW || message == WM_INITMENU)
-            return [=] { PostMessageW(target, message, wParam & 1, 0); };
-        if (message == WM_PAINT || message == WM_NCPAINT) return [=] { PostMessageW(target, message, 0, 0); };
-        if (message >= WM_KEYFIRST && message <= WM_KEYLAST) return [=] { PostKey(message, wParam, lParam); };
-        return [=] {
+        const bool isKey = message >= WM_KEYFIRST && message <= WM_KEYLAST;
+        const bool isBare = message == WM_PAINT || message == WM_NCPAINT;
+        const bool isSwitch = message == WM_ACTIVATE || message == WM_SHOWWINDOW || message == WM_INITMENU;
+        if (isKey) return PostKey(message, wParam, lParam);
+        if (isBare || isSwitch) {
+            PostMessageW(target, message, isSwitch ? wParam & 1 : 0, 0);
+        } else {
             PostMessageW(target, message, wParam, lParam);
-            // A list waits for the end of a press, and whoever presses lets go.
-            if (message == WM_LBUTTONDOWN || message == WM_RBUTTONDOWN)
-                PostMessageW(target, message + 1, 0, lParam);
-        };
+        }
+        // A list waits for the end of a press, and whoever presses lets go.
+        if (message == WM_LBUTTONDOWN || message == WM_RBUTTONDOWN)
+            PostMessageW(target, message + 1, 0, lParam);
     }
 
     std::mt19937 random_;
     bool raw_;
     long inputs_ = 0;
-    std::wstring file_;
     std::vector<HWND> controls_;
+};
+
+// The platform's file dialog shows the machine's own files, and deletes and renames them on a key: monkeys
+// never see it. Whoever asks for a file gets one of theirs, or none, in turns.
+class Files {
+public:
+    static void Offer(std::vector<std::wstring> paths) { paths_ = std::move(paths); }
+    // In the host's objects, which are the ones that ask.
+    static void StandInForTheDialog() {
+        const HMODULE objects = GetModuleHandleW(L"TovarinObjects.dll");
+        for (const char* ask : {"GetOpenFileNameW", "GetSaveFileNameW"})
+            if (!PutImport(objects, ask, reinterpret_cast<void*>(&Choose)))
+                throw std::runtime_error("the file dialog would be the platform's");
+    }
+
+private:
+    static BOOL WINAPI Choose(OPENFILENAMEW* dialog) {
+        const size_t turn = asked_++ % (paths_.size() + 1);
+        if (turn == paths_.size() || paths_[turn].size() >= dialog->nMaxFile) return FALSE;
+        *std::copy(paths_[turn].begin(), paths_[turn].end(), dialog->lpstrFile) = L'\0';
+        return TRUE;
+    }
+
+    static inline std::vector<std::wstring> paths_;
+    static inline size_t asked_ = 0;
 };
 
 }  // namespace
@@ -197,6 +206,7 @@ int PlayMonkey(const Options& options) {
     test::ReportCrashes();
     test::StartWatchdog(60);
     LoadModules();
+    Files::StandInForTheDialog();
     const long wanted = options.Number(L"--inputs", 1000);
     const auto seed = static_cast<unsigned>(options.Number(L"--seed", 1));
     Monkey monkey(seed, options.Number(L"--raw", 0) != 0);
@@ -210,11 +220,12 @@ int PlayMonkey(const Options& options) {
         {
             Openings openings;
             SetCurrentDirectoryW(openings.Folder().c_str());
+            Files::Offer({openings.Folder() + L"\\file.trs", openings.Folder() + L"\\new"});
             std::printf("%s after %ld inputs\n", Openings::Dialogs()[opening % dialogs].name, inputs);
             test::RestartWatchdog();
             Actor actor(kPatience, [] {});
             openings.Open(opening % dialogs, actor, [&](Player& player, HWND window) {
-                inputs += monkey.Use(player, window, openings.Folder() + L"\\file.trs");
+                inputs += monkey.Use(player, window);
                 if (options.Number(L"--plant", 0))
                     player.Do([] { RaiseException(EXCEPTION_ACCESS_VIOLATION, 0, 0, nullptr); });
             });
