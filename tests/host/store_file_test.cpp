@@ -124,13 +124,18 @@ TEST_F(StoreFileTest, AnEditorWhoTakesTheFileAfterItWasReplacedFindsTheNewConten
 }
 
 TEST_F(StoreFileTest, AFileThatAppearsDuringTheSaveIsNotOverwritten) {
-    const std::wstring fresh = folder_ / L"new.trs";
+    const std::wstring fresh = folder_ / L"new.trs", first = folder_ / L"first.trs";
+    mine_.whenFree = [&](bool replaced) {
+        EXPECT_TRUE(replaced || other_.Save(first, "theirs") == STG_E_SHAREVIOLATION);
+    };
+    EXPECT_EQ(S_OK, mine_.Save(first, "mine")) << "of two who save it first in the same instant, one does";
+    EXPECT_EQ("mine", TempFolder::Read(first));
     mine_.whenFree = [&](bool replaced) {
         if (!replaced) TempFolder::Write(fresh, "theirs");
     };
     EXPECT_EQ(STG_E_FILEALREADYEXISTS, mine_.Save(fresh, "mine"));
     EXPECT_EQ("theirs", TempFolder::Read(fresh));
-    EXPECT_EQ(2, folder_.Count());
+    EXPECT_EQ(3, folder_.Count());
 }
 
 TEST_F(StoreFileTest, AFullDiskIsItsOwnFailure) {

@@ -43,12 +43,13 @@ std::wstring FreshName(const std::wstring& path) {
     return fresh + L".tmp";
 }
 
-HRESULT WriteFresh(const std::wstring& fresh, std::string_view bytes) {
-    const HANDLE file = CreateFileW(LongPath(fresh).c_str(), GENERIC_WRITE, 0, nullptr, CREATE_ALWAYS,
-                                    FILE_ATTRIBUTE_NORMAL, nullptr);
-    if (file == INVALID_HANDLE_VALUE) return LastCode();
-    const HRESULT hr = WriteFlushed(file, bytes);
-    CloseHandle(file);
+// The file stays open: until it is in its place nobody else can write it, nor put another under its name.
+HRESULT WriteFresh(const std::wstring& fresh, std::string_view bytes, std::shared_ptr<void>& file) {
+    const HANDLE opened = CreateFileW(LongPath(fresh).c_str(), GENERIC_WRITE, FILE_SHARE_DELETE, nullptr,
+                                      CREATE_ALWAYS, FILE_ATTRIBUTE_NORMAL, nullptr);
+    if (opened == INVALID_HANDLE_VALUE) return LastCode();
+    file.reset(opened, &CloseHandle);
+    const HRESULT hr = WriteFlushed(opened, bytes);
     if (FAILED(hr)) DeleteFileW(LongPath(fresh).c_str());
     return hr;
 }
@@ -108,15 +109,16 @@ HRESULT StoreFile::Save(std::wstring_view path, std::string_view bytes) {
         if (same && taken && StampOf(target) != stamp_) return STG_E_NOTCURRENT;
     }
     const std::wstring fresh = FreshName(target);
-    HRESULT hr = WriteFresh(fresh, bytes);
+    Handle file;
+    HRESULT hr = WriteFresh(fresh, bytes, file);
     if (FAILED(hr)) return hr;
     if (same) taken_.reset();
-    bool replaced = false;
-    hr = Replace(target, fresh, taken, replaced);
+    hr = Replace(target, fresh, file, taken);
+    const bool replaced = !file;
     if (same) taken_ = taken;
     if (same && replaced) stamp_ = StampOf(path_);
     if (FAILED(hr)) {
-        DeleteFileW(LongPath(fresh).c_str());
+        if (!replaced) DeleteFileW(LongPath(fresh).c_str());
         return hr;
     }
     path_ = target;
@@ -129,15 +131,15 @@ HRESULT StoreFile::Save(std::wstring_view path, std::string_view bytes) {
 // The platform replaces no file that is open, so it is let go for the instant of the replacement. Whoever
 // takes it then keeps it: before the replacement with the old content, right after it with the new one.
 // Readers are waited for, a little.
-HRESULT StoreFile::Replace(const std::wstring& path, const std::wstring& fresh, Handle& taken,
-                           bool& replaced) {
+HRESULT StoreFile::Replace(const std::wstring& path, const std::wstring& fresh, Handle& file, Handle& taken) {
     const Stamp before = StampOf(path);
     const DWORD flags = taken ? MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH : MOVEFILE_WRITE_THROUGH;
     for (int attempt = 1;; ++attempt) {
         taken.reset();
         if (whenFree) whenFree(false);
-        replaced = MoveFileExW(LongPath(fresh).c_str(), LongPath(path).c_str(), flags) != FALSE;
+        const bool replaced = MoveFileExW(LongPath(fresh).c_str(), LongPath(path).c_str(), flags) != FALSE;
         const DWORD error = GetLastError();
+        if (replaced) file.reset();
         if (whenFree && replaced) whenFree(true);
         const HRESULT retaken = Take(path, taken);
         if (replaced || (FAILED(retaken) && retaken != STG_E_FILENOTFOUND)) return retaken;

@@ -41,8 +41,9 @@ private:
 
     static Handle OpenHandle(const std::wstring& path, DWORD access, DWORD share);
     [[nodiscard]] static HRESULT Take(const std::wstring& path, Handle& taken);
-    [[nodiscard]] HRESULT Replace(const std::wstring& path, const std::wstring& fresh, Handle& taken,
-                                  bool& replaced);
+    // Puts the new file, `fresh`, in its place. `file`: that one, open; let go when it is there.
+    [[nodiscard]] HRESULT Replace(const std::wstring& path, const std::wstring& fresh, Handle& file,
+                                  Handle& taken);
     static bool SameFile(const std::wstring& first, const std::wstring& second);
     static Stamp StampOf(const std::wstring& path);
 
