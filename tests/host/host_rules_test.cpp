@@ -1,7 +1,6 @@
 // What the host's window, its services and its pointing hand decide, as data.
 #include <gtest/gtest.h>
 
-#include "app/JournalRows.h"
 #include "objects/screen/HandGesture.h"
 #include "objects/screen/ObjectIdentity.h"
 #include "objects/services/DialogFilter.h"
@@ -14,12 +13,8 @@ TEST(HostDialogFilter, TheFilterTextBecomesThePlatformsList) {
     EXPECT_EQ(PlatformFilter(L"Files (*.trs)|*.trs|All|*.*||"),
               std::wstring(L"Files (*.trs)\0*.trs\0All\0*.*\0\0", 29));
     EXPECT_EQ(PlatformFilter(L"||"), L"");
-    const std::pair<const wchar_t*, const wchar_t*> extensions[] = {{L"Files|*.trs|All|*.*||", L".trs"},
-                                                                    {L"Two|*.vbs;*.txt||", L".vbs"},
-                                                                    {L"All|*.*||", L""},
-                                                                    {L"Files", L""},
-                                                                    {L"", L""}};
-    for (const auto& [filter, extension] : extensions) EXPECT_EQ(FirstExtension(filter), extension) << filter;
+    EXPECT_EQ(FirstExtension(L"Two|*.vbs;*.txt|All|*.*||"), L".vbs");
+    EXPECT_EQ(FirstExtension(L"All|*.*||"), L"");
 }
 
 TEST(HostTestFile, WhatIsForeignIsLeftOutOrStaysAndForeignFilesAreRefused) {
@@ -96,24 +91,6 @@ TEST(HostObjectIdentity, WhatALaterRunWillShowAgainIsChecked) {
     EXPECT_EQ(Checked(window(L"a", L"Static", 0xFFFF, false)), L"Static \"a\": class text");
     EXPECT_EQ(Checked(window(L"typed", L"RichEdit20W", 0, false)), L"RichEdit20W \"typed\": class");
     EXPECT_EQ(Identify(window(std::wstring(100, L'x').c_str(), L"A", 0, true)).displayName.size(), 67u);
-}
-
-JournalRow Row(const std::wstring& operation) {
-    return {{L"12:00:00.000", L"TestOptions", operation, L"\"a\nb\"", L"S_OK"}};
-}
-
-TEST(JournalRowsTest, AFullJournalDropsItsOldestCallsInBlocksAndTheLatestAreCopiedAsLines) {
-    JournalRows rows(20);
-    std::vector<JournalRow> calls;
-    for (int call = 0; call < 20; ++call) calls.push_back(Row(std::to_wstring(call)));
-    EXPECT_EQ(rows.Add(calls), 0u);
-    EXPECT_EQ(rows.Add({Row(L"20")}), 3u);
-    EXPECT_EQ(rows.Count(), 18u);
-    EXPECT_EQ(rows.At(0).cells[2], L"3");
-    EXPECT_EQ(rows.Add({Row(L"21"), Row(L"22")}), 0u);
-    EXPECT_EQ(rows.TextOf({18, 19}),
-              L"12:00:00.000\tTestOptions\t21\t\"a b\"\tS_OK\r\n"
-              L"12:00:00.000\tTestOptions\t22\t\"a b\"\tS_OK\r\n");
 }
 
 }  // namespace

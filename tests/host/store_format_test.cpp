@@ -2,9 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include <cmath>
-#include <limits>
-
 #include "store_samples.h"
 
 namespace tovarin::store {
@@ -27,20 +24,6 @@ TEST(StoreFormat, TheFileReadsAsDocumented) {
         R"("regularExpression":1},"windowText":{"text":"","regularExpression":0},"option":0},)"
         R"("operations":[{"kind":"pressKeys","keys":[13]},{"kind":"closeProcesses","processes":[]}]}]})",
         text);
-}
-
-TEST(StoreFormat, AnyRealNumberSurvives) {
-    std::vector<NamedScenario> read;
-    using Limits = std::numeric_limits<double>;
-    for (const double real :
-         {0.1, Limits::infinity(), -Limits::infinity(), Limits::denorm_min(), Limits::quiet_NaN()}) {
-        const AccessObject operation{0, L"", {{ValueType::Double, 0, real}}};
-        ASSERT_EQ(ReadResult::Read, ReadStore(TextOfStore({{L"n", {0, {}, {operation}, L""}}}), read))
-            << real;
-        const double stored =
-            std::get<AccessObject>(read.at(0).scenario.operations.at(0)).arguments.at(0).real;
-        EXPECT_TRUE(stored == real || (std::isnan(stored) && std::isnan(real))) << real;
-    }
 }
 
 TEST(StoreFormat, AFileCutAnywhereIsCorruptAndChangesNothing) {

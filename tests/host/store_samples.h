@@ -1,6 +1,7 @@
 // Scenarios that hold one of everything, for the tests of recovery files.
 #pragma once
 
+#include <cmath>
 #include <string>
 #include <vector>
 
@@ -18,7 +19,8 @@ inline std::vector<NamedScenario> OneOfEverything() {
         {L"Pop-up",
          {2,
           PopUpTrigger{{L"Error.*", 1}, {L"first\nsecond", 0}, 0},
-          {PressKeys{{0x0100000d, 0xffffffff}}, AccessObject{1, L"Click", {{ValueType::Text, 0, 0, L"OK"}}}},
+          {PressKeys{{0x0100000d, 0xffffffff}},
+           AccessObject{1, L"Click", {{ValueType::Text, 0, 0, L"OK"}, {ValueType::Double, 0, -HUGE_VAL}}}},
           L"d\r\ne"}},
         {L"State",
          {8, objectState, {CloseProcesses{{L"a.exe", L""}}, CallFunction{L"F", L"C:\\l.vbs", 2}}, L""}},

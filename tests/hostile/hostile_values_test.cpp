@@ -101,7 +101,7 @@ using HostileFilesTest = ManagerTest;
 
 TEST_F(HostileFilesTest, NamesWithNulsAreDifferentScenarios) {
     const std::wstring first(L"n\0a", 3), second(L"n\0b", 3);
-    const std::wstring file = MakeFile(L"names.trs", {first, second, L"n"});
+    const std::wstring file = MakePopUps(L"names.trs", {first, second, L"n"});
     Manage([&](UserScreen& screen, HWND manager) {
         OpenFile(screen, manager, file);
         EXPECT_EQ(Names(screen, manager), (Rows{L"n", L"n", L"n"}));

@@ -8,7 +8,6 @@
 #include <map>
 #include <set>
 
-#include "harness/HelpViewer.h"
 #include "model/LoginName.h"
 #include "support/HelpTopics.h"
 #include "wizard/WizardTest.h"
@@ -57,8 +56,6 @@ void ExpectBoldTitle(UserScreen& screen, HWND wizard) {
 
 class KeyboardTest : public WizardTest {
 protected:
-    KeyboardTest() { rack_.Put(L"HelpViewer", help_.Get()); }
-
     // Presses a key, and looks where the keyboard is on the page that is shown then.
     void Press(UserScreen& screen, HWND wizard, std::initializer_list<WORD> chord) {
         screen.RealKeys(chord);
@@ -85,7 +82,6 @@ protected:
     void Enter(UserScreen& screen, HWND wizard) { Press(screen, wizard, {VK_RETURN}); }
     void AltB(UserScreen& screen, HWND wizard) { Press(screen, wizard, {VK_MENU, 'B'}); }
 
-    com::Ptr<HelpViewer> help_ = HelpViewer::Make();
     std::wstring title_;
     std::set<std::wstring> seen_;
 };

@@ -77,7 +77,7 @@ TEST_F(WizardTest, APageFollowsTheResolutionWithTitleIconsAndPicture) {
 }
 
 TEST_F(ManagerTest, FollowsTheResolutionWithIconsColumnsAndLayout) {
-    const std::wstring file = MakeFile(L"a.trs", {L"One"});
+    const std::wstring file = MakePopUps(L"a.trs", {L"One"});
     Manage([&](UserScreen& screen, HWND manager) {
         OpenFile(screen, manager, file);
         const HWND list = screen.Control(manager, IDC_MANAGER_LIST),

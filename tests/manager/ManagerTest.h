@@ -1,23 +1,16 @@
 // The Manager as a host opens it, with recovery files in a folder of the test's own.
 #pragma once
 
-#include "HostInterfaces.h"
-#include "harness/ComTest.h"
-#include "harness/ProcessWindows.h"
-#include "harness/TestSettings.h"
-#include "host/store_samples.h"
-#include "host/temp_folder.h"
-#include "resources/ids.h"
+#include "harness/ProductTest.h"
 
 namespace recoveryui::test {
 
 inline constexpr wchar_t kSaveQuestion[] = L"Do you want to save changes before closing?";
 
-class ManagerTest : public ComTest {
+class ManagerTest : public ProductTest {
 protected:
     ManagerTest() {
-        const auto recorder = com::Query<IUnknown>(recorder_.Get());
-        rack_.Put(L"TestOptions", settings_.Get()).Put(L"RecordMgr", recorder.Get());
+        rack_.Put(L"RecordMgr", com::Query<IUnknown>(recorder_.Get()).Get());
         recorder_->SetActive(VARIANT_TRUE);
     }
 
@@ -30,7 +23,6 @@ protected:
                   S_OK);
     }
 
-    std::wstring Path(const wchar_t* name) const { return folder_ / name; }
     // Suspensions of the recording that were not resumed yet.
     long Suspensions() const {
         long count = -1;
@@ -38,17 +30,6 @@ protected:
         return count;
     }
 
-    com::Ptr<IRecoveryRepository> Load(const std::wstring& path, bool readOnly) const {
-        const auto repository = New<IRecoveryRepository>(L"Vantrel.RecoveryRepository");
-        rack_.GiveTo(repository.Get());
-        EXPECT_EQ(repository->Load(com::Bstr(path).Get(), readOnly ? VARIANT_TRUE : VARIANT_FALSE), S_OK);
-        return repository;
-    }
-    // A file of scenarios, each described as "About <name>.".
-    std::wstring MakeFile(const wchar_t* file, const Rows& names) const {
-        tovarin::TempFolder::Write(Path(file), TextOfStore(tovarin::store::PopUps(names)));
-        return Path(file);
-    }
     // The user's steps.
     static void WaitForFile(UserScreen& screen, HWND manager, const std::wstring& path) {
         screen.WaitUntil("the file is open", [&] { return screen.Text(manager, IDC_MANAGER_FILE) == path; });
@@ -91,10 +72,7 @@ protected:
         return states;
     }
 
-    Rack rack_;
-    TestSettings settings_;
     com::Ptr<IRecordMgrControl> recorder_ = New<IRecordMgrControl>(L"Tovarin.RecordMgr");
-    tovarin::TempFolder folder_;
 };
 
 }  // namespace recoveryui::test

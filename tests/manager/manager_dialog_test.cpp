@@ -3,7 +3,6 @@
 
 #include <shlobj.h>
 
-#include "harness/HelpViewer.h"
 #include "manager/ManagerTest.h"
 #include "support/HelpTopics.h"
 
@@ -17,7 +16,7 @@ constexpr wchar_t kReplaceQuestion[] =
 
 TEST_F(ManagerTest, AFileIsOpenedAScenarioTakenToAnotherFileAndBothAreFoundAgain) {
     EXPECT_EQ(New<IRecoveryDlg>(L"Vantrel.RecoveryDlg")->DoModal(), E_FAIL) << "no rack";
-    const std::wstring first = MakeFile(L"first.trs", {L"Popup", L"Crash", L"Error"});
+    const std::wstring first = MakePopUps(L"first.trs", {L"Popup", L"Crash", L"Error"});
     const std::wstring second = Path(L"second.trs");
     settings_.Store(L"RecoveryManagerMRU",
                     com::Variant(L"C:\\a.trs;C:\\b.trs;C:\\a.trs;;C:\\R&D.trs;C:\\d.trs;C:\\e.trs"), true);
@@ -62,8 +61,8 @@ TEST_F(ManagerTest, AFileIsOpenedAScenarioTakenToAnotherFileAndBothAreFoundAgain
     EXPECT_EQ(settings_.Stored(L"RecoveryScenarios"), L"-") << "no scenario was to be added to a test";
 }
 
-TEST_F(ManagerTest, DeletingSelectsTheRowThatTookThePlace) {
-    const std::wstring file = MakeFile(L"three.trs", {L"one", L"two", L"three"});
+TEST_F(ManagerTest, DeletingSelectsTheRowThatTookThePlaceAndTheWindowGrows) {
+    const std::wstring file = MakePopUps(L"three.trs", {L"one", L"two", L"three"});
     Manage([&](UserScreen& screen, HWND manager) {
         OpenFile(screen, manager, file);
         screen.Choose(manager, IDC_MANAGER_LIST, L"two");
@@ -76,22 +75,39 @@ TEST_F(ManagerTest, DeletingSelectsTheRowThatTookThePlace) {
         ForgetCalls();
         screen.Press(manager, IDC_MANAGER_SAVE);
         EXPECT_EQ(Calls(), L"") << "an unchanged file is not written";
+
+        RECT start{}, now{}, help{}, list{};
+        GetWindowRect(manager, &start);
+        for (const int change : {300, -300}) {
+            SetWindowPos(manager, nullptr, 0, 0, start.right - start.left + change,
+                         start.bottom - start.top + change, SWP_NOMOVE | SWP_NOZORDER);
+            GetWindowRect(manager, &now);
+            GetWindowRect(screen.Control(manager, IDHELP), &help);
+            GetWindowRect(screen.Control(manager, IDC_MANAGER_LIST), &list);
+            EXPECT_EQ(now.right - start.right, std::max(0, change)) << "it grows, but does not shrink";
+            EXPECT_EQ(help.right, list.right);
+            EXPECT_LT(now.bottom - help.bottom, 30);
+        }
     });
     EXPECT_EQ(NamesInFile(file), Rows{});
 }
 
 TEST_F(ManagerTest, ALockedFileCanOnlyBeLookedAt) {
-    const std::wstring file = MakeFile(L"locked.trs", {L"one", L"two"});
-    const auto other = Load(file, false);
+    const std::wstring file = MakePopUps(L"locked.trs", {L"one", L"two"});
+    const auto other = New<IRecoveryRepository>(L"Vantrel.RecoveryRepository");
+    EXPECT_EQ(other->Load(com::Bstr(file).Get(), VARIANT_FALSE), S_OK);
     Manage([&](UserScreen& screen, HWND manager) {
-        OpenFile(screen, manager, MakeFile(L"free.trs", {L"free"}));
+        OpenFile(screen, manager, MakePopUps(L"free.trs", {L"free"}));
         screen.Choose(manager, IDC_MANAGER_LIST, L"free");
         screen.Press(manager, IDC_MANAGER_COPY);
-        screen.Press(manager, IDC_MANAGER_OPEN);
-        screen.GiveFile(L"Open Recovery File", file);
-        EXPECT_EQ(screen.AnswerBox(IDOK),
-                  L"The recovery file you selected is read-only. You cannot make any "
-                  L"modifications to the file and can only view its properties.");
+        for (const HRESULT otherwise : {STG_E_ACCESSDENIED, STG_E_LOCKVIOLATION, S_OK}) {
+            if (otherwise) FailCall(L"RecoveryRepository", L"Load", otherwise, 2);
+            screen.Press(manager, IDC_MANAGER_OPEN);
+            screen.GiveFile(L"Open Recovery File", file);
+            EXPECT_EQ(screen.AnswerBox(IDOK),
+                      L"The recovery file you selected is read-only. You cannot make any "
+                      L"modifications to the file and can only view its properties.");
+        }
         EXPECT_EQ(Toolbar(screen, manager), L"nepcvd");
         screen.Choose(manager, IDC_MANAGER_LIST, L"two");
         EXPECT_EQ(Toolbar(screen, manager), L"nePcvd");
@@ -108,7 +124,7 @@ TEST_F(ManagerTest, ALockedFileCanOnlyBeLookedAt) {
 }
 
 TEST_F(ManagerTest, PastingOverAnExistingNameAsksFirst) {
-    const std::wstring file = MakeFile(L"work.trs", {L"one", L"two"});
+    const std::wstring file = MakePopUps(L"work.trs", {L"one", L"two"});
     Manage([&](UserScreen& screen, HWND manager) {
         OpenFile(screen, manager, file);
         screen.Choose(manager, IDC_MANAGER_LIST, L"one");
@@ -134,7 +150,7 @@ TEST_F(ManagerTest, PastingOverAnExistingNameAsksFirst) {
 }
 
 TEST_F(ManagerTest, AScenarioIsMadeRenamedTwiceAndAddedToTheTestUnderItsLastName) {
-    const std::wstring file = MakeFile(L"work.trs", {L"one", L"two"});
+    const std::wstring file = MakePopUps(L"work.trs", {L"one", L"two"});
     settings_.Store(L"RecoveryScenarios", com::Variant(L"C:\\x.trs;Other;1;1*"));
     Manage([&](UserScreen& screen, HWND manager) {
         const auto openWizard = [&] {
@@ -183,9 +199,7 @@ TEST_F(ManagerTest, AScenarioIsMadeRenamedTwiceAndAddedToTheTestUnderItsLastName
 }
 
 TEST_F(ManagerTest, KeysMenusAndDroppedFilesDoWhatTheButtonsDo) {
-    const auto help = HelpViewer::Make();
-    rack_.Put(L"HelpViewer", help.Get());
-    const std::wstring file = MakeFile(L"work.trs", {L"one", L"two"});
+    const std::wstring file = MakePopUps(L"work.trs", {L"one", L"two"});
     Manage([&](UserScreen& screen, HWND manager) {
         screen.Do([&] {
             const size_t bytes = (file.size() + 2) * sizeof(wchar_t);
@@ -198,7 +212,7 @@ TEST_F(ManagerTest, KeysMenusAndDroppedFilesDoWhatTheButtonsDo) {
         screen.Press(manager, IDHELP);
         screen.Focus(manager, IDC_MANAGER_LIST);
         screen.RealKeys({VK_F1});
-        EXPECT_EQ(help->Take(), topics::kManager + std::wstring(L" ") + topics::kManager);
+        EXPECT_EQ(help_->Take(), topics::kManager + std::wstring(L" ") + topics::kManager);
         screen.Type(L"tw");
         EXPECT_EQ(Chosen(screen, manager), L"two");
         screen.RealKeys({VK_MENU, VK_RETURN});
@@ -229,23 +243,6 @@ TEST_F(ManagerTest, KeysMenusAndDroppedFilesDoWhatTheButtonsDo) {
         screen.WaitUntilClosed(manager);
     });
     EXPECT_EQ(NamesInFile(file), Rows{L"one"});
-}
-
-TEST_F(ManagerTest, TheWindowGrowsButDoesNotShrink) {
-    Manage([&](UserScreen& screen, HWND manager) {
-        RECT start{}, now{}, help{}, list{};
-        GetWindowRect(manager, &start);
-        for (const int change : {300, -300}) {
-            SetWindowPos(manager, nullptr, 0, 0, start.right - start.left + change,
-                         start.bottom - start.top + change, SWP_NOMOVE | SWP_NOZORDER);
-            GetWindowRect(manager, &now);
-            GetWindowRect(screen.Control(manager, IDHELP), &help);
-            GetWindowRect(screen.Control(manager, IDC_MANAGER_LIST), &list);
-            EXPECT_EQ(now.right - start.right, std::max(0, change));
-            EXPECT_EQ(help.right, list.right);
-            EXPECT_LT(now.bottom - help.bottom, 30);
-        }
-    });
 }
 
 }  // namespace

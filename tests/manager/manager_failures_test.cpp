@@ -5,7 +5,7 @@ namespace recoveryui::test {
 namespace {
 
 TEST_F(ManagerTest, WhatCannotBeOpenedOrSavedChangesNothing) {
-    const std::wstring file = MakeFile(L"work.trs", {L"one", L"two"}), missing = Path(L"missing.trs");
+    const std::wstring file = MakePopUps(L"work.trs", {L"one", L"two"}), missing = Path(L"missing.trs");
     settings_.Store(L"RecoveryManagerMRU", com::Variant(missing), true);
     Manage([&](UserScreen& screen, HWND manager) {
         const auto expectUnchanged = [&] {
@@ -28,10 +28,11 @@ TEST_F(ManagerTest, WhatCannotBeOpenedOrSavedChangesNothing) {
             const wchar_t *object, *operation;
             HRESULT code = E_FAIL;
             long nth = 1;
-            bool asksForFile = true;
+            bool asksForFile = true, isMissing = false;
         } openFailures[] = {{L"Vantrel.RecoveryRepository", L"Create"},
                             {L"RecoveryRepository", L"SetRack"},
                             {L"RecoveryRepository", L"Load", STG_E_DOCFILECORRUPT},
+                            {L"RecoveryRepository", L"Load", STG_E_PATHNOTFOUND, 1, true, true},
                             {L"RecoveryRepository", L"Load", E_FAIL, 2},
                             {L"Vantrel.TovCommonFileDialog", L"Create", E_FAIL, 1, false}};
         for (const auto& failure : openFailures) {
@@ -39,14 +40,18 @@ TEST_F(ManagerTest, WhatCannotBeOpenedOrSavedChangesNothing) {
             screen.Press(manager, IDC_MANAGER_OPEN);
             screen.AnswerBox(IDNO);
             if (failure.asksForFile) screen.GiveFile(L"Open Recovery File", file);
+            if (failure.isMissing) screen.AnswerBox(IDOK);
             expectUnchanged();
             ClearFaults();
         }
 
+        const std::wstring full = L"There is no disk space remaining on drive " + file.substr(0, 2) +
+                                  L"\nPlease free some space and try again.";
         const std::pair<HRESULT, std::wstring> saveFailures[] = {
             {STG_E_ACCESSDENIED, L"Failed to save recovery file."},
-            {STG_E_MEDIUMFULL, L"There is no disk space remaining on drive " + file.substr(0, 2) +
-                                   L"\nPlease free some space and try again."}};
+            {STG_E_MEDIUMFULL, full},
+            {HRESULT_FROM_WIN32(ERROR_DISK_FULL), full},
+            {HRESULT_FROM_WIN32(ERROR_HANDLE_DISK_FULL), full}};
         for (const auto& [code, text] : saveFailures) {
             FailCall(L"RecoveryRepository", L"Save", code);
             screen.Press(manager, IDCANCEL);
@@ -68,7 +73,7 @@ TEST_F(ManagerTest, WhatCannotBeOpenedOrSavedChangesNothing) {
 }
 
 TEST_F(ManagerTest, FailingHostObjectsLeaveListSelectionAndFileAlone) {
-    const std::wstring file = MakeFile(L"work.trs", {L"one", L"two"});
+    const std::wstring file = MakePopUps(L"work.trs", {L"one", L"two"});
     const struct {
         const wchar_t *object, *operation;
         int command;
@@ -107,7 +112,7 @@ TEST_F(ManagerTest, FailingHostObjectsLeaveListSelectionAndFileAlone) {
 }
 
 TEST_F(ManagerTest, AnEditThatCannotBeStoredLeavesTheOldScenario) {
-    const std::wstring file = MakeFile(L"work.trs", {L"one"});
+    const std::wstring file = MakePopUps(L"work.trs", {L"one"});
     rack_.Get()->RemoveObject(com::Bstr(L"RecordMgr").Get());  // an edit does without
     Manage([&](UserScreen& screen, HWND manager) {
         OpenFile(screen, manager, file);

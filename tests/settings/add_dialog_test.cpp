@@ -41,8 +41,7 @@ protected:
 
 TEST_F(AddDialogTest, ThreeRowsAreGivenInTheOrderOfTheSortedList) {
     constexpr auto kTopic = support::topics::kAddScenario;
-    const std::wstring file =
-        MakeFile(L"f.trs", {{L"delta"}, {L"Charlie"}, {L"alpha"}, {L"Bravo"}, {L"echo"}});
+    const std::wstring file = MakePopUps(L"f.trs", {L"delta", L"Charlie", L"alpha", L"Bravo", L"echo"});
     EXPECT_EQ(Run([&](UserScreen& screen, HWND dialog) {
                   EXPECT_FALSE(screen.IsEnabled(dialog, IDOK));
                   EXPECT_EQ(screen.Tip(dialog, IDC_ADD_SCENARIO_BROWSE), L"Browse");
@@ -73,8 +72,8 @@ TEST_F(AddDialogTest, ThreeRowsAreGivenInTheOrderOfTheSortedList) {
 }
 
 TEST_F(AddDialogTest, AFileThatCannotBeOpenedLeavesTheListAndTakesTheButton) {
-    MakeFile(L"f.trs", {{L"A"}});
-    MakeFile(L"empty.trs", {});
+    MakePopUps(L"f.trs", {L"A"});
+    MakePopUps(L"empty.trs", {});
     const HRESULT result = Run([&](UserScreen& screen, HWND dialog) {
         const auto focus = [&](int control) {
             screen.Focus(dialog, control);
@@ -116,7 +115,7 @@ TEST_F(AddDialogTest, ACancelledDialogRemembersFourFilesOfWhichOneWasBrowsedFor)
     rack_.Put(L"HostApplication", host.Get());
     Rows files;
     for (const wchar_t* name : {L"1.trs", L"2.trs", L"3.trs", L"4.trs", L"5.trs"})
-        files.push_back(MakeFile(name, {{name}}));
+        files.push_back(MakePopUps(name, {name}));
     Run([&](UserScreen& screen, HWND dialog) {
         EXPECT_EQ(screen.RowsOf(dialog, kFile), Rows{});
         for (int typed = 0; typed < 4; ++typed) EnterFile(screen, dialog, files[typed]);
@@ -143,7 +142,7 @@ TEST_F(AddDialogTest, NeedsARackAndWorksWithAnEmptyOne) {
     EXPECT_EQ(New<IRecoveryDlg>(L"Vantrel.RecoveryAddDlg")->DoModal(), E_FAIL);
     EXPECT_EQ(dialog_->get_FilePath(nullptr), E_POINTER);
     EXPECT_EQ(dialog_->get_ScenariosNames(nullptr), E_POINTER);
-    const std::wstring file = MakeFile(L"f.trs", {{L"A"}});
+    const std::wstring file = MakePopUps(L"f.trs", {L"A"});
     Rack().GiveTo(dialog_.Get());
     EXPECT_EQ(Run([&](UserScreen& screen, HWND dialog) {
                   for (int twice = 0; twice < 2; ++twice) EnterFile(screen, dialog, file);

@@ -5,11 +5,8 @@
 #include <prsht.h>
 
 #include "harness/Arrays.h"
-#include "harness/ComTest.h"
-#include "harness/HelpViewer.h"
-#include "harness/ProcessWindows.h"
+#include "harness/ProductTest.h"
 #include "model/LoginName.h"
-#include "resources/ids.h"
 
 namespace recoveryui::test {
 namespace {
@@ -38,12 +35,11 @@ void ExpectReadOnly(UserScreen& screen, HWND sheet) {
     }
 }
 
-class PropertiesSheetTest : public ComTest {
+class PropertiesSheetTest : public ProductTest {
 protected:
     PropertiesSheetTest()
         : scenario_(New<IRecoveryScenario>(L"Vantrel.ReplayRecoveryScenario")),
           properties_(New<IScenarioProperties>(L"Vantrel.ScenarioProperties")) {
-        rack_.Put(L"HelpViewer", help_.Get());
         rack_.GiveTo(properties_.Get());
         SetOperations({});
     }
@@ -73,8 +69,6 @@ protected:
                   S_OK);
     }
 
-    com::Ptr<HelpViewer> help_ = HelpViewer::Make();
-    Rack rack_;
     com::Ptr<IRecoveryScenario> scenario_;
     com::Ptr<IScenarioProperties> properties_;
 };

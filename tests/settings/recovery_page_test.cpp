@@ -150,7 +150,7 @@ TEST_F(RecoveryPageTest, AFrameThatGoesUnderTheOpenDialogTakesEverythingAlong) {
 }
 
 TEST_F(RecoveryPageTest, TheHostMayOpenThePageAnewWhileItReadsAFileForIt) {
-    const std::wstring file = MakeFile(L"f.trs", {{L"First scenario"}, {L"Other scenario"}});
+    const std::wstring file = MakePopUps(L"f.trs", {L"First scenario", L"Other scenario"});
     const auto open = [&](const std::wstring& records) {
         settings_.Store(L"RecoveryScenarios", com::Variant(records));
         EXPECT_EQ(Activate(), S_OK);

@@ -38,10 +38,10 @@ protected:
 
 TEST_F(RecoveryTabTest, ScenariosOfTwoFilesAreAddedOrderedSwitchedOffAndFoundAgain) {
     const std::wstring common =
-        MakeFile(L"common.trs", {{L"Popup", PopUpTrigger{}, L"Closes it.\nThen goes on."},
-                                 {L"Crash", CrashTrigger{}},
-                                 {L"Error", ErrorTrigger{}}});
-    const std::wstring other = MakeFile(L"other.trs", {{L"Popup"}, {L"State", ObjectStateTrigger{}}});
+        MakeFile(L"common.trs", {{L"Popup", {1, PopUpTrigger{}, {}, L"Closes it.\nThen goes on."}},
+                                 {L"Crash", {1, CrashTrigger{}, {}, L""}},
+                                 {L"Error", {1, ErrorTrigger{}, {}, L""}}});
+    const std::wstring other = MakePopUps(L"other.trs", {L"Popup"});
     const std::wstring crash = L"Crash | " + common, popup = L"Popup | " + common,
                        error = L"Error | " + common, otherPopup = L"Popup | " + other;
     OpenSettings([&](UserScreen& screen, HWND frame) {
@@ -112,7 +112,7 @@ TEST_F(RecoveryTabTest, ScenariosOfTwoFilesAreAddedOrderedSwitchedOffAndFoundAga
 }
 
 TEST_F(RecoveryTabTest, RemovingTheLastRowSelectsTheOneAboveAndNothingIsLeftInTheEnd) {
-    const std::wstring file = MakeFile(L"f.trs", {{L"A", PopUpTrigger{}, L"about A"}, {L"B"}});
+    const std::wstring file = MakePopUps(L"f.trs", {L"A", L"B"});
     settings_.Store(L"RecoveryScenarios",
                     Variant(L"f.trs;A;1;1*f.trs;Gone;1;1*f.trs;A;2;1*missing.trs;A;1;1*"));
     settings_.Store(L"Enabled", Variant(0L));
@@ -125,7 +125,7 @@ TEST_F(RecoveryTabTest, RemovingTheLastRowSelectsTheOneAboveAndNothingIsLeftInTh
         EXPECT_EQ(Icons(screen, frame).back(), '4');
         screen.Picture(frame, L"recovery-tab-unreadable");
         screen.Press(frame, IDC_RECOVERY_REMOVE);
-        EXPECT_EQ(screen.Text(frame, IDC_RECOVERY_DESCRIPTION), L"about A");
+        EXPECT_EQ(screen.Text(frame, IDC_RECOVERY_DESCRIPTION), L"About A.");
         screen.Keys({VK_DELETE});  // takes its equal along
         EXPECT_EQ(screen.RowsOf(frame, kList), Rows{L"Gone | " + file});
         EXPECT_EQ(screen.Chosen(frame, kList), Rows{L"Gone | " + file});
@@ -139,7 +139,7 @@ TEST_F(RecoveryTabTest, RemovingTheLastRowSelectsTheOneAboveAndNothingIsLeftInTh
 }
 
 TEST_F(RecoveryTabTest, AScenarioIsLookedForByItsLettersAndShownInItsSheet) {
-    const std::wstring file = MakeFile(L"f.trs", {{L"Popup"}, {L"State of it"}, {L"Stop"}});
+    const std::wstring file = MakePopUps(L"f.trs", {L"Popup", L"State of it", L"Stop"});
     settings_.Store(L"RecoveryScenarios", Variant(L"f.trs;Popup;1;1*f.trs;State of it;1;1*f.trs;Stop;1;1*"));
     OpenSettings([&](UserScreen& screen, HWND frame) {
         screen.Focus(frame, kList);
@@ -160,9 +160,9 @@ TEST_F(RecoveryTabTest, AScenarioIsLookedForByItsLettersAndShownInItsSheet) {
 }
 
 TEST_F(RecoveryTabTest, ManyScenariosAreChosenAndAddedInListsWithoutABarAcross) {
-    std::vector<Scenario> scenarios;
-    for (int i = 0; i < 40; ++i) scenarios.push_back({L"Scenario " + std::to_wstring(i)});
-    const std::wstring file = MakeFile(L"many.trs", scenarios);
+    Rows names;
+    for (int i = 0; i < 40; ++i) names.push_back(L"Scenario " + std::to_wstring(i));
+    const std::wstring file = MakePopUps(L"many.trs", names);
     OpenSettings([&](UserScreen& screen, HWND frame) {
         screen.Press(frame, IDC_RECOVERY_ADD);
         const HWND dialog = screen.WaitForWindow(L"Add Recovery Scenario");
@@ -203,7 +203,7 @@ TEST_F(RecoveryTabTest, OpensWhateverTheOptionsHold) {
 }
 
 TEST_F(RecoveryTabTest, ADefaultThatIsRefusedIsToldAndALostFileKeepsItsPath) {
-    MakeFile(L"f.trs", {{L"A"}});
+    MakePopUps(L"f.trs", {L"A"});
     settings_.Store(L"RecoveryScenarios", Variant(L"f.trs;A;1;ffffffff*lost.trs;B;1;ffffffff*"));
     OpenSettings([&](UserScreen& screen, HWND frame) {
         FailCall(L"TestOptions.ReplayRecovery", L"SetOptionValue");

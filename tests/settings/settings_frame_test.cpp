@@ -1,5 +1,4 @@
-// The settings frame of the host around the component's page and its own, and the protocol between them. What
-// is decided in which state is the matter of the rules' own test.
+// The settings frame of the host around the component's page and its own, and the protocol between them.
 #include <windows.h>
 
 #include <commctrl.h>
@@ -167,7 +166,7 @@ TEST_F(SettingsFrameTest, AMissingConfigurationHoldsTheFrameOpen) {
         screen.Press(frame, kFrameApply);
         EXPECT_EQ(settings_.Stored(L"RecoveryScenarios"), kChanged) << "its own tab may apply";
         for (const bool isCloseBox : {false, true}) {
-            SetConfiguration(true);
+            SetConfiguration(true, false, isCloseBox);
             isCloseBox ? screen.Close(frame) : screen.Press(frame, IDCANCEL);
             EXPECT_EQ(screen.BoxLook(), L"warning: [OK] Cancel");
             EXPECT_EQ(screen.AnswerBox(IDCANCEL), kLeaveQuestion);
@@ -201,6 +200,7 @@ TEST_F(SettingsFrameTest, AChangeOfTheTabSetsTheButtonsAfterTheFrameFromNumbersO
         bool apply, ok;
     } cases[] = {{Variant(1L), Variant(0L), true, true},
                  {Variant(1L), Variant(1L), false, false},
+                 {Variant(0L), Variant(1L), false, false},
                  {Variant(L"1"), Variant(true), false, true}};
     OpenSettings([&](UserScreen& screen, HWND frame) {
         for (const auto& c : cases) {

@@ -1,12 +1,11 @@
 #include "tour/Tour.h"
 
-#include <fstream>
-
 #include "app/Host.h"
 #include "com/Bstr.h"
 #include "com/Create.h"
 #include "harness/User.h"
 #include "host/store_samples.h"
+#include "host/temp_folder.h"
 
 namespace recoveryui::tour {
 namespace {
@@ -32,13 +31,13 @@ std::wstring FileIn(const wchar_t* name) {
     return Folder() + name;
 }
 
-std::wstring WriteText(const wchar_t* file, const std::string& text) {
-    std::ofstream(FileIn(file).c_str(), std::ios::binary) << text;
+std::wstring MakeFile(const wchar_t* file, const std::string& text) {
+    tovarin::TempFolder::Write(FileIn(file), text);
     return FileIn(file);
 }
 
-std::string RecoveryFileOf(const Rows& names) {
-    return TextOfStore(tovarin::store::PopUps(names));
+std::wstring MakePopUps(const wchar_t* file, const Rows& names) {
+    return MakeFile(file, TextOfStore(tovarin::store::PopUps(names)));
 }
 
 void Tour::Play(const wchar_t* journal, const Story& story) {

@@ -23,10 +23,10 @@ using test::UserScreen;
 std::wstring Folder();
 std::wstring FileIn(const wchar_t* name);
 
-// Makes a file in the folder; gives its full path.
-std::wstring WriteText(const wchar_t* file, const std::string& text);
-// A recovery file of pop-up scenarios, each described as "About <name>.".
-std::string RecoveryFileOf(const Rows& names);
+// Makes a file in the folder, also one of pop-up scenarios that each are described as "About <name>."; gives
+// its full path.
+std::wstring MakeFile(const wchar_t* file, const std::string& text);
+std::wstring MakePopUps(const wchar_t* file, const Rows& names);
 
 class Tour : public testing::Test {
 protected:

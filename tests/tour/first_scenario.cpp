@@ -116,19 +116,14 @@ TEST_F(Tour, AFirstScenarioIsMadeStoredFoundAgainAndRenamed) {
     DeleteFileW(FileIn(kFile).c_str());
     Play(L"first-scenario-journal.txt", [](UserScreen& screen, HWND host) {
         HWND manager = OpenManager(screen, host, L"01-host-menu");
-        EXPECT_EQ(screen.Text(manager, IDC_MANAGER_FILE), L"<Untitled>");
         screen.Picture(manager, L"02-manager-empty");
         MakeScenario(screen, manager);
-        EXPECT_EQ(screen.Chosen(manager, IDC_MANAGER_LIST), Rows{L"Error message"});
-        EXPECT_EQ(screen.Text(manager, IDC_MANAGER_DESCRIPTION),
-                  L"Closes error messages and goes on with the next step.");
         screen.Picture(manager, L"15-manager-unsaved");
 
         screen.Press(manager, IDC_MANAGER_SAVE);
         screen.Picture(screen.WaitForWindow(L"Save Recovery File"), L"16-save");
         screen.GiveFile(L"Save Recovery File", FileIn(kFile));
         manager = screen.WaitForWindow(L"Recovery Scenario Manager - scenarios.trs");
-        EXPECT_EQ(screen.Text(manager, IDC_MANAGER_FILE), FileIn(kFile));
         screen.Picture(manager, L"17-manager-saved");
         const tovarin::store::Scenario made{
             2,
@@ -148,10 +143,8 @@ TEST_F(Tour, AFirstScenarioIsMadeStoredFoundAgainAndRenamed) {
         screen.Picture(screen.WaitForWindow(L"Open Recovery File"), L"18-open");
         screen.GiveFile(L"Open Recovery File", FileIn(kFile));
         manager = screen.WaitForWindow(L"Recovery Scenario Manager - scenarios.trs");
-        EXPECT_EQ(screen.RowsOf(manager, IDC_MANAGER_LIST), Rows{L"Error message"});
         screen.Choose(manager, IDC_MANAGER_LIST, L"Error message");
         RenameScenario(screen, manager);
-        EXPECT_EQ(screen.RowsOf(manager, IDC_MANAGER_LIST), Rows{L"Error or warning"});
         screen.Press(manager, IDCANCEL);
         EXPECT_EQ(screen.AnswerBox(IDYES), L"Do you want to save changes before closing?");
         screen.WaitUntilClosed(manager);

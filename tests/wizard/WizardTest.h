@@ -1,15 +1,12 @@
 // The wizard in front of its user, with real stand-ins of the host behind it.
 #pragma once
 
-#include "HostInterfaces.h"
 #include "harness/Arrays.h"
-#include "harness/ComTest.h"
-#include "harness/ProcessWindows.h"
-#include "resources/ids.h"
+#include "harness/ProductTest.h"
 
 namespace recoveryui::test {
 
-class WizardTest : public ComTest {
+class WizardTest : public ProductTest {
 protected:
     WizardTest();
 
@@ -40,7 +37,6 @@ protected:
     // The same, one after the other.
     testing::AssertionResult CalledInOrder(std::initializer_list<const wchar_t*> order);
 
-    Rack rack_;
     com::Ptr<IRecoveryRepository> repository_;
     com::Ptr<IRecoveryWizard> wizard_;
 };

@@ -1,24 +1,18 @@
 // New functions at the end of real library files, at Finish.
 #include "wizard/AppendFunctions.h"
 
-#include "host/temp_folder.h"
+#include "harness/ProductTest.h"
 #include "proof/ImportTable.h"
-#include "wizard/WizardTest.h"
 
 namespace recoveryui::test {
 namespace {
 
-class AppendFunctionsTest : public ComTest {
+class AppendFunctionsTest : public ProductTest {
 protected:
     AppendFunctionsTest() {
         rack_.Put(L"RACK_FILE_LOCATOR", L"Tovarin.FileLocator")
             .Put(L"TovPluginMgrObject", L"Tovarin.PluginMgr");
     }
-    std::wstring Make(const std::wstring& name, const std::string& content = "'") const {
-        folder_.Write(folder_ / name, content);
-        return folder_ / name;
-    }
-    std::string Content(const std::wstring& name) const { return folder_.Read(folder_ / name); }
     std::vector<std::wstring> Append(std::initializer_list<std::wstring> paths) {
         wizard::NewFunctionList functions;
         for (const std::wstring& path : paths)
@@ -35,12 +29,11 @@ protected:
     }
 
     static constexpr const char* kWritten = "'\r\nSub F '\xe9\r\nEnd Sub";
-    tovarin::TempFolder folder_;
-    Rack rack_;
 };
 
 TEST_F(AppendFunctionsTest, WhatCannotBeOpenedIsSkippedAndWhatCannotBeLocatedEndsIt) {
-    const auto first = Make(L"first.vbs"), second = Make(L"second.vbs"), held = Make(L"held.vbs");
+    const auto first = MakeFile(L"first.vbs", "'"), second = MakeFile(L"second.vbs", "'"),
+               held = MakeFile(L"held.vbs", "'");
     const HANDLE holder = CreateFileW(held.c_str(), GENERIC_READ, 0, nullptr, OPEN_EXISTING, 0, nullptr);
     FailCall(L"PluginMgr", L"LibraryChanged");
     Append({folder_ / L"missing.vbs", held, first});
@@ -70,7 +63,7 @@ BOOL WINAPI WriteOneByte(HANDLE file, LPCVOID bytes, DWORD, LPDWORD written, LPO
 
 TEST_F(AppendFunctionsTest, WhatCannotBeWrittenIsAsItWasAndIsTold) {
     for (const std::string original : {"'", "'\x1A\x1A"}) {  // the second as an old editor ended it
-        const auto library = Make(L"full.vbs", original);
+        const auto library = MakeFile(L"full.vbs", original);
         void* const before =
             proof::PutImport(GetModuleHandleW(nullptr), "WriteFile", reinterpret_cast<void*>(&WriteOneByte));
         ASSERT_NE(before, nullptr);
@@ -88,8 +81,8 @@ TEST_F(AppendFunctionsTest, FilesOfTheTestManagementRepositoryAreHandedBack) {
     wchar_t before[MAX_PATH] = L"";
     GetCurrentDirectoryW(MAX_PATH, before);
     SetCurrentDirectoryW(folder_.Path().c_str());
-    Make(L"[Ondrafel]a.vbs");
-    Make(L"[BREVALON] b.vbs");
+    MakeFile(L"[Ondrafel]a.vbs", "'");
+    MakeFile(L"[BREVALON] b.vbs", "'");
     Append({L"[Ondrafel]a.vbs", L"[BREVALON] b.vbs"});
     SetCurrentDirectoryW(before);
     EXPECT_EQ(Content(L"[Ondrafel]a.vbs") + Content(L"[BREVALON] b.vbs"), std::string(kWritten) + kWritten);

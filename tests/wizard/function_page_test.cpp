@@ -1,8 +1,6 @@
 // "Recovery Operation - Function Call" as its user meets it, over real library files.
 #include <windows.h>
 
-#include "harness/TestSettings.h"
-#include "host/temp_folder.h"
 #include "wizard/WizardTest.h"
 
 namespace recoveryui::test {
@@ -15,14 +13,11 @@ constexpr const char* kLibrary =
 class FunctionPageTest : public WizardTest {
 protected:
     FunctionPageTest() {
-        folder_.Write(Path(L"lib.vbs"), kLibrary);
-        folder_.Write(Path(L"empty.vbs"), "' nothing yet\r\n");
-        const auto locator = New<IFileLocatorFolders>(L"Tovarin.FileLocator");
-        EXPECT_EQ(locator->SetTestFolder(com::Bstr(folder_.Path()).Get()), S_OK);
-        rack_.Put(L"RACK_FILE_LOCATOR", locator.Get()).Put(L"TestOptions", settings_.Get());
+        MakeFile(L"lib.vbs", kLibrary);
+        MakeFile(L"empty.vbs", "' nothing yet\r\n");
+        PutLocator();
         Edit(PopUp(L"Error").Get());
     }
-    std::wstring Path(const wchar_t* name) const { return folder_ / name; }
 
     static void OpenPage(UserScreen& screen, HWND wizard) {
         AddOperation(screen, wizard, IDC_SELECT_OPERATION_FUNCTION);
@@ -56,9 +51,6 @@ protected:
         const bool editable = IsWindowEnabled(text) && !(GetWindowLongW(text, GWL_STYLE) & ES_READONLY);
         return editable ? shown : L"[" + shown + L"]";
     }
-
-    tovarin::TempFolder folder_;
-    TestSettings settings_;
 };
 
 TEST_F(FunctionPageTest, AFunctionOfTheLibraryIsChosen) {
@@ -150,13 +142,13 @@ TEST_F(FunctionPageTest, ANewFunctionTakesItsNameForItselfAndReachesTheLibraryAt
     });
     EXPECT_EQ(result, S_OK);
     const std::string written = "(Object)\r\n\r\nEnd Function";
-    EXPECT_EQ(folder_.Read(Path(L"lib.vbs")),
+    EXPECT_EQ(Content(L"lib.vbs"),
               kLibrary + ("\r\nFunction Fix" + written) + "\r\nFunction Second" + written)
         << "a function goes with its operation";
 }
 
 TEST_F(FunctionPageTest, ALibraryIsLoadedOnLeavingItsBoxAndRefusedWithAReason) {
-    folder_.Write(Path(L"broken.vbs"), "Function Alpha(\r\nEnd Sub\r\n");
+    MakeFile(L"broken.vbs", "Function Alpha(\r\nEnd Sub\r\n");
     BrowsePage([&](UserScreen& screen, HWND wizard) {
         TypePath(screen, wizard, Path(L"lib.vbs"));
         screen.Keys({VK_TAB});

@@ -189,6 +189,7 @@ TEST_F(WizardPagesTest, AScenarioThatGetsARestartGivesUpTheOptionThatIsHiddenAnd
         screen.Check(wizard, IDC_CLICK_ESCAPE);
         screen.Next(wizard);
         EXPECT_TRUE(Called(L"SetKeySequence([0x0001001B, 0x0003001B])"));
+        EXPECT_EQ(screen.RowsOf(wizard, IDC_OPERATION_LIST_ROWS), Rows{L"Keyboard click | Esc"});
         screen.Check(wizard, IDC_OPERATION_LIST_ANOTHER, false);
         screen.Next(wizard);
         EXPECT_EQ(Options(screen, wizard), L"ooooXo") << "the restart is not derived from the option";
@@ -237,6 +238,13 @@ TEST_F(WizardPagesTest, AForeignScenarioIsReadAsFarAsItGoesAndItsUnknownOperatio
         EXPECT_EQ(screen.RowsOf(wizard, IDC_OPERATION_LIST_ROWS), Rows{L"Keyboard click | "});
         screen.Next(wizard);
         EXPECT_EQ(Options(screen, wizard), L"oooooo") << "an option that is none";
+        Rows captions;
+        for (int id = IDC_TEST_FLOW_FIRST; id <= IDC_TEST_FLOW_LAST; ++id)
+            captions.push_back(screen.Text(wizard, id));
+        EXPECT_EQ(captions,
+                  (Rows{L"Repeat current step and continue", L"Proceed to next step",
+                        L"Proceed to next action or component iteration", L"Proceed to next test iteration",
+                        L"Restart current test run", L"Stop the test run"}));
         screen.Next(wizard);
         EXPECT_EQ(screen.PageTitle(wizard), L"Post-Recovery Test Run Options");
         screen.Check(wizard, IDC_TEST_FLOW_LAST);
