@@ -2,9 +2,14 @@
 #include <gtest/gtest.h>
 
 #include "manager/AddedScenarios.h"
+#include "manager/StorePlan.h"
 
 namespace recoveryui::manager {
 namespace {
+
+TEST(StoringTheWizardsScenario, ARenameInOtherLettersAloneTakesTheOldOneOutFirst) {
+    EXPECT_EQ(PlanStore(L"A", L"a"), (StorePlan{.removeOldFirst = true, .replace = true}));
+}
 
 using Files = std::vector<AddedScenarios::File>;
 
