@@ -44,7 +44,7 @@ ComTest::~ComTest() {
     }
     journal_.Reset();
     RunPendingMessages();
-    EXPECT_EQ(CallEntryPoint(component_, "DllCanUnloadNow"), S_OK) << "objects of the component are alive";
+    EXPECT_TRUE(CanUnload()) << "objects of the component are alive";
     EXPECT_EQ(CallEntryPoint(standIns_, "DllCanUnloadNow"), S_OK) << "stand-ins are alive";
     EXPECT_EQ(WindowsLeft(), "") << "windows are left";
     LeaveApartment();

@@ -48,10 +48,14 @@ protected:
     std::wstring Calls();
     void ForgetCalls();
 
+    // Whether nothing of the component is in use.
+    bool CanUnload() const { return CallEntryPoint(component_, "DllCanUnloadNow") == S_OK; }
+
+    HMODULE component_ = nullptr;
+
 private:
     static void Create(const wchar_t* progId, REFIID iid, void** object);
 
-    HMODULE component_ = nullptr;
     HMODULE standIns_ = nullptr;
     com::Ptr<ICallJournal> journal_;
 };

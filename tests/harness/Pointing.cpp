@@ -9,12 +9,6 @@ namespace {
 
 constexpr int kAside = 5000;
 
-RECT PlaceOf(HWND window) {
-    RECT place{};
-    GetWindowRect(window, &place);
-    return place;
-}
-
 // A window of the hand, in that place when one is given.
 bool IsHandOut(const RECT* wanted) {
     for (const HWND window : TopLevelWindows()) {

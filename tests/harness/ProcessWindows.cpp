@@ -30,8 +30,7 @@ std::string Describe(HWND window, const char* indent) {
 
 // An open menu, in the picture of the place that it covers.
 void DrawMenu(HDC picture, HWND menu, const RECT& covered) {
-    RECT place{};
-    GetWindowRect(menu, &place);
+    const RECT place = PlaceOf(menu);
     const HDC source = GetWindowDC(menu);
     BitBlt(picture, place.left - covered.left, place.top - covered.top, place.right - place.left,
            place.bottom - place.top, source, 0, 0, SRCCOPY);
@@ -109,6 +108,13 @@ std::wstring ClassOf(HWND window) {
     return name;
 }
 
+RECT PlaceOf(HWND window, HWND in) {
+    RECT place{};
+    GetWindowRect(window, &place);
+    if (in) MapWindowPoints(nullptr, in, reinterpret_cast<POINT*>(&place), 2);
+    return place;
+}
+
 std::wstring TextOf(HWND window) {
     DWORD_PTR length = 0;
     if (!SendMessageTimeoutW(window, WM_GETTEXTLENGTH, 0, 0, SMTO_ABORTIFHUNG, 1000, &length)) return {};
@@ -177,8 +183,7 @@ void CloseWindows() {
 }
 
 bool SaveBmp(HWND window, const std::wstring& path) {
-    RECT place{};
-    GetWindowRect(window, &place);
+    const RECT place = PlaceOf(window);
     const LONG width = place.right - place.left;
     const LONG height = place.bottom - place.top;
     BITMAPINFO info{};

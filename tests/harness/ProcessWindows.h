@@ -16,6 +16,8 @@ std::string Utf8(std::wstring_view text);
 std::vector<HWND> TopLevelWindows();
 std::vector<HWND> Descendants(HWND window);
 std::wstring ClassOf(HWND window);
+// Its place on the screen, or in another window's client area.
+RECT PlaceOf(HWND window, HWND in = nullptr);
 // An open message box, whose text has a number of its own; null when there is none.
 inline constexpr int kBoxText = 0xFFFF;
 HWND FindBox();

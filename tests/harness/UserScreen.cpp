@@ -254,10 +254,6 @@ void UserScreen::Type(const std::wstring& text) {
     for (const wchar_t letter : text) Do([=] { PostMessageW(GetFocus(), WM_CHAR, letter, 1); });
 }
 
-void UserScreen::Mnemonic(wchar_t letter) {
-    Do([=] { PostMessageW(GetFocus(), WM_SYSCHAR, letter, 0x20000001); });
-}
-
 void UserScreen::RealKeys(std::initializer_list<WORD> chord) {
     std::vector<INPUT> inputs;
     const auto add = [&](WORD key, DWORD flags) {

@@ -78,8 +78,6 @@ public:
     // Keys to the control with the focus; `Type` sends characters.
     void Keys(std::initializer_list<WORD> virtualKeys);
     void Type(const std::wstring& text);
-    // Alt and a letter.
-    void Mnemonic(wchar_t letter);
     // The keyboard itself: keys held down together, to the foreground window.
     void RealKeys(std::initializer_list<WORD> chord);
     // Waits for a pop-up menu and gives its items: disabled ones in brackets, separators "-".

@@ -53,7 +53,7 @@ TEST_F(HostTest, WithoutTheAddInTheUserIsToldAndTheMenuSaysSo) {
         EXPECT_EQ(screen.AnswerBox(IDOK),
                   L"The add-in Vantrel.RecoveryUIAddin could not be connected (E_ACCESSDENIED).");
         const HWND window = screen.WaitForWindow(nullptr, tovarin::kMainWindowClass);
-        screen.Mnemonic(L'r');
+        screen.RealKeys({VK_MENU, 'R'});
         EXPECT_EQ(screen.MenuItems(), Rows{L"[(No add-in is connected)]"});
         screen.ChooseMenu(L"");
         screen.Close(window);

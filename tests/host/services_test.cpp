@@ -129,13 +129,10 @@ protected:
                   S_OK);
         return names;
     }
+    // In UTF-16, or with the bytes of each unit the other way round.
     static std::string Wide(std::wstring_view text, bool swap) {
-        std::string bytes;
-        for (const wchar_t unit : text) {
-            const char low = static_cast<char>(unit & 0xFF), high = static_cast<char>(unit >> 8);
-            bytes += swap ? high : low;
-            bytes += swap ? low : high;
-        }
+        std::string bytes(reinterpret_cast<const char*>(text.data()), 2 * text.size());
+        for (size_t i = 0; swap && i < bytes.size(); i += 2) std::swap(bytes[i], bytes[i + 1]);
         return bytes;
     }
 

@@ -3,6 +3,7 @@
 
 #include <windows.h>
 
+#include <filesystem>
 #include <fstream>
 #include <iterator>
 #include <string>
@@ -21,15 +22,21 @@ public:
                          L"-" + std::to_wstring(GetTickCount64()));
         CreateDirectoryW(path_.c_str(), nullptr);
     }
-    ~TempFolder() { Remove(path_); }
+    // Its files may be too deep for short paths, and read-only.
+    ~TempFolder() {
+        std::error_code ignored;
+        const std::filesystem::path all = L"\\\\?\\" + path_;
+        for (const auto& each : std::filesystem::recursive_directory_iterator(all, ignored))
+            SetFileAttributesW(each.path().c_str(), FILE_ATTRIBUTE_NORMAL);
+        std::filesystem::remove_all(all, ignored);
+    }
 
     std::wstring operator/(const std::wstring& name) const { return path_ + L"\\" + name; }
     const std::wstring& Path() const { return path_; }
     // Files and folders in it.
-    int Count() const {
-        int count = 0;
-        Each(path_, [&](const std::wstring&, DWORD) { ++count; });
-        return count;
+    auto Count() const {
+        return std::distance(std::filesystem::directory_iterator(path_),
+                             std::filesystem::directory_iterator());
     }
 
     static std::string Read(const std::wstring& path) {
@@ -41,25 +48,6 @@ public:
     }
 
 private:
-    template <class Visit>
-    static void Each(const std::wstring& folder, Visit visit) {
-        WIN32_FIND_DATAW found{};
-        const HANDLE search = FindFirstFileW((LongPath(folder) + L"\\*").c_str(), &found);
-        if (search == INVALID_HANDLE_VALUE) return;
-        do {
-            const std::wstring name = found.cFileName;
-            if (name != L"." && name != L"..") visit(folder + L"\\" + name, found.dwFileAttributes);
-        } while (FindNextFileW(search, &found));
-        FindClose(search);
-    }
-    static void Remove(const std::wstring& folder) {
-        Each(folder, [](const std::wstring& path, DWORD attributes) {
-            SetFileAttributesW(LongPath(path).c_str(), FILE_ATTRIBUTE_NORMAL);
-            attributes& FILE_ATTRIBUTE_DIRECTORY ? Remove(path) : void(DeleteFileW(LongPath(path).c_str()));
-        });
-        RemoveDirectoryW(LongPath(folder).c_str());
-    }
-
     std::wstring path_;
 };
 

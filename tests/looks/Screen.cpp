@@ -97,8 +97,7 @@ Screen FromWindow(HWND dialog) {
         control.id = GetDlgCtrlID(child);
         control.kind = KindOf(test::ClassOf(child), control.style);
         control.text = test::TextOf(child);
-        GetWindowRect(child, &control.place);
-        MapWindowPoints(nullptr, dialog, reinterpret_cast<POINT*>(&control.place), 2);
+        control.place = test::PlaceOf(child, dialog);
         if (control.style & WS_VISIBLE || control.kind == Kind::Static)
             screen.controls.push_back(std::move(control));
     }

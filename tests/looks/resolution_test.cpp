@@ -18,8 +18,7 @@ int Larger(int pixels) {
 }
 
 void MoveToMonitor(UserScreen& screen, HWND window) {
-    RECT place{};
-    GetWindowRect(window, &place);
+    const RECT place = PlaceOf(window);
     const RECT wanted{place.left, place.top, place.left + Larger(place.right - place.left),
                       place.top + Larger(place.bottom - place.top)};
     screen.Do([&] {
@@ -30,10 +29,10 @@ void MoveToMonitor(UserScreen& screen, HWND window) {
     });
 }
 
-int FontHeight(UserScreen& screen, HWND control) {
+LOGFONTW FontOf(UserScreen& screen, HWND window) {
     LOGFONTW font{};
-    GetObjectW(reinterpret_cast<HFONT>(screen.Ask(control, WM_GETFONT)), sizeof font, &font);
-    return -font.lfHeight;
+    GetObjectW(reinterpret_cast<HFONT>(screen.Ask(window, WM_GETFONT)), sizeof font, &font);
+    return font;
 }
 
 SIZE SizeOf(HBITMAP bitmap) {
@@ -63,16 +62,18 @@ TEST_F(WizardTest, APageFollowsTheResolutionWithTitleIconsAndPicture) {
         };
         const SIZE small = picture();
         ASSERT_GT(small.cx, 0) << "the page shows no picture";
-        const int height = FontHeight(screen, title), icon = IconSize(screen, hand);
+        const int icon = IconSize(screen, hand);
         screen.Do([&] {
             SetWindowPos(frame, nullptr, 0, 0, Larger(small.cx), Larger(small.cy), SWP_NOMOVE | SWP_NOZORDER);
         });
         MoveToMonitor(screen, wizard);
-        EXPECT_EQ(FontHeight(screen, title), MulDiv(10, kDpi, 72)) << "before: " << height;
+        const LOGFONTW font = FontOf(screen, title);
+        EXPECT_EQ(font.lfHeight, -MulDiv(10, kDpi, 72));
+        EXPECT_EQ(font.lfWeight, FW_BOLD);
+        EXPECT_STREQ(font.lfFaceName, FontOf(screen, screen.Page(wizard)).lfFaceName);
         EXPECT_EQ(IconSize(screen, hand), Larger(icon));
         EXPECT_EQ(picture().cx, Larger(small.cx));
         EXPECT_EQ(picture().cy, Larger(small.cy));
-        screen.Cancel(wizard);
     });
 }
 
@@ -95,11 +96,9 @@ TEST_F(ManagerTest, FollowsTheResolutionWithIconsColumnsAndLayout) {
             return info.ptMinTrackSize;
         };
         const auto gap = [&] {
-            RECT place{}, client{};
+            RECT client{};
             GetClientRect(manager, &client);
-            GetWindowRect(close, &place);
-            MapWindowPoints(nullptr, manager, reinterpret_cast<POINT*>(&place), 2);
-            return client.right - place.right;
+            return client.right - PlaceOf(close, manager).right;
         };
         const int iconBefore = icon(), column = ListView_GetColumnWidth(list, 0);
         const LONG gapBefore = gap();
@@ -109,7 +108,6 @@ TEST_F(ManagerTest, FollowsTheResolutionWithIconsColumnsAndLayout) {
         EXPECT_EQ(smallest().x, Larger(before.x));
         EXPECT_NEAR(gap(), Larger(gapBefore), 4) << "the frame of the window stays as wide as it was";
         EXPECT_GT(ListView_GetColumnWidth(list, 0), Larger(column) - 20);
-        screen.Press(manager, IDCANCEL);
     });
 }
 

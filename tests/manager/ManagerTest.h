@@ -63,6 +63,12 @@ protected:
         screen.Enter(wizard, IDC_SCEN_NAME, name);
         screen.Next(wizard);
     }
+    // Closes the Manager, which asks whether to save.
+    static void Leave(UserScreen& screen, HWND manager, WORD answer) {
+        screen.Press(manager, IDCANCEL);
+        EXPECT_EQ(screen.AnswerBox(answer), kSaveQuestion);
+        if (answer != IDCANCEL) screen.WaitUntilClosed(manager);
+    }
     // New Scenario, Edit, Properties, Copy, Paste, Delete: a capital for each that can be pressed.
     static std::wstring Toolbar(UserScreen& screen, HWND manager) {
         std::wstring states;

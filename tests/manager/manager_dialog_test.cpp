@@ -76,16 +76,13 @@ TEST_F(ManagerTest, DeletingSelectsTheRowThatTookThePlaceAndTheWindowGrows) {
         screen.Press(manager, IDC_MANAGER_SAVE);
         EXPECT_EQ(Calls(), L"") << "an unchanged file is not written";
 
-        RECT start{}, now{}, help{}, list{};
-        GetWindowRect(manager, &start);
+        const RECT start = PlaceOf(manager);
         for (const int change : {300, -300}) {
             SetWindowPos(manager, nullptr, 0, 0, start.right - start.left + change,
                          start.bottom - start.top + change, SWP_NOMOVE | SWP_NOZORDER);
-            GetWindowRect(manager, &now);
-            GetWindowRect(screen.Control(manager, IDHELP), &help);
-            GetWindowRect(screen.Control(manager, IDC_MANAGER_LIST), &list);
+            const RECT now = PlaceOf(manager), help = PlaceOf(GetDlgItem(manager, IDHELP));
             EXPECT_EQ(now.right - start.right, std::max(0, change)) << "it grows, but does not shrink";
-            EXPECT_EQ(help.right, list.right);
+            EXPECT_EQ(help.right, PlaceOf(GetDlgItem(manager, IDC_MANAGER_LIST)).right);
             EXPECT_LT(now.bottom - help.bottom, 30);
         }
     });
@@ -189,9 +186,7 @@ TEST_F(ManagerTest, AScenarioIsMadeRenamedTwiceAndAddedToTheTestUnderItsLastName
             EXPECT_EQ(Names(screen, manager), (Rows{L"one", L"two", name}));
             EXPECT_EQ(Chosen(screen, manager), name);
         }
-        screen.Press(manager, IDCANCEL);
-        EXPECT_EQ(screen.AnswerBox(IDYES), kSaveQuestion);
-        screen.WaitUntilClosed(manager);
+        Leave(screen, manager, IDYES);
     });
     EXPECT_EQ(NamesInFile(file), (Rows{L"one", L"two", L"newest"}));
     EXPECT_EQ(settings_.Stored(L"RecoveryScenarios"), L"C:\\x.trs;Other;1;1*" + file + L";newest;1;1*");

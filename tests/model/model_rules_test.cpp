@@ -15,34 +15,27 @@ namespace {
 using Records = std::vector<ScenarioAssociation>;
 
 TEST(RecordString, ReadsCompleteRecordsAndStopsAtTheFirstBrokenOne) {
-    const struct {
-        const wchar_t* why;
-        std::wstring text;
-        Records records;
-    } cases[] = {
-        {L"nothing stored", L"", {}},
-        {L"two records",
-         L"C:\\c.trs;Popup;1;ffffffff*C:\\c.trs;Crash;0;1*",
-         {{L"C:\\c.trs", L"Popup", true, -1}, {L"C:\\c.trs", L"Crash", false, 1}}},
-        {L"a last record needs no terminator", L"f;P;1;1", {{L"f", L"P", true, 1}}},
-        {L"three tokens are not a record", L"f;P;1;1*g;Q;1", {{L"f", L"P", true, 1}}},
-        {L"an empty mode is not a record", L"f;P;1;1*g;Q;1;*", {{L"f", L"P", true, 1}}},
-        {L"separators only", L";;;***", {}},
-        {L"empty fields are skipped", L";;f;;P;;;1;1*", {{L"f", L"P", true, 1}}},
-        {L"a star is an ordinary letter before the mode", L"f;P*Q;1;1*", {{L"f", L"P*Q", true, 1}}},
-        {L"a stray star goes to the next file",
-         L"a;b;1;1**c;d;0;1*",
-         {{L"a", L"b", true, 1}, {L"*c", L"d", false, 1}}},
-        {L"only the number 1 enables", L"f;P;2;1*", {{L"f", L"P", false, 1}}},
-        {L"numbers are prefixes", L"f;P;1x;1;zz*", {{L"f", L"P", true, 1}}},
-        {L"no digits are 0", L"f;P;x;g*", {{L"f", L"P", false, 0}}},
-        {L"blanks, sign and 0x as the C library has them", L"f;P; +1;0XFFffFFff*", {{L"f", L"P", true, -1}}},
-        {L"a bare 0x is 0", L"f;P;01;0x*", {{L"f", L"P", true, 0}}},
-        {L"32 bits, then the limit", L"f;P;4294967297;1ffffffff*", {{L"f", L"P", false, -1}}},
-        {L"a negative mode", L"f;P;-1;-1*", {{L"f", L"P", false, -1}}},
+    const Records one{{L"f", L"P", true, 1}};
+    const std::pair<std::wstring, Records> cases[] = {
+        {L"", {}},
+        {L"f;P;1;ffffffff*g;Q;0;1*", {{L"f", L"P", true, -1}, {L"g", L"Q", false, 1}}},
+        {L"f;P;1;1", one},        // a last record needs no terminator
+        {L"f;P;1;1*g;Q;1", one},  // three tokens are not a record
+        {L"f;P;1;1*g;Q;1;*", one},
+        {L";;;***", {}},
+        {L";;f;;P;;;1;1*", one},                     // empty fields are skipped
+        {L"f;P*Q;1;1*", {{L"f", L"P*Q", true, 1}}},  // a star is an ordinary letter before the mode
+        {L"f;P;1;1**g;Q;0;1*", {{L"f", L"P", true, 1}, {L"*g", L"Q", false, 1}}},
+        {L"f;P;2;1*", {{L"f", L"P", false, 1}}},  // only the number 1 enables
+        {L"f;P;1x;1;zz*", one},                   // numbers are prefixes
+        {L"f;P;x;g*", {{L"f", L"P", false, 0}}},  // no digits are 0
+        {L"f;P; +1;0XFFffFFff*", {{L"f", L"P", true, -1}}},
+        {L"f;P;01;0x*", {{L"f", L"P", true, 0}}},
+        {L"f;P;4294967297;1ffffffff*", {{L"f", L"P", false, -1}}},  // 32 bits, then the limit
+        {L"f;P;-1;-1*", {{L"f", L"P", false, -1}}},
     };
-    for (const auto& c : cases)
-        EXPECT_TRUE(ReadRecords(c.text) == c.records) << testing::PrintToString(c.why);
+    for (const auto& [text, records] : cases)
+        EXPECT_TRUE(ReadRecords(text) == records) << testing::PrintToString(text);
 }
 
 TEST(RecordString, APathIsConvertedOncePerRunOfRecords) {
@@ -54,43 +47,28 @@ TEST(RecordString, APathIsConvertedOncePerRunOfRecords) {
     EXPECT_EQ(asked, 2);
 }
 
-TEST(FileNames, SavingAddsTheExtensionToAPathWithoutADot) {
+TEST(FileNames, APathHasItsPartsAndIsSavedWithAnExtension) {
     const struct {
-        const wchar_t* chosen;
-        const wchar_t* saved;
+        std::wstring path, name, drive, saved;
     } cases[] = {
-        {L"C:\\data\\scenarios", L"C:\\data\\scenarios.trs"},
-        {L"C:\\data.v2\\scenarios", L"C:\\data.v2\\scenarios"},
-        {L"C:\\data\\scenarios.", L"C:\\data\\scenarios."},
-        {L"C:\\data\\scenarios.json", L"C:\\data\\scenarios.json"},
-        {L"[Ondrafel] Subject\\scenarios", L"[Ondrafel] Subject\\scenarios"},
-        {L"[Brevalon] Subject\\scenarios", L"[Brevalon] Subject\\scenarios"},
-        {L"[Brevalon]Subject\\scenarios", L"[Brevalon]Subject\\scenarios.trs"},
-    };
-    for (const auto& c : cases) EXPECT_EQ(PathToSave(c.chosen, L".trs"), c.saved) << &c - cases;
-    for (const wchar_t* path : {L"", L" ", L"\t \r\n"}) EXPECT_TRUE(IsCancelledPath(path));
-    EXPECT_FALSE(IsCancelledPath(L" a "));
-}
-
-TEST(FileNames, PartsOfAPath) {
-    const struct {
-        std::wstring path;
-        const wchar_t* name;
-        const wchar_t* drive;
-    } cases[] = {
-        {L"C:\\data\\a.trs", L"a.trs", L"C:"},
-        {L"c:/data/a.trs", L"a.trs", L"c:"},
-        {L"a.trs", L"a.trs", L""},
-        {L"C:\\data\\", L"", L"C:"},
-        {L"\\\\server\\share\\a.trs", L"a.trs", L"\\\\server\\share"},
-        {L"\\\\server", L"server", L"\\\\server"},
-        {L"\\\\?\\D:\\a.trs", L"a.trs", L"D:"},
-        {L"1:\\a.trs", L"a.trs", L""},
+        {L"C:\\data\\a", L"a", L"C:", L"C:\\data\\a.trs"},
+        {L"c:/data.v2/a", L"a", L"c:", L"c:/data.v2/a"},
+        {L"a.", L"a.", L"", L"a."},
+        {L"\\\\server\\share\\", L"", L"\\\\server\\share", L"\\\\server\\share\\.trs"},
+        {L"\\\\server", L"server", L"\\\\server", L"\\\\server.trs"},
+        {L"\\\\?\\D:\\a.trs", L"a.trs", L"D:", L"\\\\?\\D:\\a.trs"},
+        {L"1:\\a.trs", L"a.trs", L"", L"1:\\a.trs"},
+        {L"[Ondrafel] Subject\\a", L"a", L"", L"[Ondrafel] Subject\\a"},
+        {L"[Brevalon]Subject\\a", L"a", L"", L"[Brevalon]Subject\\a.trs"},
     };
     for (const auto& c : cases) {
+        SCOPED_TRACE(testing::PrintToString(c.path));
         EXPECT_EQ(FileNamePart(c.path), c.name);
-        EXPECT_EQ(DrivePart(c.path), c.drive) << testing::PrintToString(c.path);
+        EXPECT_EQ(DrivePart(c.path), c.drive);
+        EXPECT_EQ(PathToSave(c.path, L".trs"), c.saved);
     }
+    for (const wchar_t* path : {L"", L" ", L"\t \r\n"}) EXPECT_TRUE(IsCancelledPath(path));
+    EXPECT_FALSE(IsCancelledPath(L" a "));
 }
 
 TEST(FileNames, LongPathsGetTheExtendedForm) {

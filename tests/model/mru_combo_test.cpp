@@ -13,7 +13,7 @@ class MruComboTest : public testing::Test {
 protected:
     MruComboTest() {
         HKEY key = nullptr;
-        RegCreateKeyExW(HKEY_CURRENT_USER, kKey, 0, nullptr, 0, KEY_ALL_ACCESS, nullptr, &key, nullptr);
+        RegCreateKeyW(HKEY_CURRENT_USER, kKey, &key);
         RegCloseKey(key);
         Open();
     }

@@ -35,9 +35,7 @@ protected:
     HRESULT Activate() { return page_->Activate(frame_, &kPlace, FALSE); }
     // Where the page's window stands in its frame.
     void ExpectAt(const RECT& wanted) const {
-        RECT place{};
-        GetWindowRect(Tab(), &place);
-        MapWindowPoints(nullptr, frame_, reinterpret_cast<POINT*>(&place), 2);
+        const RECT place = PlaceOf(Tab(), frame_);
         EXPECT_TRUE(EqualRect(&place, &wanted));
     }
 
@@ -115,16 +113,13 @@ TEST_F(RecoveryPageTest, ChangesOutliveTheWindowAndTheModuleStaysAsLongAsTheFram
     EXPECT_EQ(page_->Deactivate(), S_OK);
 
     page_.Reset();
-    const auto canUnload = [] {
-        return CallEntryPoint(GetModuleHandleW(L"RecoveryUI.dll"), "DllCanUnloadNow");
-    };
-    EXPECT_EQ(canUnload(), S_FALSE);
+    EXPECT_FALSE(CanUnload());
     // The frame's end gives back the one reference of its property.
     const ULONG references = settings_.Get()->AddRef();
     SetPropW(frame_, L"SettingsObjPtr", settings_.Get());
     settings_.SetGlobal(L"g_bAlreadyInit", com::Variant(1L));
     DestroyWindow(frame_);
-    EXPECT_EQ(canUnload(), S_OK);
+    EXPECT_TRUE(CanUnload());
     EXPECT_EQ(settings_.Get()->AddRef(), references);
     settings_.Get()->Release();
     EXPECT_EQ(settings_.Global(L"g_bAlreadyInit").Get().lVal, 0);

@@ -76,7 +76,7 @@ TEST_F(RecoveryTabTest, ScenariosOfTwoFilesAreAddedOrderedSwitchedOffAndFoundAga
         EXPECT_FALSE(screen.IsRowChecked(frame, kList, otherPopup));
 
         screen.Choose(frame, IDC_RECOVERY_ACTIVATION, L"Never");
-        screen.Mnemonic(L'd');
+        screen.RealKeys({VK_MENU, 'D'});
         EXPECT_EQ(Buttons(screen, frame).back(), '.');
         screen.Choose(frame, IDC_RECOVERY_ACTIVATION, L"On every step");
         EXPECT_EQ(Buttons(screen, frame).back(), 'S');
@@ -138,8 +138,11 @@ TEST_F(RecoveryTabTest, RemovingTheLastRowSelectsTheOneAboveAndNothingIsLeftInTh
     EXPECT_EQ(settings_.Stored(L"Enabled"), L"0");
 }
 
-TEST_F(RecoveryTabTest, AScenarioIsLookedForByItsLettersAndShownInItsSheet) {
+TEST_F(RecoveryTabTest, AScenarioIsLookedForAndShownAndManyAreAddedInListsWithoutABarAcross) {
     const std::wstring file = MakePopUps(L"f.trs", {L"Popup", L"State of it", L"Stop"});
+    Rows names;
+    for (int i = 0; i < 40; ++i) names.push_back(L"Scenario " + std::to_wstring(i));
+    const std::wstring many = MakePopUps(L"many.trs", names);
     settings_.Store(L"RecoveryScenarios", Variant(L"f.trs;Popup;1;1*f.trs;State of it;1;1*f.trs;Stop;1;1*"));
     OpenSettings([&](UserScreen& screen, HWND frame) {
         screen.Focus(frame, kList);
@@ -155,18 +158,11 @@ TEST_F(RecoveryTabTest, AScenarioIsLookedForByItsLettersAndShownInItsSheet) {
         DeleteFileW(file.c_str());
         screen.Press(frame, IDC_RECOVERY_PROPERTIES);  // what cannot be read is not shown
         EXPECT_TRUE(IsWindowEnabled(frame));
-    });
-    EXPECT_EQ(settings_.Global(L"g_bDirty").Get().lVal, 0);
-}
+        EXPECT_EQ(settings_.Global(L"g_bDirty").Get().lVal, 0);
 
-TEST_F(RecoveryTabTest, ManyScenariosAreChosenAndAddedInListsWithoutABarAcross) {
-    Rows names;
-    for (int i = 0; i < 40; ++i) names.push_back(L"Scenario " + std::to_wstring(i));
-    const std::wstring file = MakePopUps(L"many.trs", names);
-    OpenSettings([&](UserScreen& screen, HWND frame) {
         screen.Press(frame, IDC_RECOVERY_ADD);
         const HWND dialog = screen.WaitForWindow(L"Add Recovery Scenario");
-        EnterFile(screen, dialog, file);
+        EnterFile(screen, dialog, many);
         EXPECT_FALSE(GetWindowLongW(screen.Control(dialog, IDC_ADD_SCENARIO_LIST), GWL_STYLE) & WS_HSCROLL);
         screen.RealKeys({VK_CONTROL, 'A'});
         screen.Press(dialog, IDOK);

@@ -143,9 +143,7 @@ TEST_F(SettingsFrameTest, ThePagesFollowTheTabControlToAnotherMonitor) {
         });
         screen.Do([] {});
         for (const int control : {static_cast<int>(IDC_RECOVERY_LIST), kSorRequire}) {
-            RECT place{};
-            GetWindowRect(Page(screen, frame, control), &place);
-            MapWindowPoints(nullptr, frame, reinterpret_cast<POINT*>(&place), 2);
+            const RECT place = PlaceOf(Page(screen, frame, control), frame);
             EXPECT_TRUE(EqualRect(&place, &inside)) << "shown or not: " << control;
         }
     });

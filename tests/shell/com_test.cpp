@@ -39,27 +39,20 @@ TEST_F(CitizenTest, EveryClassKeepsItsIdentityWhateverIsAskedOfIt) {
     for (const com::ClassEntry& entry : shell::Classes()) {
         const auto object = New<IUnknown>(entry.progId);
         ASSERT_TRUE(object);
-        std::vector<IID> answered;
+        std::vector<com::Ptr<IUnknown>> views;
         for (const IID& iid : kInterfaces) {
             void* raw = this;
             const HRESULT hr = object->QueryInterface(iid, &raw);
-            if (FAILED(hr)) {
-                EXPECT_EQ(raw, nullptr) << "a failed query clears its argument";
-                EXPECT_EQ(hr, E_NOINTERFACE);
-                continue;
-            }
-            const com::Ptr<IUnknown> view(static_cast<IUnknown*>(raw));
-            view->Release();
-            answered.push_back(iid);
-            com::Ptr<IUnknown> identity;
-            EXPECT_EQ(view.As(&identity), S_OK);
-            EXPECT_EQ(identity.Get(), com::Query<IUnknown>(object.Get()).Get());
-            for (const IID& other : answered) {
+            EXPECT_EQ(hr, raw ? S_OK : E_NOINTERFACE) << "a failed query clears its argument";
+            if (FAILED(hr)) continue;
+            views.emplace_back(static_cast<IUnknown*>(raw))->Release();
+            EXPECT_EQ(com::Query<IUnknown>(views.back().Get()).Get(), object.Get());
+            for (const auto& view : views) {
                 com::Ptr<IUnknown> back;
-                EXPECT_EQ(view->QueryInterface(other, reinterpret_cast<void**>(back.GetAddressOf())), S_OK);
+                EXPECT_EQ(view->QueryInterface(iid, reinterpret_cast<void**>(back.GetAddressOf())), S_OK);
             }
         }
-        EXPECT_GE(answered.size(), 3u) << Utf8(entry.progId);
+        EXPECT_GE(views.size(), 3u) << Utf8(entry.progId);
         EXPECT_EQ(object->QueryInterface(IID_IUnknown, nullptr), E_POINTER);
         const auto client = com::Query<IObjectRackClient>(object.Get());
         ASSERT_TRUE(client) << Utf8(entry.progId);
@@ -71,9 +64,6 @@ TEST_F(CitizenTest, EveryClassKeepsItsIdentityWhateverIsAskedOfIt) {
 }
 
 TEST_F(CitizenTest, FactoriesRefuseAggregationAndHoldTheModule) {
-    const auto canUnload = [] {
-        return CallEntryPoint(GetModuleHandleW(L"RecoveryUI.dll"), "DllCanUnloadNow");
-    };
     void* object = this;
     EXPECT_EQ(GetClass(CLSID_NULL, IID_IClassFactory, &object), CLASS_E_CLASSNOTAVAILABLE);
     EXPECT_EQ(object, nullptr);
@@ -88,14 +78,14 @@ TEST_F(CitizenTest, FactoriesRefuseAggregationAndHoldTheModule) {
         EXPECT_EQ(object, nullptr);
         EXPECT_EQ(factory->CreateInstance(nullptr, IID_IUnknown, nullptr), E_POINTER);
     }
-    EXPECT_EQ(canUnload(), S_OK);
+    EXPECT_TRUE(CanUnload());
     {
         const auto factory = Factory(CLSID_RecoveryDlg);
         factory->LockServer(TRUE);
         factory->LockServer(TRUE);
         factory->LockServer(FALSE);
     }
-    EXPECT_EQ(canUnload(), S_FALSE) << "one lock is left";
+    EXPECT_FALSE(CanUnload()) << "one lock is left";
     Factory(CLSID_RecoveryDlg)->LockServer(FALSE);
 }
 

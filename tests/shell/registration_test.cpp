@@ -30,11 +30,8 @@ protected:
         RegDeleteTreeW(HKEY_CURRENT_USER, kBranch);
     }
 
-    static HRESULT Call(const char* entryPoint) {
-        return CallEntryPoint(GetModuleHandleW(L"RecoveryUI.dll"), entryPoint);
-    }
-    static HRESULT Register() { return Call("DllRegisterServer"); }
-    static HRESULT Unregister() { return Call("DllUnregisterServer"); }
+    HRESULT Register() const { return CallEntryPoint(component_, "DllRegisterServer"); }
+    HRESULT Unregister() const { return CallEntryPoint(component_, "DllUnregisterServer"); }
 
     static std::wstring ServerKey(const com::ClassEntry& entry) {
         return L"CLSID\\" + shell::GuidText(*entry.clsid) + L"\\InprocServer32";
@@ -46,15 +43,13 @@ protected:
     static std::wstring Value(const std::wstring& key, const wchar_t* name = L"") {
         wchar_t text[256] = L"";
         DWORD size = sizeof text;
-        const LSTATUS status =
-            RegGetValueW(HKEY_CLASSES_ROOT, key.c_str(), name, RRF_RT_REG_SZ, nullptr, text, &size);
-        return status == ERROR_SUCCESS ? text : L"<none>";
+        RegGetValueW(HKEY_CLASSES_ROOT, key.c_str(), name, RRF_RT_REG_SZ, nullptr, text, &size);
+        return text;
     }
-    static int Count(const std::wstring& key) {
+    static DWORD Count(const std::wstring& key) {
         DWORD count = 0, size = sizeof count;
-        const LSTATUS status = RegGetValueW(HKEY_CLASSES_ROOT, key.c_str(), L"RefCount", RRF_RT_REG_DWORD,
-                                            nullptr, &count, &size);
-        return status == ERROR_SUCCESS ? static_cast<int>(count) : -1;
+        RegGetValueW(HKEY_CLASSES_ROOT, key.c_str(), L"RefCount", RRF_RT_REG_DWORD, nullptr, &count, &size);
+        return count;
     }
     // How many keys there are below the root of the classes, but for the three that belong to all.
     static DWORD Leftovers() {
@@ -87,15 +82,15 @@ TEST_F(RegistrationTest, EveryClassIsFoundByFileNameAndCountedUntilTheLastIsGone
         EXPECT_EQ(Value(progId + L"\\CLSID"), clsid);
         EXPECT_EQ(Value(progId + L".1\\CLSID"), clsid);
         EXPECT_TRUE(shell::OpenKey(HKEY_CLASSES_ROOT, L"CLSID\\" + clsid + L"\\Programmable"));
-        EXPECT_EQ(Count(ServerKey(entry)), 1);
+        EXPECT_EQ(Count(ServerKey(entry)), 1u);
     }
     EXPECT_EQ(Value(LibraryKey()), L"RecoveryUI.dll");
-    EXPECT_EQ(Count(LibraryKey()), 1);
+    EXPECT_EQ(Count(LibraryKey()), 1u);
 
     ASSERT_EQ(Register(), S_OK);
     EXPECT_EQ(Unregister(), S_FALSE) << "another installation still needs it";
-    for (const com::ClassEntry& entry : shell::Classes()) EXPECT_EQ(Count(ServerKey(entry)), 1);
-    EXPECT_EQ(Count(LibraryKey()), 1);
+    for (const com::ClassEntry& entry : shell::Classes()) EXPECT_EQ(Count(ServerKey(entry)), 1u);
+    EXPECT_EQ(Count(LibraryKey()), 1u);
     EXPECT_EQ(Value(LibraryKey()), L"RecoveryUI.dll");
 
     EXPECT_EQ(Unregister(), S_OK);
@@ -109,8 +104,8 @@ TEST_F(RegistrationTest, MissingAndForeignCountsAreZero) {
     RegDeleteKeyValueW(HKEY_CLASSES_ROOT, LibraryKey().c_str(), L"RefCount");
     RegSetKeyValueW(HKEY_CLASSES_ROOT, server.c_str(), L"RefCount", REG_SZ, L"7", 4);
     ASSERT_EQ(Register(), S_OK);
-    EXPECT_EQ(Count(server), 1);
-    EXPECT_EQ(Count(LibraryKey()), 1);
+    EXPECT_EQ(Count(server), 1u);
+    EXPECT_EQ(Count(LibraryKey()), 1u);
     for (const com::ClassEntry& entry : shell::Classes())
         RegDeleteKeyValueW(HKEY_CLASSES_ROOT, ServerKey(entry).c_str(), L"RefCount");
     EXPECT_EQ(Unregister(), S_OK);
