@@ -2,6 +2,7 @@
 
 #include <atomic>
 #include <cstdio>
+#include <fstream>
 #include <thread>
 
 namespace recoveryui::test {
@@ -204,12 +205,11 @@ bool SaveBmp(HWND window, const std::wstring& path) {
         header.bfType = 0x4D42;
         header.bfOffBits = sizeof header + sizeof info.bmiHeader;
         header.bfSize = header.bfOffBits + size;
-        if (std::FILE* const file = _wfopen(path.c_str(), L"wb")) {
-            saved = std::fwrite(&header, sizeof header, 1, file) == 1 &&
-                    std::fwrite(&info.bmiHeader, sizeof info.bmiHeader, 1, file) == 1 &&
-                    std::fwrite(pixels, size, 1, file) == 1;
-            saved = std::fclose(file) == 0 && saved;
-        }
+        std::ofstream file(path.c_str(), std::ios::binary);
+        file.write(reinterpret_cast<const char*>(&header), sizeof header);
+        file.write(reinterpret_cast<const char*>(&info.bmiHeader), sizeof info.bmiHeader);
+        file.write(static_cast<const char*>(pixels), size);
+        saved = file.flush().good();
         SelectObject(memory, before);
         DeleteObject(bitmap);
     }

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "HostInterfaces.h"
+#include "com/SafeArray.h"
 #include "harness/ComTest.h"
 #include "harness/HelpViewer.h"
 #include "harness/ProcessWindows.h"
@@ -11,6 +12,16 @@
 #include "resources/ids.h"
 
 namespace recoveryui::test {
+
+// A safe array of elements that each are made of one of the values, as host objects take it.
+template <class Element, class Value>
+com::CVtlSafeArray<Element> ArrayOf(const std::vector<Value>& values) {
+    com::CVtlSafeArray<Element> array;
+    EXPECT_EQ(array.Create(static_cast<ULONG>(values.size())), S_OK);
+    for (LONG place = 0; const Value& value : values)
+        EXPECT_EQ(array.PutElement(place++, typename com::CVtlSafeArray<Element>::Owner(value)), S_OK);
+    return array;
+}
 
 class ProductTest : public ComTest {
 protected:

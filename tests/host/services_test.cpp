@@ -1,11 +1,7 @@
 // The host's services as the component meets them.
 #include <gtest/gtest.h>
 
-#include "HostInterfaces.h"
-#include "com/SafeArray.h"
-#include "harness/ComTest.h"
-#include "harness/TestSettings.h"
-#include "host/temp_folder.h"
+#include "harness/ProductTest.h"
 #include "objects/Describe.h"
 
 namespace tovarin {
@@ -15,25 +11,13 @@ using namespace recoveryui;
 using com::Bstr;
 using com::Variant;
 
-class HostServices : public test::ComTest {
-protected:
-    std::wstring MakeFolder(const wchar_t* name) {
-        CreateDirectoryW((folder_ / name).c_str(), nullptr);
-        return folder_ / name;
-    }
-    std::wstring MakeFile(const std::wstring& name, const std::string& bytes = {}) {
-        TempFolder::Write(folder_ / name, bytes);
-        return folder_ / name;
-    }
-
-    TempFolder folder_;
-};
+using HostServices = test::ProductTest;
 
 TEST_F(HostServices, TheLocatorLooksInTheTestsFolderThenInTheProducts) {
-    const std::wstring test = MakeFolder(L"test"), product = MakeFolder(L"product"),
-                       repository = MakeFolder(L"repository");
+    const std::wstring test = Path(L"test"), product = Path(L"product"), repository = Path(L"repository");
+    for (const std::wstring& folder : {test, product, repository}) CreateDirectoryW(folder.c_str(), nullptr);
     for (const wchar_t* file : {L"test\\both.vbs", L"product\\both.vbs", L"product\\only.vbs"})
-        MakeFile(file);
+        MakeFile(file, "");
     const auto locator = New<IFileLocator>(L"Tovarin.FileLocator");
     const auto folders = com::Query<IFileLocatorFolders>(locator.Get());
     folders->SetTestFolder(Bstr(test).Get());
@@ -82,19 +66,13 @@ TEST_F(HostServices, TheLocatorLooksInTheTestsFolderThenInTheProducts) {
     EXPECT_EQ(locate(L"[Brevalon] b.vbs"), L"[Brevalon] b.vbs");
 }
 
-class HostOptions : public HostServices {
-protected:
-    test::TestSettings settings_;
-};
+using HostOptions = HostServices;
 
 TEST_F(HostOptions, DefaultsAreRegistryValuesThatForeignHandsMaySpoil) {
     constexpr const wchar_t* kName = L"RecoveryDefScenarios";
     Bstr path;
-    HKEY key = nullptr;
     EXPECT_EQ(settings_.Get()->GetSettingsRegistryPath(path.Put()), S_OK);
-    ASSERT_EQ(RegOpenKeyExW(HKEY_CURRENT_USER, (path.Text() + L"\\ReplayRecovery").c_str(), 0, KEY_ALL_ACCESS,
-                            &key),
-              ERROR_SUCCESS);
+    const std::wstring key = path.Text() + L"\\ReplayRecovery";
     const BYTE odd[] = {'a', 0, 'b', 0, 'c'};
     const struct {
         DWORD type, size;
@@ -105,11 +83,10 @@ TEST_F(HostOptions, DefaultsAreRegistryValuesThatForeignHandsMaySpoil) {
                  {REG_BINARY, 4, L"-"},
                  {REG_DWORD, 3, L"-"}};
     for (const auto& [type, size, text] : cases) {
-        ASSERT_EQ(RegSetValueExW(key, kName, 0, type, odd, size), ERROR_SUCCESS);
+        ASSERT_EQ(RegSetKeyValueW(HKEY_CURRENT_USER, key.c_str(), kName, type, odd, size), ERROR_SUCCESS);
         EXPECT_EQ(settings_.Stored(kName), text) << type << " " << size;
         EXPECT_EQ(settings_.File()->NewTest(), S_OK);
     }
-    RegCloseKey(key);
 }
 
 // Names of the functions, or the code for a library that cannot be opened.

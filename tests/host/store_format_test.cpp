@@ -62,9 +62,9 @@ TEST(StoreFormat, ForeignAndNewerFilesAreToldApart) {
     const auto expectCorrupt = [](const std::string& text) {
         EXPECT_EQ(ReadResult::Corrupt, Read(text)) << text.substr(0, 200);
     };
-    for (const char* text :
-         {"", "[]", "1", "{}", R"({"scenarios": []})", R"({"formatVersion": 1})",
-          R"({"scenarios": [], "formatVersion": 1})", R"({"formatVersion": 2, "anything": )"})
+    for (const char* text : {"", "[]", "1", "{}", "<?xml version=\"1.0\"?><a/>", R"({"scenarios": []})",
+                             R"({"formatVersion": 1})", R"({"scenarios": [], "formatVersion": 1})",
+                             R"({"formatVersion": 2, "anything": )"})
         expectCorrupt(text);
     for (const char* version : {"0", "-2", "2.5", "\"2\"", "[2]"})
         expectCorrupt(with("1,", version + std::string(",")));

@@ -4,7 +4,6 @@
 #include <commctrl.h>
 #include <prsht.h>
 
-#include "harness/Arrays.h"
 #include "harness/ProductTest.h"
 #include "model/LoginName.h"
 

@@ -115,28 +115,7 @@ TEST_F(ObjectPagesTest, WhatIsTypedReachesTheObjectAndNextMakesATriggerOfIt) {
     EXPECT_EQ(Now(), kUntouched) << "cancelled";
 }
 
-TEST_F(ObjectPagesTest, EveryMemberNeedsACheckedProperty) {
-    OnProperties([&](UserScreen& screen, HWND wizard) {
-        screen.Choose(wizard, kTree, L"Login");
-        screen.ToggleRow(wizard, kGrid, L"text");
-        EXPECT_EQ(Now(1), L"text='Log in' enabled=1");
-        screen.Choose(wizard, kTree, L"Name");
-        screen.Next(wizard);
-        EXPECT_EQ(screen.AnswerBox(IDOK), L"At least one property must be checked");
-        EXPECT_EQ(screen.PageTitle(wizard), kPropsTitle);
-        // All of them are there to choose from.
-        EXPECT_EQ(screen.Chosen(wizard, kTree), Rows{L"Login"});
-        EXPECT_EQ(screen.RowsOf(wizard, kGrid), (Rows{L"text | Log in", L"enabled | True"}));
-        Refuse(L"SetPropertyChecked");
-        screen.ToggleRow(wizard, kGrid, L"enabled");
-        EXPECT_FALSE(screen.IsRowChecked(wizard, kGrid, L"enabled")) << "refused";
-        screen.ToggleRow(wizard, kGrid, L"enabled");
-        screen.Next(wizard);
-        EXPECT_EQ(screen.PageTitle(wizard), kOperationsTitle);
-    });
-}
-
-TEST_F(ObjectPagesTest, PropertiesAreAddedAndRemovedInTheirDialog) {
+TEST_F(ObjectPagesTest, PropertiesAreAddedAndRemovedInTheirDialogAndEveryMemberNeedsACheckedOne) {
     constexpr int kAll = IDC_EDIT_PROPERTIES_GRID;
     OnProperties([&](UserScreen& screen, HWND wizard) {
         const auto open = [&] {
@@ -162,6 +141,23 @@ TEST_F(ObjectPagesTest, PropertiesAreAddedAndRemovedInTheirDialog) {
         EXPECT_FALSE(screen.IsEnabled(wizard, IDC_OBJECT_PROPS_VALUE));
         EXPECT_FALSE(screen.IsEnabled(wizard, IDC_OBJECT_PROPS_REGEX));
         screen.Picture(wizard, L"object-props-complex");
+
+        screen.Choose(wizard, kTree, L"Login");
+        screen.ToggleRow(wizard, kGrid, L"text");
+        EXPECT_EQ(Now(1), L"text='Log in' enabled=1");
+        screen.Choose(wizard, kTree, L"Name");
+        screen.Next(wizard);
+        EXPECT_EQ(screen.AnswerBox(IDOK), L"At least one property must be checked");
+        EXPECT_EQ(screen.PageTitle(wizard), kPropsTitle);
+        // All of them are there to choose from.
+        EXPECT_EQ(screen.Chosen(wizard, kTree), Rows{L"Login"});
+        EXPECT_EQ(screen.RowsOf(wizard, kGrid), (Rows{L"text | Log in", L"enabled | True"}));
+        Refuse(L"SetPropertyChecked");
+        screen.ToggleRow(wizard, kGrid, L"enabled");
+        EXPECT_FALSE(screen.IsRowChecked(wizard, kGrid, L"enabled")) << "refused";
+        screen.ToggleRow(wizard, kGrid, L"enabled");
+        screen.Next(wizard);
+        EXPECT_EQ(screen.PageTitle(wizard), kOperationsTitle);
     });
 }
 

@@ -85,44 +85,30 @@ protected:
 };
 
 TEST_F(PointingHandTest, PointingAtAPopUpFillsTheConditionsWithWhatItSays) {
-    const Rows typed{L"typed", L""};
     recorder_->before = {com::Variant(7L), com::Variant(static_cast<IDispatch*>(nullptr)), stranger_};
-    // Where the user clicks, what fails meanwhile, and what the page shows then.
-    const struct {
-        const char* why;
-        HWND at;
-        const wchar_t *object, *failing, *message;
-        HRESULT result;
-        Rows shown;
-    } cases[] = {
-        {"gave up", nullptr, nullptr, nullptr, nullptr, S_OK, typed},
-        {"the recorder fails", login_, L"RecordMgr", L"GetObjectsAtPoint", nullptr, E_FAIL, typed},
-        {"no text at all", login_, L"TestObject", L"GetText", nullptr, S_FALSE, typed},
-        {"nothing that has a text", bare_, nullptr, nullptr, kUnsupported, S_OK, typed},
-        {"the first that has a text",
-         Button(kUnnamed),
-         nullptr,
-         nullptr,
-         nullptr,
-         S_OK,
-         {L"Log in", L"Log in\r\nName:\r\nPassword:"}},
-    };
     OnPage(IDC_SELECT_TRIGGER_POPUP, [&](UserScreen& screen, HWND wizard) {
-        screen.Enter(wizard, IDC_POPUP_TITLE, L"typed");
-        screen.Check(wizard, IDC_POPUP_TITLE_REGEX);
-        for (const auto& c : cases) {
-            if (c.failing) FailCall(c.object, c.failing, c.result);
-            PointAt(screen, wizard, IDC_POPUP_HAND, c.at);
+        const auto point = [&](const char* why, HWND at, const Rows& shown) {
+            PointAt(screen, wizard, IDC_POPUP_HAND, at);
             ClearFaults();
-            if (c.message) {
-                EXPECT_EQ(screen.AnswerBox(IDOK), c.message);
+            if (at == bare_) {
+                EXPECT_EQ(screen.AnswerBox(IDOK), kUnsupported);
             }
             EXPECT_EQ((Rows{screen.Text(wizard, IDC_POPUP_TITLE), screen.Text(wizard, IDC_POPUP_TEXT)}),
-                      c.shown)
-                << c.why;
-            EXPECT_EQ(screen.IsChecked(wizard, IDC_POPUP_TITLE_REGEX), c.shown == typed) << c.why;
-            EXPECT_EQ(screen.IsChecked(wizard, IDC_POPUP_TEXT_CHECK), !c.shown[1].empty()) << c.why;
-        }
+                      shown)
+                << why;
+            EXPECT_EQ(screen.IsChecked(wizard, IDC_POPUP_TITLE_REGEX), shown[0] == L"typed") << why;
+            EXPECT_EQ(screen.IsChecked(wizard, IDC_POPUP_TEXT_CHECK), !shown[1].empty()) << why;
+        };
+        const Rows typed{L"typed", L""};
+        screen.Enter(wizard, IDC_POPUP_TITLE, L"typed");
+        screen.Check(wizard, IDC_POPUP_TITLE_REGEX);
+        point("gave up", nullptr, typed);
+        FailCall(L"RecordMgr", L"GetObjectsAtPoint");
+        point("the recorder fails", login_, typed);
+        FailCall(L"TestObject", L"GetText", S_FALSE);
+        point("no text at all", login_, typed);
+        point("nothing that has a text", bare_, typed);
+        point("the first that has a text", Button(kUnnamed), {L"Log in", L"Log in\r\nName:\r\nPassword:"});
         // What says nothing any more still has a title to go with.
         SetWindowTextW(bare_, L"Bare");
         recorder_->before = {com::Variant(static_cast<IDispatch*>(

@@ -107,13 +107,16 @@ TEST_F(WizardPagesTest, EveryErrorIsOfferedExplainedAndKept) {
         EXPECT_EQ(screen.PageTitle(wizard), L"Select Test Run Error");
     });
     const auto trigger = New<IErrorRecoveryTrigger>(L"Vantrel.ErrorRecoveryTrigger");
-    EXPECT_EQ(trigger->SetErrorCode(static_cast<long>(0x80040299)), S_OK);  // one that nobody knows
-    Edit(trigger.Get());
-    Browse([&](UserScreen& screen, HWND wizard) {
-        NextUntil(screen, wizard, L"Select Test Run Error");
-        EXPECT_EQ(screen.Chosen(wizard, IDC_SELECT_ERROR_LIST), Rows{});
-        EXPECT_FALSE(CanGoOn(screen, wizard));
-    });
+    for (const auto& [code, chosen] :
+         {std::pair{0x80040208u, Rows{L"Object is disabled"}}, std::pair{0x80040299u, Rows{}}}) {
+        EXPECT_EQ(trigger->SetErrorCode(static_cast<long>(code)), S_OK);
+        Edit(trigger.Get());
+        Browse([&, chosen = chosen](UserScreen& screen, HWND wizard) {
+            NextUntil(screen, wizard, L"Select Test Run Error");
+            EXPECT_EQ(screen.Chosen(wizard, IDC_SELECT_ERROR_LIST), chosen);
+            EXPECT_EQ(CanGoOn(screen, wizard), !chosen.empty());
+        });
+    }
 }
 
 TEST_F(WizardPagesTest, ARestartAloneIsAScenarioAndItsSummaryIsWrittenOnce) {
