@@ -61,6 +61,7 @@ TEST_F(HostileOptionsTest, TheTabOpensOnOptionsOfEveryType) {
     } values[] = {
         {OfType(VT_NULL, 0), 0},
         {OfType(VT_R8, -1), 0},
+        {OfType(VT_I2, -1), 0},
         {OfType(VT_BOOL, 5), 0},
         {OfType(VT_BSTR, 0), 0},
         {OfType(VT_DISPATCH, 0), 0},

@@ -114,7 +114,8 @@ TEST_F(ManagerTest, ALockedFileCanOnlyBeLookedAt) {
         SaveAs(screen, manager, Path(L"copy"));
         WaitForFile(screen, manager, Path(L"copy.trs"));
         EXPECT_EQ(Toolbar(screen, manager), L"nePcvd") << "a copy stays what it was";
-        screen.Press(manager, IDC_MANAGER_NEW);
+        screen.Focus(manager, IDC_MANAGER_NEW);
+        screen.Keys({VK_RETURN});
         EXPECT_EQ(Toolbar(screen, manager), L"NepcVd");
     });
     EXPECT_EQ(NamesInFile(Path(L"copy.trs")), (Rows{L"one", L"two"}));
@@ -208,8 +209,10 @@ TEST_F(ManagerTest, KeysMenusAndDroppedFilesDoWhatTheButtonsDo) {
         screen.Focus(manager, IDC_MANAGER_LIST);
         screen.RealKeys({VK_F1});
         EXPECT_EQ(help_->Take(), topics::kManager + std::wstring(L" ") + topics::kManager);
-        screen.Type(L"tw");
-        EXPECT_EQ(Chosen(screen, manager), L"two");
+        for (const wchar_t* typed : {L"tw", L"#"}) {
+            screen.Type(typed);
+            EXPECT_EQ(Chosen(screen, manager), L"two") << "no name begins with #";
+        }
         screen.RealKeys({VK_MENU, VK_RETURN});
         screen.Press(screen.WaitForWindow(L"Recovery Scenario Properties"), IDCANCEL);
 

@@ -70,6 +70,12 @@ TEST_F(RecoveryTabTest, ScenariosOfTwoFilesAreAddedOrderedSwitchedOffAndFoundAga
         EXPECT_EQ(screen.Chosen(frame, kList), Rows{otherPopup});
         screen.RealKeys({VK_MENU, VK_DOWN});
         EXPECT_EQ(screen.RowsOf(frame, kList), (Rows{crash, otherPopup, popup, error}));
+        // A second quick click is a click.
+        const HWND down = screen.Control(frame, IDC_RECOVERY_DOWN);
+        for (const UINT message : {WM_LBUTTONDOWN, WM_LBUTTONUP, WM_LBUTTONDBLCLK, WM_LBUTTONUP})
+            screen.Do([=] { PostMessageW(down, message, 0, 0); });
+        EXPECT_EQ(screen.RowsOf(frame, kList), (Rows{crash, popup, error, otherPopup}));
+        for (int i = 0; i < 2; ++i) screen.RealKeys({VK_MENU, VK_UP});
         screen.Keys({VK_SPACE});
         for (int twice = 0; twice < 2; ++twice) screen.ToggleRow(frame, kList, crash);
         EXPECT_TRUE(screen.IsRowChecked(frame, kList, crash));
@@ -80,6 +86,9 @@ TEST_F(RecoveryTabTest, ScenariosOfTwoFilesAreAddedOrderedSwitchedOffAndFoundAga
         EXPECT_EQ(Buttons(screen, frame).back(), '.');
         screen.Choose(frame, IDC_RECOVERY_ACTIVATION, L"On every step");
         EXPECT_EQ(Buttons(screen, frame).back(), 'S');
+        screen.Choose(frame, IDC_RECOVERY_ACTIVATION, L"On error");
+        EXPECT_EQ(Buttons(screen, frame).back(), '.');
+        screen.Choose(frame, IDC_RECOVERY_ACTIVATION, L"On every step");
         screen.Press(frame, kFrameApply);
     });
     EXPECT_EQ(settings_.Stored(L"RecoveryScenarios"),

@@ -145,8 +145,13 @@ TEST_F(CitizenTest, TheLibraryDescribesEveryClassInterfaceAndMember) {
 }
 
 TEST_F(CitizenTest, EveryClassIsCalledByName) {
-    for (const com::ClassEntry& entry : shell::Classes())
-        EXPECT_TRUE(New<IDispatch>(entry.progId)) << Utf8(entry.progId);
+    for (const com::ClassEntry& entry : shell::Classes()) {
+        const auto object = New<IDispatch>(entry.progId);
+        ASSERT_TRUE(object) << Utf8(entry.progId);
+        UINT descriptions = 0;
+        EXPECT_EQ(object->GetTypeInfoCount(&descriptions), S_OK);
+        EXPECT_EQ(descriptions, 1u);
+    }
     // The interface that is not dual, by the names of its description.
     const Rack rack;
     const auto page = New<IObjectRackClient>(L"Vantrel.RecoveryPPSpecifier");

@@ -1,6 +1,7 @@
 // "Select Object" and "Set Object Properties and Values" as their users meet them.
 #include "model/LoginName.h"
 #include "objects/Journal.h"
+#include "support/HelpTopics.h"
 #include "wizard/WizardTest.h"
 
 namespace recoveryui::test {
@@ -127,6 +128,8 @@ TEST_F(ObjectPagesTest, PropertiesAreAddedAndRemovedInTheirDialogAndEveryMemberN
                   (Rows{L"text | Your name", L"x | 12", L"items | [complex value]", L"visible | True"}));
         EXPECT_TRUE(screen.IsRowChecked(dialog, kAll, L"x"));
         EXPECT_FALSE(screen.IsRowChecked(dialog, kAll, L"items"));
+        screen.RealKeys({VK_F1});
+        EXPECT_EQ(help_->Take(), support::topics::kObjectProps);
         screen.ToggleRow(dialog, kAll, L"items");
         screen.Press(dialog, IDCANCEL);
         EXPECT_EQ(Now(), kUntouched);

@@ -154,6 +154,9 @@ TEST_F(PointingHandTest, PointingAtADialogOffersTheLabelsOfItsButtons) {
             CalledInOrder({L"ObjectAccessorRecoveryAction.Create", L".SetTargetKind(2)",
                            L".SetMethodName(\"PseudoMethod_SubButton_EC782BF2-CCE6-4d77-AC31-14EC4C8AF2AC\")",
                            L".SetMethodArguments([\"Cancel\", \"Click\"])"}));
+        screen.Choose(wizard, IDC_OPERATION_LIST_ROWS, L"Keyboard click");
+        screen.Press(wizard, IDC_OPERATION_LIST_DELETE);
+        EXPECT_TRUE(screen.RowsOf(wizard, IDC_OPERATION_LIST_ROWS).empty());
     });
 }
 
