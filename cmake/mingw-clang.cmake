@@ -12,6 +12,8 @@ if(NOT EXISTS ${CMAKE_SYSROOT}/${gcc_folder}/${gcc_version})
   file(CREATE_LINK /usr/${MINGW_TRIPLET} ${CMAKE_SYSROOT}/${MINGW_TRIPLET} SYMBOLIC)
 endif()
 
+# The one whose tables the tests read; its own prints others.
+set(CMAKE_OBJDUMP ${MINGW_TRIPLET}-objdump CACHE FILEPATH "")
 set(CMAKE_C_COMPILER clang)
 set(CMAKE_CXX_COMPILER clang++)
 set(CMAKE_C_COMPILER_TARGET ${MINGW_TRIPLET})
