@@ -116,7 +116,6 @@ bool ManagerDlg::OnNotify(NMHDR& header, LRESULT& answer) {
             if (change.iItem < 0 || (change.uNewState ^ change.uOldState) & LVIS_SELECTED) UpdateSelection();
             return true;
         }
-        case LVN_ODSTATECHANGED: UpdateSelection(); return true;
         case NM_DBLCLK:
         case NM_RETURN: OnActivateRow(); return true;
         default: return list_.OnNotify(header, answer);

@@ -114,7 +114,6 @@ bool RecoveryTab::OnListNotify(NMHDR& header, LRESULT& answer) {
             if ((change.uNewState ^ change.uOldState) & LVIS_SELECTED) UpdateSelection();
             return true;
         }
-        case LVN_ODSTATECHANGED: UpdateSelection(); return true;
         case NM_CLICK:
         case NM_DBLCLK:
             Toggle(view_.ClickedCheckBox(reinterpret_cast<const NMITEMACTIVATE&>(header)));
