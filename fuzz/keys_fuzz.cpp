@@ -75,11 +75,15 @@ void Numbers(Input input) {
     }
     const auto bits = input.Byte();
     const auto event = static_cast<settings::FrameEvent>(input.Below(8));
-    const auto decision = settings::Decide(
-        event, {(bits & 1) != 0, (bits & 2) != 0, (bits & 4) != 0, (bits & 8) != 0, (bits & 16) != 0});
-    Require(decision == settings::Decide(event, {(bits & 1) != 0, (bits & 2) != 0, (bits & 4) != 0,
-                                                 (bits & 8) != 0, (bits & 16) != 0}),
-            "the same event is decided alike");
+    const settings::FrameFlags flags{(bits & 1) != 0, (bits & 2) != 0, (bits & 4) != 0, (bits & 8) != 0,
+                                     (bits & 16) != 0};
+    const auto decision = settings::Decide(event, flags);
+    Require(decision.swallow == (decision.box != settings::FrameBox::None), "what is held back is explained");
+    Require(!decision.swallow || (flags.forceSORConfiguration && !flags.wasSORConfigured),
+            "nothing is held back that is configured");
+    Require(!flags.readOnlyMode ||
+                (!decision.applyEnabled.value_or(false) && !decision.okEnabled.value_or(false)),
+            "nothing is applied where nothing may be written");
 }
 
 }  // namespace

@@ -6,6 +6,7 @@
 
 #include <algorithm>
 #include <cstdio>
+#include <map>
 #include <random>
 #include <stdexcept>
 #include <utility>
@@ -18,13 +19,24 @@
 #include "proof/ImportTable.h"
 #include "proof/Openings.h"
 #include "proof/Options.h"
+#include "resources/ids.h"
 
 namespace recoveryui::proof {
 namespace {
 
 constexpr DWORD kPatience = 15'000;
 constexpr int kInputsOfOneOpening = 400, kInputsAtOnce = 24;
-constexpr DWORD kCrashed = 99;  // the exit code of a process that crashed
+
+// What must be found, and what must be said of it.
+constexpr struct {
+    void (*misbehave)();
+    const char* sign;
+} kPlanted[] = {
+    {[] { RaiseException(EXCEPTION_ACCESS_VIOLATION, 0, 0, nullptr); }, "CRASH: exception 0xC0000005"},
+    {[] { Sleep(kPatience + 3000); }, "PROBLEM no answer for a long time"},
+    {[] { CreateWindowW(L"Static", L"left", WS_POPUP, 0, 0, 9, 9, nullptr, nullptr, nullptr, nullptr); },
+     "PROBLEM left behind: "},
+};
 
 class Monkey {
 public:
@@ -40,6 +52,10 @@ public:
         test::RestartWatchdog();
         return inputs_ - before;
     }
+    // The inputs to each window, or page of one.
+    const std::map<std::string, long>& Places() const { return places_; }
+    // The longest that the windows took to answer some inputs.
+    ULONGLONG Longest() const { return longest_; }
 
 private:
     unsigned Below(unsigned limit) { return random_() % limit; }
@@ -77,7 +93,9 @@ private:
         if (isMenu && Below(4) == 0)
             return player.Do([=] { PostMessageW(window, WM_KEYDOWN, VK_ESCAPE, 1); });
         controls_ = test::Descendants(window);
-        --inputs_;
+        const long before = --inputs_;
+        const std::string place = PlaceOf(window);
+        const ULONGLONG begun = GetTickCount64();
         // Nothing reaches a window that a message box or its end has taken from the user.
         player.DoWhile([=, this, left = kInputsAtOnce]() mutable {
             if (left-- == 0 || !IsWindowVisible(window) || !IsWindowEnabled(window)) return false;
@@ -90,6 +108,18 @@ private:
             }
             return true;
         });
+        longest_ = std::max(longest_, GetTickCount64() - begun);
+        places_[place] += inputs_ - before;
+    }
+    std::string PlaceOf(HWND window) const {
+        if (GetDlgItem(window, test::kBoxText)) return "a message box";
+        std::wstring page;
+        for (const HWND control : controls_)
+            if (IsWindowVisible(control) && (GetDlgCtrlID(control) == IDC_PAGE_TITLE ||
+                                             (page.empty() && test::ClassOf(control) == L"#32770")))
+                page = L", " + test::TextOf(control);
+        const std::wstring title = test::TextOf(window);
+        return test::Utf8((title.empty() ? test::ClassOf(window) : title) + page);
     }
     // As the system does it: keys go to the focus, and to no window that has been hidden with its page
     // meanwhile. (The platform looks for mnemonics in a circle from the window with the key, endlessly where
@@ -171,6 +201,8 @@ private:
     std::mt19937 random_;
     bool raw_;
     long inputs_ = 0;
+    ULONGLONG longest_ = 0;
+    std::map<std::string, long> places_;
     std::vector<HWND> controls_;
 };
 
@@ -226,8 +258,8 @@ int PlayMonkey(const Options& options) {
             Actor actor(kPatience, [] {});
             openings.Open(opening % dialogs, actor, [&](Player& player, HWND window) {
                 inputs += monkey.Use(player, window);
-                if (options.Number(L"--plant", 0))
-                    player.Do([] { RaiseException(EXCEPTION_ACCESS_VIOLATION, 0, 0, nullptr); });
+                if (const long plant = options.Number(L"--plant", 0))
+                    player.Do(kPlanted[plant - 1].misbehave);
             });
             for (const std::string& problem : actor.Problems()) std::printf("PROBLEM %s\n", problem.c_str());
             problems += static_cast<int>(actor.Problems().size());
@@ -237,11 +269,13 @@ int PlayMonkey(const Options& options) {
         const auto differs = [&](const char* name) {
             return after.others.at(name) != before.others.at(name);
         };
-        if (differs("live component") || differs("windows")) {
+        if (differs("live component") || differs("live stand-ins") || differs("windows")) {
             std::printf("PROBLEM left behind: %s\n", after.Against(before).c_str());
             ++problems;
         }
     }
+    for (const auto& [place, count] : monkey.Places()) std::printf("place %ld %s\n", count, place.c_str());
+    std::printf("longest %llu\n", monkey.Longest());
     std::printf("made %ld\n", inputs);
     TerminateProcess(GetCurrentProcess(), problems ? 1 : 0);
     return 0;
@@ -252,35 +286,48 @@ int Monkeys(const Options& options) {
                ofOne = 20'000;
     const bool raw = options.Number(L"--raw", 0) != 0;
     const ULONGLONG begun = GetTickCount64();
-    long made = 0;
+    long made = 0, longest = 0;
     int problems = 0, processes = 0;
-    // A process of its own for some of the inputs; gives its exit code.
-    const auto play = [&](long inputs, long own, bool plant) {
+    std::map<std::string, long> places;
+    // A process of its own for some of the inputs; gives what was wrong.
+    const auto play = [&](long inputs, long own, size_t plant) {
         const std::wstring arguments = L"monkey --raw " + std::to_wstring(raw) + L" --inputs " +
                                        std::to_wstring(inputs) + L" --seed " + std::to_wstring(own) +
                                        L" --plant " + std::to_wstring(plant);
         std::string said;
         const DWORD code = test::RunChild(arguments, [&](const std::string& line) {
-            if (line.rfind("made ", 0) == 0) made += std::stol(line.substr(5));
-            // Of the openings, the last one is told.
-            if (line.find(" after ") == line.npos) {
+            long count = 0;
+            int end = 0;
+            if (std::sscanf(line.c_str(), "made %ld", &count) == 1) {
+                if (!plant) made += count;
+            } else if (std::sscanf(line.c_str(), "longest %ld", &count) == 1) {
+                if (!plant) longest = std::max(longest, count);
+            } else if (std::sscanf(line.c_str(), "place %ld %n", &count, &end) == 1) {
+                if (!plant) places[line.substr(static_cast<size_t>(end))] += count;
+            } else if (line.find(" after ") == line.npos) {
                 said += "\n    " + line;
             } else if (said.find("PROBLEM") == said.npos) {
-                said = "\n    in the " + line;
+                said = "\n    in the " + line;  // of the openings, the last one is told
             }
         });
-        if (code != 0 && !plant)
-            std::printf("  PROBLEM code %lu%s\n    again: prove %s\n", code, said.c_str(),
-                        test::Utf8(arguments).c_str());
-        return code;
+        if (code == 0) return std::string();
+        said = "code " + std::to_string(code) + said;
+        if (!plant)
+            std::printf("  PROBLEM %s\n    again: prove %s\n", said.c_str(), test::Utf8(arguments).c_str());
+        return said;
     };
     for (long done = 0; done < wanted; done += ofOne, ++processes)
-        problems += play(std::min(ofOne, wanted - done), seed + processes, false) != 0;
-    const bool found = play(10, seed, true) == kCrashed;
-    std::printf("PROOF monkeys: %ld %s in %d processes, %d problems; planted crash %s; seed %ld, %llu s\n",
-                made, raw ? "raw messages" : "valid inputs", processes, problems,
-                found ? "found" : "NOT FOUND", seed, (GetTickCount64() - begun) / 1000);
-    return problems == 0 && found ? 0 : 1;
+        problems += !play(std::min(ofOne, wanted - done), seed + processes, 0).empty();
+    size_t found = 0;
+    for (size_t plant = 1; plant <= std::size(kPlanted); ++plant)
+        found += play(10, seed, plant).find(kPlanted[plant - 1].sign) != std::string::npos;
+    for (const auto& [place, count] : places) std::printf("  %7ld %s\n", count, place.c_str());
+    std::printf(
+        "PROOF monkeys: %ld %s at %zu places in %d processes, %d problems, the slowest answer after %ld ms; "
+        "planted %zu, found %zu; seed %ld, %llu s\n",
+        made, raw ? "raw messages" : "valid inputs", places.size(), processes, problems, longest,
+        std::size(kPlanted), found, seed, (GetTickCount64() - begun) / 1000);
+    return problems == 0 && found == std::size(kPlanted) ? 0 : 1;
 }
 
 }  // namespace recoveryui::proof

@@ -47,6 +47,10 @@ const std::vector<Journey> plantedJourneys = {
          CreateWindowW(L"Static", L"left", WS_POPUP, 0, 0, 9, 9, nullptr, nullptr, nullptr, nullptr);
      }>,
      "left behind: windows +1"},
+    {"planted-object", Plant<[](std::wstring&, bool&) { New<IUnknown>(L"Tovarin.RecordMgr").Detach(); }>,
+     "left behind: live stand-ins +1"},
+    {"planted-string", Plant<[](std::wstring&, bool&) { SysAllocString(L"lost"); }>,
+     "left behind: task memory blocks +1"},
     {"planted-half", Plant<[](std::wstring& state, bool&) { state = L"half"; }>,
      "neither the old nor the new state"},
     {"planted-success", Plant<[](std::wstring& state, bool& success) {

@@ -1,7 +1,7 @@
 // Saves one recovery file again and again, until it is killed. It holds nothing but the store, so that
 // thousands of it can die in a short time.
 //   saver loop|bad-loop FILE         saves the next version for ever; "bad" overwrites the file in place
-//   saver die FILE CALL              ends itself at the given place of its next save: 1 before the first call
+//   saver die|bad-die FILE CALL      ends itself at the given place of its next save: 1 before the first call
 //                                    of the file system, 2 after it, 3 before the second ... 0: counts them
 //   saver race|bad-race FILE ROUNDS  opens for editing, saves and lets go; tells which version it replaced;
 //                                    "bad" only looks at what it then replaces
@@ -69,7 +69,7 @@ bool OverwriteInPlace(const std::wstring& path, const std::string& bytes) {
     if (file == INVALID_HANDLE_VALUE) return false;
     DWORD written = 0;
     for (size_t at = 0; at < bytes.size(); at += written)
-        WriteFile(file, bytes.data() + at, static_cast<DWORD>(std::min<size_t>(512, bytes.size() - at)),
+        WriteFile(file, bytes.data() + at, static_cast<DWORD>(std::min<size_t>(2048, bytes.size() - at)),
                   &written, nullptr);
     return CloseHandle(file);
 }
@@ -84,18 +84,19 @@ int Loop(const std::wstring& path, bool bad) {
     }
 }
 
-int Die(const std::wstring& path, long at) {
+int Die(const std::wstring& path, long at, bool bad) {
     CatchFileCalls();
     tovarin::StoreFile file;
     std::string bytes;
-    const HRESULT opened = file.Open(path, false, bytes);
+    const HRESULT opened = file.Open(path, bad, bytes);
     if (FAILED(opened) && opened != STG_E_FILENOTFOUND) return 1;
     dieAt = at;
     isSaving = true;
-    const HRESULT hr = file.Save(path, TextOfVersion(VersionOf(bytes) + 1));
+    const std::string text = TextOfVersion(VersionOf(bytes) + 1);
+    const bool saved = bad ? OverwriteInPlace(path, text) : SUCCEEDED(file.Save(path, text));
     isSaving = false;
     std::printf("places %ld\n", place);
-    return FAILED(hr) ? 2 : 0;
+    return saved ? 0 : 2;
 }
 
 int Race(const std::wstring& path, long rounds, bool bad) {
@@ -132,5 +133,6 @@ int wmain(int count, wchar_t** arguments) {
     if (way == L"loop" || way == L"bad-loop") return Loop(path, way == L"bad-loop");
     if (count < 4) return 3;
     const long number = _wtol(arguments[3]);
-    return way == L"die" ? Die(path, number) : Race(path, number, way == L"bad-race");
+    const bool bad = way.starts_with(L"bad-");
+    return way.ends_with(L"die") ? Die(path, number, bad) : Race(path, number, bad);
 }
