@@ -48,9 +48,7 @@ void PrintPlace(DWORD64 address) {
     std::printf("  %s + 0x%llx\n", Utf8(name).c_str(), address - reinterpret_cast<DWORD64>(module));
 }
 
-LONG WINAPI OnCrash(EXCEPTION_POINTERS* crash) {
-    std::printf("CRASH: exception 0x%08lX\n", crash->ExceptionRecord->ExceptionCode);
-    CONTEXT frame = *crash->ContextRecord;
+void PrintStack(CONTEXT frame) {
     for (int depth = 0; depth < 24 && frame.Rip; ++depth) {
         PrintPlace(frame.Rip);
         DWORD64 base = 0, establisher = 0;
@@ -69,6 +67,11 @@ LONG WINAPI OnCrash(EXCEPTION_POINTERS* crash) {
         RtlVirtualUnwind(UNW_FLAG_NHANDLER, base, frame.Rip, function, &frame, &handlerData, &establisher,
                          nullptr);
     }
+}
+
+LONG WINAPI OnCrash(EXCEPTION_POINTERS* crash) {
+    std::printf("CRASH: exception 0x%08lX\n", crash->ExceptionRecord->ExceptionCode);
+    PrintStack(*crash->ContextRecord);
     TerminateProcess(GetCurrentProcess(), 99);
     return EXCEPTION_EXECUTE_HANDLER;
 }
@@ -166,6 +169,7 @@ std::string DescribeWindows() {
 }
 
 void CloseWindows() {
+    static int refusals = 0;
     for (const HWND window : TopLevelWindows()) {
         if (!IsWindowVisible(window) || !IsWindowEnabled(window)) continue;
         WORD answer = 0;
@@ -173,6 +177,8 @@ void CloseWindows() {
             const HWND button = GetDlgItem(window, id);
             if (button && IsWindowVisible(button) && IsWindowEnabled(button)) answer = id;
         }
+        // Where Cancel only takes the closing back, the question comes again until it is answered with OK.
+        if (answer == IDCANCEL && GetDlgItem(window, kBoxText) && ++refusals % 8 == 0) answer = IDOK;
         if (ClassOf(window) == L"#32768") {
             PostMessageW(window, WM_CANCELMODE, 0, 0);
         } else if (answer) {
@@ -220,9 +226,17 @@ bool SaveBmp(HWND window, const std::wstring& path) {
 
 void StartWatchdog(unsigned seconds) {
     RestartWatchdog();
-    std::thread([seconds] {
+    HANDLE watched = nullptr;
+    DuplicateHandle(GetCurrentProcess(), GetCurrentThread(), GetCurrentProcess(), &watched, 0, FALSE,
+                    DUPLICATE_SAME_ACCESS);
+    std::thread([=] {
         while (GetTickCount64() < testStarted + seconds * 1000ULL) Sleep(100);
         std::printf("WATCHDOG: nothing ended within %u seconds\n%s", seconds, DescribeWindows().c_str());
+        std::fflush(stdout);
+        CONTEXT frame{};
+        frame.ContextFlags = CONTEXT_FULL;
+        SuspendThread(watched);
+        if (GetThreadContext(watched, &frame)) PrintStack(frame);
         TerminateProcess(GetCurrentProcess(), 98);
     }).detach();
 }
