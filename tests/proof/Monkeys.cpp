@@ -26,7 +26,7 @@ namespace {
 
 constexpr DWORD kPatience = 15'000;
 constexpr int kInputsOfOneOpening = 400, kInputsAtOnce = 24;
-constexpr long kWizardPages = 15;
+constexpr long kWizardPages = 15, kLongestAnswer = 5'000;
 
 // What must be found, and what must be said of it.
 constexpr struct {
@@ -324,6 +324,10 @@ int Monkeys(const Options& options) {
     };
     for (long done = 0; done < wanted; done += ofOne, ++processes)
         problems += !play(std::min(ofOne, wanted - done), seed + processes, 0).empty();
+    if (longest > kLongestAnswer) {
+        std::printf("  PROBLEM an answer took %ld ms\n", longest);
+        ++problems;
+    }
     size_t found = 0;
     for (size_t plant = 1; plant <= std::size(kPlanted); ++plant)
         found += play(10, seed, plant).find(kPlanted[plant - 1].sign) != std::string::npos;
