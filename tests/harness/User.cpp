@@ -110,11 +110,11 @@ void PumpUntil(HANDLE signal) {
     // Messages that somebody has looked at without taking them count as well.
     while (MsgWaitForMultipleObjectsEx(1, &signal, INFINITE, QS_ALLINPUT, MWMO_INPUTAVAILABLE) !=
            WAIT_OBJECT_0) {
+        // One at a time, for they may never cease.
         MSG message;
-        while (PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE)) {
-            TranslateMessage(&message);
-            DispatchMessageW(&message);
-        }
+        if (!PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE)) continue;
+        TranslateMessage(&message);
+        DispatchMessageW(&message);
     }
 }
 

@@ -116,16 +116,15 @@ bool Wait(DWORD milliseconds) {
     for (ULONGLONG now = GetTickCount64(); now < end; now = GetTickCount64()) {
         MsgWaitForMultipleObjectsEx(0, nullptr, static_cast<DWORD>(end - now), QS_ALLINPUT,
                                     MWMO_INPUTAVAILABLE);
+        // One at a time, for they may never cease.
         MSG message;
-        // Not for ever where messages never cease.
-        while (GetTickCount64() < end && PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE)) {
-            if (message.message == WM_QUIT) {
-                PostQuitMessage(static_cast<int>(message.wParam));
-                return false;
-            }
-            TranslateMessage(&message);
-            DispatchMessageW(&message);
+        if (!PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE)) continue;
+        if (message.message == WM_QUIT) {
+            PostQuitMessage(static_cast<int>(message.wParam));
+            return false;
         }
+        TranslateMessage(&message);
+        DispatchMessageW(&message);
     }
     return true;
 }
